@@ -1,0 +1,11 @@
+#pragma once
+
+/// The part of the machine that a user-log entry speaks of. Logs and hosts carry the numbers: they never change.
+enum EDiagnosticComponent : int
+{
+    DIAG_COMPONENT_CONSOLE = 0,
+    DIAG_COMPONENT_GPS_RECEIVER = 1,
+    DIAG_COMPONENT_STEERING_CONTROLLER = 2,
+    DIAG_COMPONENT_IMPLEMENT = 3,
+    DIAG_COMPONENT_NONE = 4,
+};

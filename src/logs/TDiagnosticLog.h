@@ -1,0 +1,115 @@
+#pragma once
+
+#include "platform/EParamID.h"
+#include "platform/Export.h"
+
+#include <QFile>
+#include <QFileInfoList>
+#include <QString>
+
+#include <vector>
+
+/// A text log kept as a numbered series of files in one folder, with a limit on the size of a file and on the number of
+/// files, and an optional staging buffer that gathers small writes.
+///
+/// A base path of /logs/user.log gives /logs/user00001.log, /logs/user00002.log and so on; 99999 is followed by 00001.
+/// Every file of the folder whose name starts with "user" and ends with ".log" belongs to the series.
+///
+/// No operation reports anywhere but in its result. Has no lock of its own: callers go through the façades
+/// (TUserDiagnosticLogProxy, TNEMADiagnosticLogProxy), which serialise the calls.
+class CABSETTINGS_EXPORT TDiagnosticLog
+{
+public:
+    /// Result of an export.
+    struct tagExportResult
+    {
+        int filesFound;   ///< files of the series
+        int filesHandled; ///< files tried, whether copied or not
+        bool allCopied;   ///< every file found was copied; false when the log's folder does not exist
+    };
+
+    /// @param stagingSize bytes of the staging buffer; 0 writes every entry straight to the file.
+    /// @param maxFileSize bytes; a file that has grown past it is followed by the next one.
+    /// @param maxFileCount files kept; 1 names a single file, without a number.
+    /// @param iterationParam parameter that holds the number of the next file, read here and written whenever a number
+    ///        is taken. That write happens inside the calls below, under the façade's lock: the store must not log.
+    TDiagnosticLog(int stagingSize, long long maxFileSize, int maxFileCount, EParamID iterationParam);
+
+    /// Closes the log; what is staged is written.
+    virtual ~TDiagnosticLog();
+
+    TDiagnosticLog(const TDiagnosticLog&) = delete;
+    TDiagnosticLog& operator=(const TDiagnosticLog&) = delete;
+
+    /// Names the series and opens its current file. False, changing nothing, when the log is open already, and false
+    /// when the folder does not exist (it is never made here) or the file cannot be opened: the log is then closed.
+    /// @param maxFileCount files kept, 0 for the constructor's number.
+    /// @param maxFileSize bytes, 0 for the constructor's limit.
+    bool Restore(const QString& basePath, int maxFileCount, long long maxFileSize);
+
+    /// Opens the current file at its end. False when the log is open already, was never restored, or cannot be opened.
+    bool Open();
+
+    /// Writes what is staged and closes the file.
+    void Close();
+
+    /// Closes the file; what is staged stays staged, and is dropped by the next flush of a closed log.
+    void CloseWithoutFlush();
+
+    /// Stages @p length bytes, or writes them when they do not fit into what is left of the staging buffer. False when
+    /// the log is closed or not everything was written.
+    bool LogDiagnostic(const char* data, int length);
+
+    /// Writes what is staged. False when nothing was staged, the log is closed, or not everything was written; the
+    /// staging buffer is empty afterwards in every case.
+    bool FlushTempBuffer();
+
+    /// Writes past the staging buffer, and starts the next file of the series when this one has grown past its limit.
+    /// False when the log is closed, not everything was written (the file stays open), or the next file cannot be
+    /// opened.
+    bool WriteToLog(const char* data, int length);
+
+    /// Logs one line: local date and time ("2024.05.01-13:07:09:042,"), @p text in Latin-1 (other characters become
+    /// "?"), carriage return, line feed. Result as of LogDiagnostic().
+    bool AddEntry(const QString& text);
+
+    /// Copies every file of the series, complete, into the folder @p target, overwriting, and opens the log again.
+    tagExportResult Export(const QString& target);
+
+    /// The copying alone, oldest file first. One that fails does not keep the others from being copied.
+    tagExportResult ExportFile(const QString& target);
+
+    /// The file to log to next: the newest of the series while it has room, else a new one, for which the oldest is
+    /// removed when there are too many. Empty when the folder does not exist.
+    QString GenerateNextFileName();
+
+    /// Takes the next number of the series, in five digits.
+    QString NextLogFileIterationNumber();
+
+private:
+    struct tagSeries
+    {
+        QString folder; ///< up to and including the last "/", empty for the current folder
+        QString stem;
+        QString extension; ///< with its dot
+
+        int NumberOf(const QString& fileName, bool* isNumbered) const;
+    };
+
+    static tagSeries SeriesOf(const QString& basePath);
+    QFileInfoList FilesOldestFirst(const tagSeries& series) const;
+
+    std::vector<char> m_Staging;
+    int m_StagingFill;
+    QFile m_File;
+    bool m_IsOpen;
+    int m_StagingSize;
+    long long m_DefaultMaxFileSize;
+    long long m_MaxFileSize;
+    QString m_BasePath;
+    QString m_FileName;
+    int m_DefaultMaxFileCount;
+    int m_MaxFileCount;
+    EParamID m_IterationParam;
+    int m_Iteration;
+};

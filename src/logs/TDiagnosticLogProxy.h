@@ -1,0 +1,28 @@
+#pragma once
+
+#include "logs/TDiagnosticLog.h"
+#include "platform/Export.h"
+#include "settings/TLockedTarget.h"
+
+#include <QString>
+
+/// Base of the log façades: forwards to one log, under the lock of the derived class. See TDiagnosticLog for what each
+/// operation does.
+class CABSETTINGS_EXPORT TDiagnosticLogProxy
+{
+public:
+    explicit TDiagnosticLogProxy(TDiagnosticLog& log);
+    virtual ~TDiagnosticLogProxy();
+
+    virtual bool Restore(const QString& basePath, int maxFileCount, long long maxFileSize);
+    virtual TDiagnosticLog::tagExportResult Export(const QString& target);
+    virtual void Close();
+    virtual bool AddEntry(const QString& text);
+    virtual bool LogDiagnostic(const char* data, int length);
+
+    virtual void Lock() = 0;
+    virtual void Unlock() = 0;
+
+protected:
+    TLockedTarget<TDiagnosticLog> m_Log;
+};

@@ -1,0 +1,42 @@
+#include "region/TRegionSettings.h"
+#include "settings/Parameters.h"
+
+namespace {
+
+const char* const MonthNames[] = {
+    QT_TRANSLATE_NOOP("TRegionSettings", "Jan"), QT_TRANSLATE_NOOP("TRegionSettings", "Feb"),
+    QT_TRANSLATE_NOOP("TRegionSettings", "Mar"), QT_TRANSLATE_NOOP("TRegionSettings", "Apr"),
+    QT_TRANSLATE_NOOP("TRegionSettings", "May"), QT_TRANSLATE_NOOP("TRegionSettings", "Jun"),
+    QT_TRANSLATE_NOOP("TRegionSettings", "Jul"), QT_TRANSLATE_NOOP("TRegionSettings", "Aug"),
+    QT_TRANSLATE_NOOP("TRegionSettings", "Sep"), QT_TRANSLATE_NOOP("TRegionSettings", "Oct"),
+    QT_TRANSLATE_NOOP("TRegionSettings", "Nov"), QT_TRANSLATE_NOOP("TRegionSettings", "Dec"),
+};
+
+} // namespace
+
+QString TRegionSettings::GetTimeString() const
+{
+    const char* const format = Parameters::ReadBool(PARAM_24_HOUR_CLOCK) ? "HH:mm:ss" : "hh:mm:ss ap";
+    return GetTime().toString(QLatin1String(format));
+}
+
+QString TRegionSettings::GetDateString(QDate date) const
+{
+    const int month = date.month();
+    const QString monthText = month >= 1 && month <= 12 ? tr(MonthNames[month - 1]) : QString();
+    const QString day = QString::number(date.day());
+    const QString dayAndMonth = Parameters::ReadBool(PARAM_MONTH_FIRST) ? monthText + QLatin1Char(' ') + day
+                                                                        : day + QLatin1Char(' ') + monthText;
+    return dayAndMonth + QLatin1String(", ") + QString::number(date.year());
+}
+
+QString TRegionSettings::GetDateString() const { return GetDateString(GetDate()); }
+QString TRegionSettings::GetDateTimeString() const { return StampedWith("hhmm"); }
+QString TRegionSettings::GetDateTimeStringWithSeconds() const { return StampedWith("hhmmss"); }
+
+QString TRegionSettings::StampedWith(const char* timeFormat) const
+{
+    const QString time = GetTime().toString(QLatin1String(timeFormat));
+    const char* const dateFormat = Parameters::ReadBool(PARAM_MONTH_FIRST) ? "MMddyy" : "ddMMyy";
+    return GetDate().toString(QLatin1String(dateFormat)) + QLatin1Char('_') + time;
+}

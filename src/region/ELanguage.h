@@ -1,0 +1,35 @@
+#pragma once
+
+/// Language of the display, the index into TRegionSettings::Languages and TRegionSettings::LanguageExtensions. Stored
+/// under PARAM_LANGUAGE: the numbers never change.
+enum ELanguage : int
+{
+    LANGUAGE_ENGLISH = 0,
+    LANGUAGE_GERMAN = 1,
+    LANGUAGE_FRENCH = 2,
+    LANGUAGE_SPANISH = 3,
+    LANGUAGE_ITALIAN = 4,
+    LANGUAGE_PORTUGUESE = 5,
+    LANGUAGE_RUSSIAN = 6,
+    LANGUAGE_DUTCH = 7,
+    LANGUAGE_FINNISH = 8,
+    LANGUAGE_CZECH = 9,
+    LANGUAGE_DANISH = 10,
+    LANGUAGE_NORWEGIAN = 11,
+    LANGUAGE_POLISH = 12,
+    LANGUAGE_SWEDISH = 13,
+    LANGUAGE_JAPANESE = 14,
+    LANGUAGE_LATVIAN = 15,
+    LANGUAGE_LITHUANIAN = 16,
+    LANGUAGE_GREEK = 17,
+    LANGUAGE_BULGARIAN = 18,
+    LANGUAGE_ROMANIAN = 19,
+    LANGUAGE_HUNGARIAN = 20,
+    LANGUAGE_CROATIAN = 21,
+    LANGUAGE_TURKISH = 22,
+    LANGUAGE_CHINESE = 23,
+    LANGUAGE_ESTONIAN = 24,
+    LANGUAGE_SERBIAN = 25,
+    LANGUAGE_SLOVAK = 26,
+    LANGUAGE_SLOVENIAN = 27,
+};

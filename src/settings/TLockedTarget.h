@@ -1,0 +1,41 @@
+#pragma once
+
+/// The object behind a locking façade, out of reach except under the façade's lock.
+///
+/// By() returns an access that holds the lock until the end of the full expression it stands in, so a forwarder is one
+/// line, cannot forget the lock, and releases it even when the forwarded call throws:
+///
+///     QString TSomeProxy::GetName() const { return m_Target.By(*this)->GetName(); }
+///
+/// @tparam Target the object forwarded to.
+template <class Target>
+class TLockedTarget
+{
+public:
+    explicit TLockedTarget(Target& target) : m_Target(&target) {}
+
+    template <class Facade>
+    class TAccess
+    {
+    public:
+        TAccess(Facade& facade, Target& target) : m_Facade(facade), m_Target(target) { m_Facade.Lock(); }
+        ~TAccess() { m_Facade.Unlock(); }
+        TAccess(const TAccess&) = delete;
+        TAccess& operator=(const TAccess&) = delete;
+
+        Target* operator->() const { return &m_Target; }
+
+    private:
+        Facade& m_Facade;
+        Target& m_Target;
+    };
+
+    template <class Facade>
+    TAccess<Facade> By(Facade& facade) const
+    {
+        return TAccess<Facade>(facade, *m_Target);
+    }
+
+private:
+    Target* m_Target;
+};

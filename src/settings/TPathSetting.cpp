@@ -1,0 +1,74 @@
+#include "settings/TPathSetting.h"
+
+#include "region/TRegionSettingsProxy.h"
+#include "settings/Parameters.h"
+#include "system/TSystemSettings.h"
+
+const char* const TPathSetting::NoName = "This string intentionally left blank!";
+
+TPathSetting::TPathSetting(EParamID parameter, const QString& folder, const QString& extension,
+                           const QString& defaultPrefix)
+    : m_Folder(folder), m_Extension(extension), m_DefaultPrefix(defaultPrefix), m_Parameter(parameter)
+{}
+
+TPathSetting::~TPathSetting() = default;
+
+void TPathSetting::Initialise() { m_Name = GetDefaultName(); }
+
+void TPathSetting::Restore(QString name)
+{
+    if (Parameters::Has(m_Parameter))
+        m_Name = Parameters::ReadString(m_Parameter);
+    if (name.isEmpty())
+        name = m_Name;
+    else if (name == QLatin1String(NoName))
+        name = QString();
+    SetName(name);
+}
+
+QString TPathSetting::GetName() const
+{
+    return Parameters::Has(m_Parameter) ? Parameters::ReadString(m_Parameter) : m_Name;
+}
+
+QString TPathSetting::GetPath(const QString& root) const
+{
+    const QString name = GetName();
+    const QDir dir(root);
+    const QString folder = GetFolderPath(dir);
+
+    // The built-in items are no files: an empty folder in their name would only puzzle the operator.
+    const bool isBuiltIn =
+        name == TSystemSettings::DefaultVehicleProfile || name == TSystemSettings::DefaultSteeringProfile ||
+        name == TSystemSettings::DefaultImplementProfile || name == TSystemSettings::DefaultSprayerProfile;
+    if (!isBuiltIn && !dir.exists(folder))
+        dir.mkpath(folder);
+    return QDir(dir.absoluteFilePath(folder)).absoluteFilePath(GetFileName(dir));
+}
+
+QString TPathSetting::GetCFFPath(const QString& prefix) const
+{
+    const QString name = GetName();
+
+    // A system-settings object of its own: the active one may be locked by the very call that leads here, and the
+    // client's folder depends on stored parameters alone.
+    const QString cffPath = TSystemSettings().GetCFFPath();
+    if (cffPath.isEmpty())
+        return QString();
+
+    const QString category = prefix + cffPath + m_Folder;
+    QDir().mkpath(category);
+    return QDir(QDir(category).absoluteFilePath(name)).absoluteFilePath(name + m_Extension);
+}
+
+void TPathSetting::SetName(const QString& name)
+{
+    m_Name = name;
+    Parameters::WriteString(m_Parameter, name);
+}
+
+QString TPathSetting::GetDefaultName() const { return m_DefaultPrefix + TRegionSettingsProxy().GetDateTimeString(); }
+
+QString TPathSetting::GetFolderPath(const QDir&) const { return m_Folder + QLatin1Char('/') + GetName(); }
+
+QString TPathSetting::GetFileName(const QDir&) const { return GetName() + m_Extension; }

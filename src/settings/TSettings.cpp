@@ -1,0 +1,34 @@
+#include "settings/TSettings.h"
+
+#include "colors/TColorSettingsProxy.h"
+#include "logs/TNEMADiagnosticLogProxy.h"
+#include "logs/TUserDiagnosticLogProxy.h"
+#include "region/TRegionSettingsProxy.h"
+#include "system/TSystemSettingsProxy.h"
+
+TSettings* Settings = nullptr;
+
+// The user log goes straight to its file, since its last lines tell why a display went down. NMEA traffic is dense and
+// is gathered first, in files small enough to be sent away.
+TSettings::TSettings()
+    : m_UserLog(0, 0x100000, 4, PARAM_USER_LOG_FILE_NUMBER), m_NEMALog(1024, 0x40000, 4, PARAM_NMEA_LOG_FILE_NUMBER)
+{}
+
+TSettings::~TSettings() = default;
+
+void TSettings::Initialise() { m_SystemSettings.Initialise(); }
+
+void TSettings::Restore()
+{
+    TColorSettingsProxy colors;
+    TRegionSettingsProxy region;
+    TSystemSettingsProxy system;
+    TUserDiagnosticLogProxy userLog;
+    TNEMADiagnosticLogProxy nmeaLog;
+
+    colors.Restore();
+    region.Restore();
+    system.Restore();
+    userLog.Restore(system.GetInternalUserLogPath(), 0, 0);
+    nmeaLog.Restore(system.GetInternalNemaLogPath(), 0, 0);
+}

@@ -1,0 +1,127 @@
+#include "settings/Parameters.h"
+#include "system/MemoryInfo.h"
+#include "system/TSystemSettings.h"
+
+#include <QByteArray>
+
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <sys/sysinfo.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <limits>
+
+namespace {
+
+const float LoadScale = 1.0f / (1 << SI_LOAD_SHIFT); // loads[] of sysinfo(2) are fixed-point with 16 binary places
+
+template <class T>
+T Saturated(fsblkcnt_t count)
+{
+    return static_cast<T>(std::min(count, static_cast<fsblkcnt_t>(std::numeric_limits<T>::max())));
+}
+
+} // namespace
+
+QFileInfo TSystemSettings::GetInternalDrive() const { return QFileInfo(Parameters::ReadString(PARAM_INTERNAL_DRIVE)); }
+QString TSystemSettings::GetInternalDrivePath() const { return GetInternalDrive().absoluteFilePath(); }
+
+bool TSystemSettings::GetExternalDrive(QFileInfo& drive) const
+{
+    drive = QFileInfo(Parameters::ReadString(PARAM_EXTERNAL_DRIVE));
+    return IsMountingPoint(drive.absoluteFilePath().toUtf8().constData());
+}
+
+bool TSystemSettings::GetExternalDrivePath(QString& path) const
+{
+    path = QFileInfo(Parameters::ReadString(PARAM_EXTERNAL_DRIVE)).absoluteFilePath();
+    return IsMountingPoint(path.toUtf8().constData());
+}
+
+bool TSystemSettings::IsExternalDrivePresent() const
+{
+    QFileInfo drive;
+    GetExternalDrive(drive);
+    return IsMountingPoint(drive.absoluteFilePath().toUtf8().constData());
+}
+
+int TSystemSettings::IsMountingPointWErr(const char* path)
+{
+    static const char* const error = "Error calling sys_stat(path)";
+
+    // The path before its parent: "file/.." would fail where the answer for a file is simply no.
+    struct stat self;
+    if (stat(path, &self) != 0) {
+        std::perror(error);
+        return -1;
+    }
+    if (!S_ISDIR(self.st_mode))
+        return 0;
+
+    struct stat parent;
+    if (stat((QByteArray(path) + "/..").constData(), &parent) != 0) {
+        std::perror(error);
+        return -1;
+    }
+    return self.st_dev != parent.st_dev || self.st_ino == parent.st_ino ? 1 : 0;
+}
+
+bool TSystemSettings::IsMountingPoint(const char* path) { return IsMountingPointWErr(path) == 1; }
+
+int TSystemSettings::GetFileSystemInfo(unsigned* total, unsigned* free) const
+{
+    struct statvfs info;
+    const int result = statvfs(GetInternalDrivePath().toUtf8().constData(), &info);
+    if (result != 0) {
+        std::perror("Error calling sys_statvfs(internalPath)");
+        return result;
+    }
+    *total = Saturated<unsigned>(info.f_blocks);
+    *free = Saturated<unsigned>(info.f_bfree);
+    return 0;
+}
+
+int TSystemSettings::GetUSBMemoryInfo(int* total, int* free) const
+{
+    const QByteArray path = QFileInfo(Parameters::ReadString(PARAM_EXTERNAL_DRIVE)).absoluteFilePath().toUtf8();
+    const int isMounted = IsMountingPointWErr(path.constData());
+    if (isMounted == 0)
+        return 0;
+
+    struct statvfs info;
+    if (isMounted < 0 || statvfs(path.constData(), &info) != 0) {
+        std::perror("Error calling sys_statvfs(externalPath)");
+        return -1;
+    }
+    *total = Saturated<int>(info.f_blocks);
+    *free = Saturated<int>(info.f_bfree);
+    return 1;
+}
+
+int TSystemSettings::GetMainMemoryInfo(unsigned* total, unsigned* free) const
+{
+    GetLinuxMemory(total, free);
+    return 0;
+}
+
+void TSystemSettings::GetLinuxMemory(unsigned* total, unsigned* free)
+{
+    std::ifstream file("/proc/meminfo"); // one that cannot be opened reads as an empty one
+    const tagMemoryInfo info = ReadMemoryInfo(file);
+    *total = info.total;
+    *free = info.free;
+}
+
+int TSystemSettings::GetCpuLoadInfo(float* load) const
+{
+    struct sysinfo info;
+    const int result = sysinfo(&info);
+    if (result != 0) {
+        std::perror("Error calling sys_sysinfo()");
+        return result;
+    }
+    *load = static_cast<float>(info.loads[0]) * LoadScale;
+    return 0;
+}
