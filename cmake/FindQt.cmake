@@ -1,7 +1,7 @@
-# Finds the chosen generation of Qt and gives its parts one name each: CabQt::Core, CabQt::Gui, ...
+# Finds the parts of the chosen generation of Qt that the project needs; targets link Qt${CABSETTINGS_QT}::Core and so on.
 set(_components Core Gui)
 if(CABSETTINGS_HOST)
-    list(APPEND _components Sql Positioning)
+    list(APPEND _components Sql Positioning LinguistTools)
 endif()
 if(CABSETTINGS_TESTS)
     list(APPEND _components Test)
@@ -10,8 +10,3 @@ if(CABSETTINGS_QT EQUAL 6)
     list(APPEND _components Core5Compat) # QRegExp, which the host boundary speaks
 endif()
 find_package(Qt${CABSETTINGS_QT} REQUIRED COMPONENTS ${_components})
-
-foreach(_component IN LISTS _components)
-    add_library(CabQt::${_component} INTERFACE IMPORTED)
-    target_link_libraries(CabQt::${_component} INTERFACE Qt${CABSETTINGS_QT}::${_component})
-endforeach()

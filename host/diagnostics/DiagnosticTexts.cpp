@@ -8,8 +8,7 @@
 #include <map>
 #include <tuple>
 
-namespace
-{
+namespace {
 
 struct tagText
 {

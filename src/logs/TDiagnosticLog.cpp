@@ -81,10 +81,9 @@ bool TDiagnosticLog::Open()
     if (m_IsOpen || m_FileName.isEmpty())
         return false;
     // Unbuffered: each write goes to the system at once, and its result tells how much really got there, which a
-    // buffered file learns too late.
-    if (!m_File.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+    // buffered file learns too late. Append: should a second program write the same log, no line overwrites another.
+    if (!m_File.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
         return false;
-    m_File.seek(m_File.size());
     m_IsOpen = true;
     return true;
 }

@@ -1,0 +1,3 @@
+#include "platform/TConfigManager.h"
+
+TConfigManager* ConfigManager = nullptr; // set by TTerminal

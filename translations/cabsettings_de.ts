@@ -1,0 +1,113 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>TRegionSettings</name>
+    <message>
+        <source>Jan</source>
+        <translation>Jan</translation>
+    </message>
+    <message>
+        <source>Feb</source>
+        <translation>Feb</translation>
+    </message>
+    <message>
+        <source>Mar</source>
+        <translation>Mär</translation>
+    </message>
+    <message>
+        <source>Apr</source>
+        <translation>Apr</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>Jun</source>
+        <translation>Jun</translation>
+    </message>
+    <message>
+        <source>Jul</source>
+        <translation>Jul</translation>
+    </message>
+    <message>
+        <source>Aug</source>
+        <translation>Aug</translation>
+    </message>
+    <message>
+        <source>Sep</source>
+        <translation>Sep</translation>
+    </message>
+    <message>
+        <source>Oct</source>
+        <translation>Okt</translation>
+    </message>
+    <message>
+        <source>Nov</source>
+        <translation>Nov</translation>
+    </message>
+    <message>
+        <source>Dec</source>
+        <translation>Dez</translation>
+    </message>
+</context>
+<context>
+    <name>TSystemSettings</name>
+    <message>
+        <source>J_</source>
+        <translation>J_</translation>
+    </message>
+    <message>
+        <source>B_</source>
+        <translation>G_</translation>
+    </message>
+    <message>
+        <source>L_</source>
+        <translation>L_</translation>
+    </message>
+    <message>
+        <source>P_</source>
+        <translation>P_</translation>
+    </message>
+    <message>
+        <source>C_</source>
+        <translation>K_</translation>
+    </message>
+    <message>
+        <source>O_</source>
+        <translation>O_</translation>
+    </message>
+    <message>
+        <source>No Vehicle</source>
+        <translation>Kein Fahrzeug</translation>
+    </message>
+    <message>
+        <source>No Profile</source>
+        <translation>Kein Profil</translation>
+    </message>
+    <message>
+        <source>No Implement</source>
+        <translation>Kein Gerät</translation>
+    </message>
+    <message>
+        <source>Pivoted_</source>
+        <translation>Gezogen_</translation>
+    </message>
+</context>
+<context>
+    <name>TUserLogAccessor</name>
+    <message>
+        <source>Critical</source>
+        <translation>Kritisch</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Trivial</source>
+        <translation>Geringfügig</translation>
+    </message>
+</context>
+</TS>
