@@ -83,13 +83,16 @@ void TTerminal::Stop()
 }
 
 /// The composed paths need an internal drive that ends in "/". A drive that follows the data folder is not persisted,
-/// so that the folder can be moved or copied as a whole.
+/// so that the folder can be moved or copied as a whole; its mount point is made, as a system has it.
 void TTerminal::PlaceDrives(const QString& dataFolder)
 {
     if (!m_Store.HasParameter(PARAM_INTERNAL_DRIVE))
         m_Store.SetParameter(PARAM_INTERNAL_DRIVE, DataFolder::InternalDrive(dataFolder), false);
-    if (!m_Store.HasParameter(PARAM_EXTERNAL_DRIVE))
-        m_Store.SetParameter(PARAM_EXTERNAL_DRIVE, DataFolder::ExternalDrive(dataFolder), false);
+    if (!m_Store.HasParameter(PARAM_EXTERNAL_DRIVE)) {
+        const QString mountPoint = DataFolder::ExternalDrive(dataFolder);
+        QDir().mkpath(mountPoint);
+        m_Store.SetParameter(PARAM_EXTERNAL_DRIVE, mountPoint, false);
+    }
 
     const QString internal = m_Store.GetParameter(PARAM_INTERNAL_DRIVE).toString();
     if (!internal.endsWith(QLatin1Char('/')))

@@ -1,0 +1,222 @@
+#include "TConsole.h"
+
+#include <QtTest>
+
+#include <csignal>
+
+class ConsoleRun : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theLogHoldsTheTailOfTheStream_data();
+    void theLogHoldsTheTailOfTheStream();
+    void theClockShowsTheLastUtcPlusTheOffset();
+    void selectionsAreBackAfterARestart();
+    void damagedLinesAreLoggedAsReceived();
+    void standardInputIsReadToItsEnd();
+    void aSecondRunGoesOnInTheSameFiles();
+    void anInterruptEndsInGoodOrder();
+    void aStreamThatCannotBeReadIsAFailure_data();
+    void aStreamThatCannotBeReadIsAFailure();
+
+private:
+    static QByteArray Contents(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    static QStringList LogNames(const TConsole& console, const char* pattern)
+    {
+        const QDir folder(console.DataFolder() + QLatin1String("/internal/Diagnostics"));
+        return folder.entryList({QLatin1String(pattern)}, QDir::Files, QDir::Name);
+    }
+
+    static QByteArray Log(const TConsole& console, const char* pattern)
+    {
+        QByteArray all;
+        const QStringList names = LogNames(console, pattern);
+        for (const QString& name : names)
+            all += Contents(console.DataFolder() + QLatin1String("/internal/Diagnostics/") + name);
+        return all;
+    }
+
+    static void WriteFile(const QString& path, const QByteArray& contents)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(contents), contents.size());
+    }
+
+    static TConsole::tagResult RunOn(const TConsole& console, const QString& stream)
+    {
+        return console.Run({QLatin1String("run"), QLatin1String("--nmea"), stream});
+    }
+};
+
+void ConsoleRun::theLogHoldsTheTailOfTheStream_data()
+{
+    QTest::addColumn<QString>("stream");
+    QTest::addColumn<bool>("rotatesAway"); ///< long enough for files to be removed
+    QTest::newRow("a stationary receiver") << CABSETTINGS_RECORDINGS "/rtk-receiver-29s.nmea" << false;
+    QTest::newRow("a receiver that finds its fix") << CABSETTINGS_RECORDINGS "/modem-receiver-224s.nmea" << false;
+    QTest::newRow("a field") << QString() << true;
+}
+
+void ConsoleRun::theLogHoldsTheTailOfTheStream()
+{
+    QFETCH(QString, stream);
+    QFETCH(bool, rotatesAway);
+    const TConsole console;
+    if (stream.isEmpty()) {
+        stream = console.Path("field.nmea");
+        const TConsole::tagResult simulated =
+            console.Run({QLatin1String("simulate"), QLatin1String("--passes"), QLatin1String("8"),
+                         QLatin1String("--rate"), QLatin1String("10"), QLatin1String("--output"), stream});
+        QCOMPARE(simulated.errors, QString());
+        QCOMPARE(simulated.status, 0);
+    } else if (!QFile::exists(stream)) {
+        QSKIP("the recordings are not here");
+    }
+
+    const TConsole::tagResult result = RunOn(console, stream);
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    const QByteArray received = Contents(stream);
+    const QByteArray logged = Log(console, "NMEA*.csv");
+    QVERIFY(!logged.isEmpty());
+    QVERIFY(received.endsWith(logged));
+    if (rotatesAway) {
+        // Three full files of a quarter of a mebibyte and what has been written of the fourth.
+        QCOMPARE(LogNames(console, "NMEA*.csv").size(), 4);
+        QVERIFY(logged.size() > 3 * 0x40000);
+        QVERIFY(logged.size() < received.size());
+    } else {
+        QCOMPARE(logged.size(), received.size());
+    }
+}
+
+void ConsoleRun::theClockShowsTheLastUtcPlusTheOffset()
+{
+    const TConsole console;
+    console.Run({QLatin1String("set"), QLatin1String("8952"), QLatin1String("true")});
+    console.Run({QLatin1String("set"), QLatin1String("8949"), QLatin1String("5")});
+    console.Run({QLatin1String("set"), QLatin1String("8950"), QLatin1String("30")});
+    const QString stream = console.Path("field.nmea");
+    console.Run({QLatin1String("simulate"), QLatin1String("--passes"), QLatin1String("1"), QLatin1String("--start"),
+                 QLatin1String("2024-02-28T18:29:00Z"), QLatin1String("--output"), stream});
+    const TConsole::tagResult result = RunOn(console, stream);
+    QCOMPARE(result.errors, QString());
+    QVERIFY2(result.output.contains(QLatin1String("29 Feb, 2024 00:0")), qPrintable(result.output));
+    QVERIFY2(result.output.contains(QLatin1String("(GPS, UTC+05:30)")), qPrintable(result.output));
+
+    const QString utc = result.output.section(QLatin1String("last UTC"), 1).trimmed().section(QLatin1Char('\n'), 0, 0);
+    const QDateTime lastUtc = QDateTime::fromString(utc, Qt::ISODate);
+    QVERIFY2(lastUtc.isValid(), qPrintable(utc));
+    const QTime shown = QTime::fromString(
+        result.output.section(QLatin1String("2024 "), 1).section(QLatin1Char(' '), 0, 0), QLatin1String("HH:mm:ss"));
+    const int lag = lastUtc.addSecs(5 * 3600 + 30 * 60).time().secsTo(shown);
+    QVERIFY2(lag >= 0 && lag <= 5, qPrintable(result.output));
+}
+
+void ConsoleRun::selectionsAreBackAfterARestart()
+{
+    const QList<QPair<QString, QString>> selections = {
+        {QLatin1String("8919"), QLatin1String("J_1")},     {QLatin1String("8920"), QLatin1String("B_1")},
+        {QLatin1String("8921"), QLatin1String("L_1")},     {QLatin1String("8922"), QLatin1String("P_1")},
+        {QLatin1String("8923"), QLatin1String("C_1")},     {QLatin1String("8924"), QLatin1String("O_1")},
+        {QLatin1String("8925"), QLatin1String("PL_1")},    {QLatin1String("8926"), QLatin1String("Zone")},
+        {QLatin1String("8927"), QLatin1String("Soft")},    {QLatin1String("8928"), QLatin1String("Spreader")},
+        {QLatin1String("8929"), QLatin1String("Tractor")}, {QLatin1String("8930"), QLatin1String("Boom 24")},
+        {QLatin1String("8931"), QLatin1String("Level")},   {QLatin1String("8932"), QLatin1String("Smith")},
+        {QLatin1String("8933"), QLatin1String("North")},   {QLatin1String("8934"), QLatin1String("F1")},
+    };
+    const TConsole console;
+    for (const auto& selection : selections) {
+        const TConsole::tagResult set = console.Run({QLatin1String("set"), QLatin1String("--type"),
+                                                     QLatin1String("string"), selection.first, selection.second});
+        QCOMPARE(set.status, 0);
+    }
+    for (int start = 0; start < 2; ++start) {
+        const TConsole::tagResult run =
+            console.Run({QLatin1String("run"), QLatin1String("--nmea"), QLatin1String("-")});
+        QCOMPARE(run.status, 0);
+        QVERIFY(run.output.contains(QLatin1String("Clients/Smith/North/F1/Jobs/J_1/J_1.cov")));
+        for (const auto& selection : selections) {
+            const TConsole::tagResult got = console.Run({QLatin1String("get"), selection.first});
+            QCOMPARE(got.output, selection.second + QLatin1Char('\n'));
+        }
+    }
+}
+
+void ConsoleRun::damagedLinesAreLoggedAsReceived()
+{
+    const TConsole console;
+    const QByteArray stream = "garbage\r\n$GPRMC,1*00\n\n" + QByteArray("\0\xff\x80 binary\n", 11) + "no end";
+    WriteFile(console.Path("damaged.nmea"), stream);
+    const TConsole::tagResult result = RunOn(console, console.Path("damaged.nmea"));
+    QCOMPARE(result.status, 0);
+    QCOMPARE(Log(console, "NMEA*.csv"), stream);
+    QVERIFY2(result.output.contains(QLatin1String("5 (1 bad checksums, 4 damaged, 0 not logged)")),
+             qPrintable(result.output));
+}
+
+void ConsoleRun::standardInputIsReadToItsEnd()
+{
+    const TConsole console;
+    const QByteArray stream = QByteArray("$GPTXT,hello*41\r\n").repeated(5000);
+    const TConsole::tagResult result =
+        console.Run({QLatin1String("run"), QLatin1String("--nmea"), QLatin1String("-")}, stream);
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(Log(console, "NMEA*.csv"), stream);
+}
+
+void ConsoleRun::aSecondRunGoesOnInTheSameFiles()
+{
+    const TConsole console;
+    WriteFile(console.Path("first"), "first\r\n");
+    WriteFile(console.Path("second"), "second\r\n");
+    RunOn(console, console.Path("first"));
+    RunOn(console, console.Path("second"));
+    QCOMPARE(Log(console, "NMEA*.csv"), QByteArray("first\r\nsecond\r\n"));
+    QCOMPARE(LogNames(console, "NMEA*.csv"), QStringList{QLatin1String("NMEA00001.csv")});
+}
+
+void ConsoleRun::anInterruptEndsInGoodOrder()
+{
+    const TConsole console;
+    QProcess process;
+    process.start(QLatin1String(CABSETTINGS_PROGRAM),
+                  {QLatin1String("--data"), console.DataFolder(), QLatin1String("run"), QLatin1String("--nmea"),
+                   QLatin1String("-")});
+    process.write("received before\r\n");
+    // The log's file is there once the terminal has started; from then on a signal is a request.
+    QTRY_VERIFY(!LogNames(console, "NMEA*.csv").isEmpty());
+    kill(static_cast<pid_t>(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(process.readAllStandardOutput().contains("Clock"));
+}
+
+void ConsoleRun::aStreamThatCannotBeReadIsAFailure_data()
+{
+    QTest::addColumn<QString>("stream");
+    QTest::newRow("no such file") << "/no/such/stream.nmea";
+    QTest::newRow("a folder") << "/tmp";
+}
+
+void ConsoleRun::aStreamThatCannotBeReadIsAFailure()
+{
+    QFETCH(QString, stream);
+    const TConsole console;
+    const TConsole::tagResult result = RunOn(console, stream);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.errors.contains(stream), qPrintable(result.errors));
+    QCOMPARE(result.errors.count(QLatin1Char('\n')), 1);
+}
+
+QTEST_GUILESS_MAIN(ConsoleRun)
+#include "ConsoleRun.moc"

@@ -1,0 +1,431 @@
+#include "StoreTestSupport.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QLatin1String Good(".good");
+const QLatin1String FirstAside(".damaged-1");
+
+// The four bytes of the file that tell the schema: a larger number stands for a newer program's file, which is refused.
+const int SchemaAt = 60;
+const int SchemaEnd = 64;
+
+} // namespace
+
+/// The file and its good copy hold different values, so that it shows which of them has been read.
+class StoreRecoversFromDamage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void aChangedByteNeverGivesWrongValues_data();
+    void aChangedByteNeverGivesWrongValues();
+    void aChangedByteOfARowNeverGivesWrongValues();
+    void aTruncatedFileNeverGivesWrongValues_data();
+    void aTruncatedFileNeverGivesWrongValues();
+    void aRunOfLostBytesNeverGivesWrongValues();
+
+    void aDamagedFileIsMovedAsideAndTheGoodCopyTakesItsPlace_data();
+    void aDamagedFileIsMovedAsideAndTheGoodCopyTakesItsPlace();
+    void whatBelongsToADamagedFileGoesWithIt();
+    void earlierDamagedFilesAreKept();
+    void aMissingFileIsReplacedByTheGoodCopy();
+    void aLogLeftBehindIsNotAppliedToTheGoodCopy();
+
+    void aTornLogGivesAWholeEarlierState();
+
+    void withoutAGoodCopyTheStoreStartsEmptyAndSaysSo_data();
+    void withoutAGoodCopyTheStoreStartsEmptyAndSaysSo();
+    void aDamagedGoodCopyIsNotTrusted_data();
+    void aDamagedGoodCopyIsNotTrusted();
+    void aNewStoreSaysNothing_data();
+    void aNewStoreSaysNothing();
+
+    void theGoodCopyIsMadeAtOpeningAndClosing();
+    void theGoodCopyIsNotMadeOfADamagedFile();
+    void remainsOfAnUnfinishedCopyDoNotMatter();
+
+private:
+    void Place(const QByteArray& bytes);
+    QString Verdict();
+    void CheckByte(int offset, char flip);
+
+    QByteArray m_FileBytes;
+    QByteArray m_GoodBytes;
+    QMap<int, QVariant> m_FileValues;
+    QMap<int, QVariant> m_GoodValues;
+    std::unique_ptr<QTemporaryDir> m_Folder;
+    QString m_Path;
+};
+
+void StoreRecoversFromDamage::initTestCase()
+{
+    init();
+    {
+        const auto store = OpenStore(m_Path);
+        store->SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+        store->SetParameter(PARAM_AREA_UNIT, 1, true);
+        m_GoodValues = store->Values();
+    }
+    m_GoodBytes = FileBytes(m_Path + Good);
+    {
+        const auto store = OpenStore(m_Path);
+        store->HoldPersistence();
+        store->SetParameter(PARAM_CLIENT, QLatin1String("Jones"), true);
+        for (int id = 1; id <= 200; ++id) // several pages
+            store->SetParameter(Param(id), QString::fromLatin1("value of parameter %1").arg(id), true);
+        QVERIFY(store->ReleasePersistence());
+        store->SetParameter(Param(100), QVariant(), true);
+        m_FileValues = store->Values();
+    }
+    m_FileBytes = FileBytes(m_Path);
+    QVERIFY(m_FileBytes.size() > 3 * 4096);
+}
+
+void StoreRecoversFromDamage::init()
+{
+    // Hundreds of stores are opened here, each waiting for the disk several times. In memory there is no such wait.
+    m_Folder = std::make_unique<QTemporaryDir>(QLatin1String("/dev/shm/StoreRecoversFromDamage-XXXXXX"));
+    if (!m_Folder->isValid())
+        m_Folder = std::make_unique<QTemporaryDir>();
+    m_Path = m_Folder->filePath(QLatin1String("settings.db"));
+}
+
+// A folder with these bytes as the file, and the good copy.
+void StoreRecoversFromDamage::Place(const QByteArray& bytes)
+{
+    init();
+    SetFileBytes(m_Path, bytes);
+    SetFileBytes(m_Path + Good, m_GoodBytes);
+}
+
+// Empty when opening gave the file's values, or the good copy's and a word about it, and the store can be written.
+QString StoreRecoversFromDamage::Verdict()
+{
+    TStandardErrorCapture standardError;
+    QString error;
+    const auto store = TSqliteStore::Open(m_Path, &error);
+    const bool isSaid = !standardError.Lines().isEmpty();
+    if (!store)
+        return QLatin1String("refused: ") + error;
+    if (store->Values() != m_FileValues && !(store->Values() == m_GoodValues && isSaid))
+        return QLatin1String("wrong values");
+    if (store->Values() == m_FileValues && isSaid)
+        return QLatin1String("right values, but: ") + standardError.Lines().first();
+    return store->SetParameter(PARAM_FARM, QLatin1String("Hill"), true) ? QString()
+                                                                        : QString::fromLatin1("not writable");
+}
+
+void StoreRecoversFromDamage::CheckByte(int offset, char flip)
+{
+    QByteArray bytes = m_FileBytes;
+    bytes[offset] = static_cast<char>(bytes.at(offset) ^ flip);
+    Place(bytes);
+    const QString verdict = Verdict();
+    const bool isSchema = offset >= SchemaAt && offset < SchemaEnd;
+    QVERIFY2(verdict.isEmpty() || (isSchema && verdict.contains(QLatin1String("found schema"))),
+             qPrintable(QString::fromLatin1("byte %1 changed by %2: %3").arg(offset).arg(flip).arg(verdict)));
+}
+
+void StoreRecoversFromDamage::aChangedByteNeverGivesWrongValues_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("step");
+    const int size = static_cast<int>(m_FileBytes.size());
+    QTest::newRow("file header") << 0 << 100 << 1;
+    QTest::newRow("page headers") << 100 << 108 << 1;
+    QTest::newRow("everywhere") << 108 << size << 31;
+}
+
+void StoreRecoversFromDamage::aChangedByteNeverGivesWrongValues()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, step);
+    for (int offset = from; offset < to && !QTest::currentTestFailed(); offset += step) {
+        CheckByte(offset, '\xff');
+        CheckByte(offset, '\x01');
+    }
+}
+
+void StoreRecoversFromDamage::aChangedByteOfARowNeverGivesWrongValues()
+{
+    const QByteArray text("value of parameter 42");
+    const int at = static_cast<int>(m_FileBytes.indexOf(text));
+    QVERIFY(at > 0);
+    // From before the row's header, over its type and text, to the end of its digest.
+    for (int offset = at - 15; offset < at + text.size() + 16 && !QTest::currentTestFailed(); ++offset) {
+        CheckByte(offset, '\x01');
+        CheckByte(offset, '\x20');
+    }
+}
+
+void StoreRecoversFromDamage::aTruncatedFileNeverGivesWrongValues_data()
+{
+    QTest::addColumn<int>("length");
+    const int size = static_cast<int>(m_FileBytes.size());
+    for (const int length : {0,   1,    15,   16,   18,   60,   72,   99,   100,   101,         108,     511,
+                             512, 1000, 4095, 4096, 4097, 8191, 8192, 8193, 12288, size - 4096, size - 1})
+        QTest::addRow("%d", length) << length;
+}
+
+void StoreRecoversFromDamage::aTruncatedFileNeverGivesWrongValues()
+{
+    QFETCH(int, length);
+    Place(m_FileBytes.left(length));
+    QCOMPARE(Verdict(), QString());
+}
+
+void StoreRecoversFromDamage::aRunOfLostBytesNeverGivesWrongValues()
+{
+    const int block = 512;
+    for (int offset = 0; offset < m_FileBytes.size(); offset += block) {
+        for (const char fill : {'\0', '\xff'}) {
+            QByteArray bytes = m_FileBytes;
+            bytes.replace(offset, block, QByteArray(block, fill));
+            Place(bytes);
+            const QString verdict = Verdict();
+            QVERIFY2(verdict.isEmpty(), qPrintable(QString::fromLatin1("block at %1: %2").arg(offset).arg(verdict)));
+        }
+    }
+}
+
+void StoreRecoversFromDamage::aDamagedFileIsMovedAsideAndTheGoodCopyTakesItsPlace_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("found");
+
+    QByteArray pageType = m_FileBytes;
+    pageType[4096] = 'x';
+    QByteArray value = m_FileBytes;
+    value.replace("value of parameter 42", "value of parameter 43");
+    const QString none;
+    QTest::newRow("header") << m_FileBytes.mid(1) << none << QString::fromLatin1("a file that is not of SQLite");
+    QTest::newRow("text") << QByteArray("text") << none << QString::fromLatin1("a file that is not of SQLite");
+    QTest::newRow("nothing") << QByteArray() << none << QString::fromLatin1("an empty file");
+    QTest::newRow("half") << m_FileBytes.left(5000) << none << QString::fromLatin1("");
+    QTest::newRow("page type") << pageType << none << QString::fromLatin1("");
+    QTest::newRow("value") << value << none << QString::fromLatin1("its parameter 42 does not match its digest");
+    const QString schema = QLatin1String("its schema is missing or broken");
+    QTest::newRow("no table") << m_FileBytes << QString::fromLatin1("DROP TABLE parameters") << schema;
+    QTest::newRow("another table") << m_FileBytes << QString::fromLatin1("ALTER TABLE parameters ADD COLUMN unit")
+                                   << schema;
+    QTest::newRow("no schema number") << m_FileBytes << QString::fromLatin1("PRAGMA user_version = 0") << schema;
+}
+
+void StoreRecoversFromDamage::aDamagedFileIsMovedAsideAndTheGoodCopyTakesItsPlace()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, statement);
+    QFETCH(QString, found);
+    Place(bytes);
+    if (!statement.isEmpty())
+        RunSql(m_Path, statement);
+    const QByteArray damaged = FileBytes(m_Path);
+
+    TStandardErrorCapture standardError;
+    const auto store = OpenStore(m_Path);
+    QCOMPARE(store->Values(), m_GoodValues);
+    QCOMPARE(FileBytes(m_Path + FirstAside), damaged);
+    const QStringList lines = standardError.Lines();
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines.at(0).startsWith(QString::fromLatin1("%1: %2").arg(m_Path, found)) &&
+                 lines.at(0).endsWith(QString::fromLatin1("; moved to %1%2").arg(m_Path, FirstAside)),
+             qPrintable(lines.at(0)));
+    QCOMPARE(lines.at(1), QString::fromLatin1("%1: going on with the last good copy %1.good").arg(m_Path));
+}
+
+void StoreRecoversFromDamage::whatBelongsToADamagedFileGoesWithIt()
+{
+    Place(QByteArray("text"));
+    SetFileBytes(m_Path + QLatin1String("-wal"), "log");
+    SetFileBytes(m_Path + QLatin1String("-shm"), "index");
+    TStandardErrorCapture standardError;
+    QCOMPARE(StoredValues(m_Path), m_GoodValues);
+    QCOMPARE(FileBytes(m_Path + FirstAside), QByteArray("text"));
+    QCOMPARE(FileBytes(m_Path + FirstAside + QLatin1String("-wal")), QByteArray("log"));
+    QCOMPARE(FileBytes(m_Path + FirstAside + QLatin1String("-shm")), QByteArray("index"));
+}
+
+void StoreRecoversFromDamage::earlierDamagedFilesAreKept()
+{
+    Place(QByteArray());
+    TStandardErrorCapture standardError;
+    for (const char* text : {"first", "second", "third"}) {
+        SetFileBytes(m_Path, text);
+        QCOMPARE(StoredValues(m_Path), m_GoodValues);
+    }
+    QCOMPARE(FileBytes(m_Path + QLatin1String(".damaged-1")), QByteArray("first"));
+    QCOMPARE(FileBytes(m_Path + QLatin1String(".damaged-2")), QByteArray("second"));
+    QCOMPARE(FileBytes(m_Path + QLatin1String(".damaged-3")), QByteArray("third"));
+}
+
+void StoreRecoversFromDamage::aMissingFileIsReplacedByTheGoodCopy()
+{
+    // As a power cut leaves it between the moving and the replacing of a damaged file.
+    Place(QByteArray());
+    QVERIFY(QFile::remove(m_Path));
+    TStandardErrorCapture standardError;
+    QCOMPARE(StoredValues(m_Path), m_GoodValues);
+    QCOMPARE(standardError.Lines().value(0), m_Path + QLatin1String(": missing"));
+    QCOMPARE(standardError.Lines().size(), 2);
+}
+
+void StoreRecoversFromDamage::aLogLeftBehindIsNotAppliedToTheGoodCopy()
+{
+    // The log of an open store, which holds what is not in the good copy.
+    Place(m_FileBytes);
+    QByteArray log;
+    {
+        const auto store = OpenStore(m_Path);
+        store->SetParameter(PARAM_CLIENT, QLatin1String("Brown"), true);
+        log = FileBytes(m_Path + QLatin1String("-wal"));
+        QVERIFY(!log.isEmpty());
+    }
+    Place(QByteArray());
+    QVERIFY(QFile::remove(m_Path));
+    SetFileBytes(m_Path + QLatin1String("-wal"), log);
+    TStandardErrorCapture standardError;
+    QCOMPARE(StoredValues(m_Path), m_GoodValues);
+    QCOMPARE(FileBytes(m_Path + FirstAside + QLatin1String("-wal")), log);
+}
+
+void StoreRecoversFromDamage::aTornLogGivesAWholeEarlierState()
+{
+    // A power cut tears off the end of what the disk was told last; what a write returned for is before that.
+    const int writes = 5;
+    const QLatin1String suffix("-wal");
+    QByteArray file;
+    QByteArray log;
+    QList<QMap<int, QVariant>> states;
+    {
+        Place(m_FileBytes);
+        const auto store = OpenStore(m_Path);
+        states += store->Values();
+        for (int id = 1; id <= writes; ++id) {
+            store->SetParameter(Param(id), id, true);
+            states += store->Values();
+        }
+        file = FileBytes(m_Path);
+        log = FileBytes(m_Path + suffix);
+    }
+    int previous = 0;
+    const int step = 509;
+    for (int length = 0; length < log.size() + step; length += step) {
+        Place(file);
+        SetFileBytes(m_Path + suffix, log.left(length));
+        const int state = static_cast<int>(states.indexOf(StoredValues(m_Path)));
+        QVERIFY2(state >= previous,
+                 qPrintable(QString::fromLatin1("log of %1 bytes: state %2").arg(length).arg(state)));
+        previous = state;
+    }
+    QCOMPARE(previous, writes);
+}
+
+void StoreRecoversFromDamage::withoutAGoodCopyTheStoreStartsEmptyAndSaysSo_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("half") << m_FileBytes.left(5000);
+    QTest::newRow("second page") << QByteArray(m_FileBytes).replace(4096, 4096, QByteArray(4096, '\0'));
+}
+
+void StoreRecoversFromDamage::withoutAGoodCopyTheStoreStartsEmptyAndSaysSo()
+{
+    QFETCH(QByteArray, bytes);
+    SetFileBytes(m_Path, bytes);
+    TStandardErrorCapture standardError;
+    QVERIFY(StoredValues(m_Path).isEmpty());
+    QCOMPARE(FileBytes(m_Path + FirstAside), bytes);
+    QCOMPARE(standardError.Lines().size(), 2);
+    QCOMPARE(standardError.Lines().at(1), m_Path + QLatin1String(": no good copy, going on with an empty store"));
+}
+
+void StoreRecoversFromDamage::aDamagedGoodCopyIsNotTrusted_data()
+{
+    QTest::addColumn<QByteArray>("good");
+    QTest::newRow("half") << m_GoodBytes.left(5000);
+    QTest::newRow("value") << QByteArray(m_GoodBytes).replace("Smith", "Smyth");
+    QTest::newRow("text") << QByteArray("text");
+    QTest::newRow("nothing") << QByteArray();
+}
+
+void StoreRecoversFromDamage::aDamagedGoodCopyIsNotTrusted()
+{
+    QFETCH(QByteArray, good);
+    Place(m_FileBytes.left(5000));
+    SetFileBytes(m_Path + Good, good);
+    TStandardErrorCapture standardError;
+    QVERIFY(StoredValues(m_Path).isEmpty());
+    QCOMPARE(FileBytes(m_Path + Good + FirstAside), good);
+    QCOMPARE(FileBytes(m_Path + FirstAside), m_FileBytes.left(5000));
+    QCOMPARE(standardError.Lines().size(), 3);
+}
+
+void StoreRecoversFromDamage::aNewStoreSaysNothing_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("no file") << false;
+    QTest::newRow("a file of zero length") << true;
+}
+
+void StoreRecoversFromDamage::aNewStoreSaysNothing()
+{
+    QFETCH(bool, isThere);
+    if (isThere)
+        SetFileBytes(m_Path, QByteArray());
+    TStandardErrorCapture standardError;
+    QVERIFY(OpenStore(m_Path)->Values().isEmpty());
+    QCOMPARE(standardError.Lines(), QStringList());
+    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.good")}));
+}
+
+void StoreRecoversFromDamage::theGoodCopyIsMadeAtOpeningAndClosing()
+{
+    const QString select = QLatin1String("SELECT value FROM parameters WHERE id = 8932");
+    Place(m_FileBytes);
+    auto store = OpenStore(m_Path);
+    QCOMPARE(RunSql(m_Path + Good, select).toString(), QLatin1String("Jones"));
+    store->SetParameter(PARAM_CLIENT, QLatin1String("Brown"), true);
+    QCOMPARE(RunSql(m_Path + Good, select).toString(), QLatin1String("Jones"));
+    store.reset();
+    QCOMPARE(RunSql(m_Path + Good, select).toString(), QLatin1String("Brown"));
+    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.good")}));
+}
+
+void StoreRecoversFromDamage::theGoodCopyIsNotMadeOfADamagedFile()
+{
+    Place(m_FileBytes);
+    auto store = OpenStore(m_Path);
+    const QByteArray good = FileBytes(m_Path + Good);
+    RunSql(m_Path, QLatin1String("UPDATE parameters SET value = 'Smyth' WHERE id = 8932"));
+    TStandardErrorCapture standardError;
+    store.reset();
+    QCOMPARE(FileBytes(m_Path + Good), good);
+    QCOMPARE(standardError.Lines(),
+             QStringList(m_Path + QLatin1String(".good cannot be made: its parameter 8932 does not "
+                                                "match its digest")));
+}
+
+void StoreRecoversFromDamage::remainsOfAnUnfinishedCopyDoNotMatter()
+{
+    for (const char* suffix : {".new", ".good.new"}) {
+        Place(m_FileBytes.left(5000));
+        SetFileBytes(m_Path + QLatin1String(suffix), "half a copy");
+        SetFileBytes(m_Path + QLatin1String(suffix) + QLatin1String("-journal"), "half a journal");
+        TStandardErrorCapture standardError;
+        QCOMPARE(StoredValues(m_Path), m_GoodValues);
+        QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.damaged-1"),
+                                                   QLatin1String("settings.db.good")}));
+    }
+}
+
+QTEST_GUILESS_MAIN(StoreRecoversFromDamage)
+#include "StoreRecoversFromDamage.moc"

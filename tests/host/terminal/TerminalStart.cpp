@@ -1,0 +1,257 @@
+#include "logs/TNEMADiagnosticLogProxy.h"
+#include "logs/TUserLogAccessor.h"
+#include "platform/TLocalTime.h"
+#include "region/TRegionSettingsProxy.h"
+#include "settings/TSettings.h"
+#include "stores/TMemoryStore.h"
+#include "system/TSystemSettingsProxy.h"
+#include "terminal/DataFolder.h"
+#include "terminal/TTerminal.h"
+
+#include <QtTest>
+
+class TerminalStart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void startPublishesAndStopTakesBack();
+    void theOperatorsSelectionsAreBack_data();
+    void theOperatorsSelectionsAreBack();
+    void whatWasNeverSelectedIsWhatADisplayStartsWith();
+    void nothingIsStoredBeforeEverythingIsInPlace();
+    void drivesFollowTheDataFolder();
+    void drivesOfTheStoreAreUsed();
+    void theFolderTreeIsMade();
+    void aFolderThatCannotBeMadeIsNamed();
+    void logsAreOpenUntilTheStop();
+    void theClockOffsetIsBack();
+    void textsFollowTheLanguage_data();
+    void textsFollowTheLanguage();
+    void itStartsAgain();
+
+private:
+    QString Folder() const { return m_Folder->path(); }
+
+    QScopedPointer<QTemporaryDir> m_Folder;
+};
+
+namespace {
+
+/// Tells how often, and with what, the disk would have been written.
+class TRecordingStore : public TParameterStore
+{
+public:
+    QList<QMap<int, QVariant>> persisted;
+
+protected:
+    bool Persist(const QMap<int, QVariant>& changes) override
+    {
+        persisted.append(changes);
+        return true;
+    }
+};
+
+const int FirstSelection = 8919;
+const int LastSelection = 8931;
+
+} // namespace
+
+void TerminalStart::init() { m_Folder.reset(new QTemporaryDir); }
+
+void TerminalStart::startPublishesAndStopTakesBack()
+{
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QVERIFY(!Settings && !ConfigManager && !UserLogAccessorPtr);
+    QString error;
+    QVERIFY2(terminal.Start(Folder(), &error), qPrintable(error));
+    QVERIFY(Settings && UserLogAccessorPtr);
+    QCOMPARE(ConfigManager, static_cast<TConfigManager*>(&store));
+    QCOMPARE(TRegionSettings::GetLanguageString(LANGUAGE_GERMAN), QString::fromLatin1("Deutsch"));
+    QVERIFY(UserLogAccessorPtr->AddEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_DTC, 1, QString(), QString()));
+    terminal.Stop();
+    QVERIFY(!Settings && !ConfigManager && !UserLogAccessorPtr);
+    terminal.Stop();
+}
+
+void TerminalStart::theOperatorsSelectionsAreBack_data()
+{
+    QTest::addColumn<int>("parameter");
+    for (int number = FirstSelection; number <= LastSelection; ++number)
+        QTest::newRow(qPrintable(QString::number(number))) << number;
+}
+
+void TerminalStart::theOperatorsSelectionsAreBack()
+{
+    QFETCH(int, parameter);
+    const EParamID id = static_cast<EParamID>(parameter);
+    TMemoryStore store;
+    store.SetParameter(id, QLatin1String("Chosen"), true);
+    for (int start = 0; start < 2; ++start) {
+        TTerminal terminal(store);
+        QString error;
+        QVERIFY(terminal.Start(Folder(), &error));
+        QCOMPARE(store.GetParameter(id), QVariant(QLatin1String("Chosen")));
+    }
+    QCOMPARE(store.GetParameter(id), QVariant(QLatin1String("Chosen")));
+}
+
+void TerminalStart::whatWasNeverSelectedIsWhatADisplayStartsWith()
+{
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    const TSystemSettingsProxy system;
+    QCOMPARE(system.GetActiveJob(), QString());
+    QCOMPARE(system.GetActiveVehicle(), QString::fromLatin1("No Vehicle"));
+    QCOMPARE(system.GetActiveImplement(), QString::fromLatin1("No Implement"));
+    QCOMPARE(system.GetActiveSprayer(), QString::fromLatin1("No Profile"));
+}
+
+void TerminalStart::nothingIsStoredBeforeEverythingIsInPlace()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("J_1"), true);
+    store.SetParameter(PARAM_METRIC, false, true);
+    store.persisted.clear();
+
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(store.persisted.size(), 1);
+    QVERIFY(!store.persisted.first().contains(PARAM_ACTIVE_JOB)); // never anything else on the disk
+    QVERIFY(!store.persisted.first().contains(PARAM_METRIC));
+    QVERIFY(store.persisted.first().contains(PARAM_ACTIVE_VEHICLE));
+
+    terminal.Stop();
+    store.persisted.clear();
+    QVERIFY(terminal.Start(Folder(), &error));
+    QVERIFY2(store.persisted.isEmpty() || store.persisted.first().isEmpty(), "a second start changes nothing");
+}
+
+void TerminalStart::drivesFollowTheDataFolder()
+{
+    TRecordingStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TSystemSettingsProxy().GetInternalDrivePath(), Folder() + QLatin1String("/internal/"));
+    QString external;
+    QVERIFY(!TSystemSettingsProxy().GetExternalDrivePath(external));
+    QCOMPARE(external, Folder() + QLatin1String("/usb"));
+    for (const auto& changes : store.persisted) {
+        QVERIFY(!changes.contains(PARAM_INTERNAL_DRIVE));
+        QVERIFY(!changes.contains(PARAM_EXTERNAL_DRIVE));
+    }
+}
+
+void TerminalStart::drivesOfTheStoreAreUsed()
+{
+    TMemoryStore store;
+    store.SetParameter(PARAM_INTERNAL_DRIVE, Folder() + QLatin1String("/flash"), true);
+    store.SetParameter(PARAM_EXTERNAL_DRIVE, QLatin1String("/proc"), true);
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TSystemSettingsProxy().GetInternalDrivePath(), Folder() + QLatin1String("/flash/"));
+    QVERIFY(QFileInfo::exists(Folder() + QLatin1String("/flash/Jobs")));
+    QVERIFY(TSystemSettingsProxy().IsExternalDrivePresent());
+}
+
+void TerminalStart::theFolderTreeIsMade()
+{
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    const QDir drive(DataFolder::InternalDrive(Folder()));
+    for (const char* folder : {"Jobs", "Clients", "Boundaries/ShapefilesForBoundary", "Diagnostics/PerformanceTest",
+                               "WaterManagementProjects", "VelmorUploads", "RemoteView"})
+        QVERIFY2(drive.exists(QLatin1String(folder)), folder);
+    // Farms and fields are shown as folders, and are none.
+    QVERIFY(!drive.exists(QLatin1String("Farms")));
+    QVERIFY(!drive.exists(QLatin1String("Fields")));
+}
+
+void TerminalStart::aFolderThatCannotBeMadeIsNamed()
+{
+    QFile file(Folder() + QLatin1String("/internal"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(!terminal.Start(Folder(), &error));
+    QVERIFY2(error.contains(Folder() + QLatin1String("/internal/Jobs")), qPrintable(error));
+    QVERIFY(!Settings && !ConfigManager);
+}
+
+void TerminalStart::logsAreOpenUntilTheStop()
+{
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    QVERIFY(TNEMADiagnosticLogProxy().Log("staged\r\n", 8));
+    QFile log(Folder() + QLatin1String("/internal/Diagnostics/NMEA00001.csv"));
+    QVERIFY(log.exists());
+    QCOMPARE(log.size(), qint64(0));
+    terminal.Stop();
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    QCOMPARE(log.readAll(), QByteArray("staged\r\n"));
+}
+
+void TerminalStart::theClockOffsetIsBack()
+{
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    TRegionSettingsProxy().SetUserDateTime(2030, 1, 2, 3, 4, 5);
+    const int offset = TLocalTime::GetOffset();
+    QVERIFY(offset != 0);
+    terminal.Stop();
+    QCOMPARE(TLocalTime::GetOffset(), 0);
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TLocalTime::GetOffset(), offset);
+}
+
+void TerminalStart::textsFollowTheLanguage_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<QString>("march");
+    QTest::newRow("English") << 0 << "5 Mar, 2024";
+    QTest::newRow("German") << 1 << QString::fromUtf8("5 Mär, 2024");
+    QTest::newRow("no language") << 99 << "5 Mar, 2024";
+}
+
+void TerminalStart::textsFollowTheLanguage()
+{
+    QFETCH(int, language);
+    QFETCH(QString, march);
+    TMemoryStore store;
+    store.SetParameter(PARAM_LANGUAGE, language, true);
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TRegionSettingsProxy().GetDateString(QDate(2024, 3, 5)), march);
+}
+
+void TerminalStart::itStartsAgain()
+{
+    TMemoryStore store;
+    TTerminal terminal(store);
+    QString error;
+    for (int start = 0; start < 3; ++start) {
+        QVERIFY(terminal.Start(Folder(), &error));
+        TSystemSettingsProxy().SetActiveJob(QString::number(start));
+    }
+    terminal.Stop();
+    QCOMPARE(store.GetParameter(PARAM_ACTIVE_JOB), QVariant(QLatin1String("2")));
+}
+
+QTEST_GUILESS_MAIN(TerminalStart)
+#include "TerminalStart.moc"
