@@ -99,7 +99,7 @@ QVariant ParameterText::ToValue(const QString& typeName, const QString& text, QS
     for (const tagType& type : Types) {
         if (typeName != QLatin1String(type.name))
             continue;
-        const QVariant value = type.toValue(text);
+        QVariant value = type.toValue(text);
         if (!value.isValid())
             *error = QString::fromLatin1("\"%1\" is not %2").arg(text, QLatin1String(type.accepted));
         return value;

@@ -32,8 +32,8 @@ public:
     void Start();
 
     /// Ends the stream here; Finished() follows before the return. What a file holds further on is not handed on; of a
-    /// live source, a line that has come in part is. Without effect before Start() and after the end. May be called from
-    /// a slot of LineReceived().
+    /// live source, a line that has come in part is. Without effect before Start() and after the end. May be called
+    /// from a slot of LineReceived().
     void Stop();
 
 signals:

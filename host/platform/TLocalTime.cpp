@@ -12,7 +12,7 @@
 
 namespace {
 
-const qint64 SecondsPerDay = 24 * 60 * 60;
+const qint64 SecondsPerDay = static_cast<qint64>(24) * 60 * 60;
 const qint64 JulianDayOf1970 = 2440588;
 
 std::atomic<int> Offset{0};

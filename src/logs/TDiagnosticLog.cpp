@@ -193,7 +193,7 @@ QString TDiagnosticLog::GenerateNextFileName()
 
 QString TDiagnosticLog::NextLogFileIterationNumber()
 {
-    const QString number = QString::number(m_Iteration).rightJustified(IterationDigits, QLatin1Char('0'));
+    QString number = QString::number(m_Iteration).rightJustified(IterationDigits, QLatin1Char('0'));
     m_Iteration = IterationAfter(m_Iteration);
     Parameters::WriteInt(m_IterationParam, m_Iteration);
     return number;

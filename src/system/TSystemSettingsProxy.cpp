@@ -2,6 +2,8 @@
 
 #include "settings/TSettings.h"
 
+#include <utility>
+
 using Proxy = TSystemSettingsProxy;
 
 QMutex Proxy::Mutex;
@@ -21,7 +23,10 @@ bool Proxy::IsBetaBuild() const { return TSystemSettings::m_isBetaBuild; }
 
 void Proxy::SetSoftwareVersion(const QString& version) { m_Target.By(*this)->SetSoftwareVersion(version); }
 QString Proxy::GetSoftwareVersion(bool beautify) const { return m_Target.By(*this)->GetSoftwareVersion(beautify); }
-QString Proxy::BeautifyVersion(QString version) const { return m_Target.By(*this)->BeautifyVersion(version); }
+QString Proxy::BeautifyVersion(QString version) const
+{
+    return m_Target.By(*this)->BeautifyVersion(std::move(version));
+}
 QString Proxy::GetPackageName() const { return m_Target.By(*this)->GetPackageName(); }
 QString Proxy::GetReprogrammingPackageFilename() const { return m_Target.By(*this)->GetReprogrammingPackageFilename(); }
 QString Proxy::GetChecksumFilename() const { return m_Target.By(*this)->GetChecksumFilename(); }

@@ -1,3 +1,4 @@
+#include "CoreTest.h"
 #include "TestHost.h"
 
 #include "colors/TColorSettings.h"
@@ -236,5 +237,5 @@ void ColorScheme::restoreTouchesNothing()
     QVERIFY(m_Store->writes.isEmpty());
 }
 
-QTEST_MAIN(ColorScheme)
+int main(int argc, char** argv) { return RunCoreTest<ColorScheme>(argc, argv); }
 #include "ColorScheme.moc"

@@ -53,28 +53,70 @@ QTime TTestClock::time;
 int TTestClock::offset = 0;
 int TTestClock::nextOffset = 0;
 
+std::function<void(const QString&)> TTestClock::onCall;
+
 void TTestClock::Reset()
 {
     date = QDate(2024, 3, 5);
     time = QTime(14, 5, 9, 42);
     offset = 0;
     nextOffset = 4711;
+    onCall = nullptr;
 }
 
-QDate TLocalTime::currentDate() { return TTestClock::date; }
-QTime TLocalTime::currentTime() { return TTestClock::time; }
-QDateTime TLocalTime::currentDateTime() { return QDateTime(TTestClock::date, TTestClock::time, Qt::UTC); }
+namespace {
+
+/// Announces a call with its arguments; the text is made only for a test that listens.
+template <class... Number>
+void Announce(const char* operation, Number... argument)
+{
+    if (!TTestClock::onCall)
+        return;
+    QString call = QLatin1String(operation);
+    ((call += QLatin1Char(' ') + QString::number(argument)), ...);
+    TTestClock::onCall(call);
+}
+
+} // namespace
+
+QDate TLocalTime::currentDate()
+{
+    Announce("currentDate");
+    return TTestClock::date;
+}
+
+QTime TLocalTime::currentTime()
+{
+    Announce("currentTime");
+    return TTestClock::time;
+}
+
+QDateTime TLocalTime::currentDateTime()
+{
+    Announce("currentDateTime");
+    return QDateTime(TTestClock::date, TTestClock::time, Qt::UTC);
+}
 
 int TLocalTime::SetDateTime(int year, int month, int day, int hour, int minute, int second)
 {
+    Announce("SetDateTime", year, month, day, hour, minute, second);
     TTestClock::date = QDate(year, month, day);
     TTestClock::time = QTime(hour, minute, second);
     TTestClock::offset = TTestClock::nextOffset;
     return TTestClock::offset;
 }
 
-int TLocalTime::GetOffset() { return TTestClock::offset; }
-void TLocalTime::SetOffset(int offset) { TTestClock::offset = offset; }
+int TLocalTime::GetOffset()
+{
+    Announce("GetOffset");
+    return TTestClock::offset;
+}
+
+void TLocalTime::SetOffset(int offset)
+{
+    Announce("SetOffset", offset);
+    TTestClock::offset = offset;
+}
 
 QString TTestFiles::extensionPattern = QString::fromLatin1("\\.[a-z]+");
 int TTestFiles::extensionPatternAsked = 0;

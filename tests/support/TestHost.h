@@ -53,7 +53,10 @@ struct TTestClock
     static int offset;
     static int nextOffset;
 
-    /// Back to 2024-03-05 14:05:09.042, no offset, nextOffset 4711.
+    /// Called at the start of every operation with its name and arguments ("SetOffset 4711"); may throw.
+    static std::function<void(const QString& call)> onCall;
+
+    /// Back to 2024-03-05 14:05:09.042, no offset, nextOffset 4711, no onCall.
     static void Reset();
 };
 
