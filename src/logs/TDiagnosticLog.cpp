@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
 
 namespace {
@@ -66,12 +67,17 @@ TDiagnosticLog::~TDiagnosticLog() { Close(); }
 
 bool TDiagnosticLog::Restore(const QString& basePath, int maxFileCount, long long maxFileSize)
 {
+    return Restore(basePath, maxFileCount, maxFileSize, NEWEST_BY_TIME);
+}
+
+bool TDiagnosticLog::Restore(const QString& basePath, int maxFileCount, long long maxFileSize, ENewest newest)
+{
     if (m_IsOpen)
         return false;
     m_BasePath = basePath;
     m_MaxFileCount = maxFileCount != 0 ? maxFileCount : m_DefaultMaxFileCount;
     m_MaxFileSize = maxFileSize != 0 ? maxFileSize : m_DefaultMaxFileSize;
-    m_FileName = m_MaxFileCount == 1 ? m_BasePath : GenerateNextFileName();
+    m_FileName = m_MaxFileCount == 1 ? m_BasePath : NextFileName(newest);
     m_File.setFileName(m_FileName);
     return Open();
 }
@@ -131,7 +137,7 @@ bool TDiagnosticLog::WriteToLog(const char* data, int length)
     if (m_File.pos() <= m_MaxFileSize)
         return true;
     CloseWithoutFlush();
-    return Restore(m_BasePath, 0, 0);
+    return Restore(m_BasePath, 0, 0, NEWEST_IS_CURRENT);
 }
 
 bool TDiagnosticLog::AddEntry(const QString& text)
@@ -158,7 +164,7 @@ TDiagnosticLog::tagExportResult TDiagnosticLog::ExportFile(const QString& target
     if (m_BasePath.isEmpty() || !QDir(series.folder).exists())
         return result;
 
-    const QFileInfoList files = FilesOldestFirst(series);
+    const QFileInfoList files = FilesOldestFirst(series, NEWEST_BY_TIME);
     result.filesFound = static_cast<int>(files.size());
     result.allCopied = true;
     for (const QFileInfo& file : files) {
@@ -170,13 +176,15 @@ TDiagnosticLog::tagExportResult TDiagnosticLog::ExportFile(const QString& target
     return result;
 }
 
-QString TDiagnosticLog::GenerateNextFileName()
+QString TDiagnosticLog::GenerateNextFileName() { return NextFileName(NEWEST_BY_TIME); }
+
+QString TDiagnosticLog::NextFileName(ENewest newestIs)
 {
     const tagSeries series = SeriesOf(m_BasePath);
     if (m_BasePath.isEmpty() || !QDir(series.folder).exists())
         return QString();
 
-    const QFileInfoList files = FilesOldestFirst(series);
+    const QFileInfoList files = FilesOldestFirst(series, newestIs);
     if (!files.isEmpty()) {
         const QFileInfo& newest = files.last();
         bool isNumbered = false;
@@ -212,7 +220,7 @@ TDiagnosticLog::tagSeries TDiagnosticLog::SeriesOf(const QString& basePath)
     return {basePath.left(fileStart), file.left(dot), dot < 0 ? QString() : file.mid(dot)};
 }
 
-QFileInfoList TDiagnosticLog::FilesOldestFirst(const tagSeries& series) const
+QFileInfoList TDiagnosticLog::FilesOldestFirst(const tagSeries& series, ENewest newest) const
 {
     // Compared name by name rather than by a wildcard, in which a "[" of the stem would be more than a letter.
     std::vector<tagLogFile> files;
@@ -224,8 +232,10 @@ QFileInfoList TDiagnosticLog::FilesOldestFirst(const tagSeries& series) const
             continue;
         bool isNumbered = false;
         const int number = series.NumberOf(name, &isNumbered);
-        files.push_back({entry, entry.lastModified().toMSecsSinceEpoch(), series.folder + name == m_FileName,
-                         isNumbered ? number : -1});
+        const bool isCurrent = series.folder + name == m_FileName;
+        const qint64 modified = isCurrent && newest == NEWEST_IS_CURRENT ? std::numeric_limits<qint64>::max()
+                                                                         : entry.lastModified().toMSecsSinceEpoch();
+        files.push_back({entry, modified, isCurrent, isNumbered ? number : -1});
     }
 
     RankRound(files);

@@ -96,8 +96,19 @@ private:
         int NumberOf(const QString& fileName, bool* isNumbered) const;
     };
 
+    /// Which file of the series counts as the newest. While the log goes on to its next file that is the one it has
+    /// just filled, even if the machine's clock was set back and older files seem to be newer: else the next number
+    /// would be taken from one of those, and what was just written be removed as the oldest.
+    enum ENewest
+    {
+        NEWEST_BY_TIME,
+        NEWEST_IS_CURRENT
+    };
+
+    bool Restore(const QString& basePath, int maxFileCount, long long maxFileSize, ENewest newest);
+    QString NextFileName(ENewest newestIs);
     static tagSeries SeriesOf(const QString& basePath);
-    QFileInfoList FilesOldestFirst(const tagSeries& series) const;
+    QFileInfoList FilesOldestFirst(const tagSeries& series, ENewest newest) const;
 
     std::vector<char> m_Staging;
     int m_StagingFill;
