@@ -33,7 +33,8 @@ TCommandLine::TCommandLine(const QString& command, const QString& usage, const Q
 void TCommandLine::AddOption(const QString& name, const QString& description, const QString& valueName,
                              const QString& defaultValue)
 {
-    m_Parser.addOption(QCommandLineOption(name, description, valueName, defaultValue));
+    const QString ending = defaultValue.isEmpty() ? QString() : QString::fromLatin1(" [%1]").arg(defaultValue);
+    m_Parser.addOption(QCommandLineOption(name, description + ending, valueName, defaultValue));
 }
 
 std::optional<int> TCommandLine::Read(const QStringList& arguments, int fewest, int most)
@@ -99,7 +100,7 @@ void TCommandLine::PrintHelp() const
 {
     // Qt's text knows nothing of commands: its first line, the usage, is ours.
     const QString text = m_Parser.helpText();
-    Print(QString::fromLatin1("Usage: cabsettings [--data DIR] %1 [options] %2\n").arg(m_Command, m_Usage) +
+    Print(QString::fromLatin1("Usage: cabsettings [--data DIR] %1 [options] %2\n\n").arg(m_Command, m_Usage) +
           text.mid(text.indexOf(QLatin1Char('\n')) + 1) + QLatin1String("\nExample:\n  ") + m_Example +
           QLatin1Char('\n'));
 }

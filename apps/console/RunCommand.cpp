@@ -68,6 +68,8 @@ int RunRun(const tagContext& context, const QStringList& arguments)
         return STATUS_FAILED;
     TNmeaReceiver receiver;
     const QString problem = Receive(source, *speed, receiver);
+    if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
+        return Fail(problem); // nothing to sum up
     PrintRunSummary(session.Store(), receiver.GetStatus());
     if (!problem.isEmpty())
         return Fail(problem);

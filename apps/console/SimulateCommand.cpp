@@ -77,7 +77,7 @@ std::optional<tagFieldPlan> ReadPlan(const TCommandLine& line)
         plan.*option.value = *value;
     }
     for (const tagWholeOption& option : WholeOptions) {
-        const auto value = line.WholeNumber(QLatin1String(option.name), 1, GreatestInt);
+        const auto value = line.WholeNumber(QLatin1String(option.name), -GreatestInt, GreatestInt);
         if (!value)
             return std::nullopt;
         plan.*option.value = *value;

@@ -52,8 +52,8 @@ void ConsoleUsage::wrongUsageSaysWhatIsAccepted_data()
     row("run without stream", "run", "--nmea", "a file, or -");
     row("run with a bad speed", "run --nmea x --speed fast", "\"fast\"", "0 to 1000");
     row("run with a negative speed", "run --nmea x --speed -1", "\"-1\"", "0 to 1000");
-    row("simulate with a bad rate", "simulate --rate 0", "rate", "1");
-    row("simulate with a bad latitude", "simulate --lat 91", "lat", "85");
+    row("simulate with a bad rate", "simulate --rate 0", "rate (Hz): 0", "1 to 20");
+    row("simulate with a bad latitude", "simulate --lat 91", "latitude (degrees): 91", "-85 to 85");
     row("simulate with a bad time", "simulate --start yesterday", "\"yesterday\"", "2026-");
 }
 
