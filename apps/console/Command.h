@@ -45,4 +45,7 @@ int RunGet(const tagContext& context, const QStringList& arguments);
 int RunSet(const tagContext& context, const QStringList& arguments);
 int RunList(const tagContext& context, const QStringList& arguments);
 int RunPaths(const tagContext& context, const QStringList& arguments);
+int RunUnits(const tagContext& context, const QStringList& arguments);
+int RunConvert(const tagContext& context, const QStringList& arguments);
+int RunShow(const tagContext& context, const QStringList& arguments);
 int RunLog(const tagContext& context, const QStringList& arguments);

@@ -9,6 +9,15 @@ namespace {
 
 const char* const HelpOption = "help";
 
+/// Put before a negative number, so that the parser takes it for a word. No argument can hold this character.
+const QChar WordMark(0);
+
+bool LooksLikeNegativeNumber(const QString& text)
+{
+    return text.size() > 1 && text.at(0) == QLatin1Char('-') &&
+           (text.at(1).isDigit() || text.at(1) == QLatin1Char('.'));
+}
+
 std::optional<double> ToNumber(const QString& text)
 {
     bool isNumber = false;
@@ -24,8 +33,6 @@ TCommandLine::TCommandLine(const QString& command, const QString& usage, const Q
 {
     m_Parser.setApplicationDescription(description);
     m_Parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    // Options come first, so that a value such as -5 is no option.
-    m_Parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     m_Parser.addOption(
         QCommandLineOption({QLatin1String("h"), QLatin1String(HelpOption)}, QLatin1String("Shows this help.")));
 }
@@ -34,12 +41,35 @@ void TCommandLine::AddOption(const QString& name, const QString& description, co
                              const QString& defaultValue)
 {
     const QString ending = defaultValue.isEmpty() ? QString() : QString::fromLatin1(" [%1]").arg(defaultValue);
+    if (!valueName.isEmpty())
+        m_OptionsWithValue.append(name);
     m_Parser.addOption(QCommandLineOption(name, description + ending, valueName, defaultValue));
+}
+
+QStringList TCommandLine::WithNumbersAsWords(QStringList arguments) const
+{
+    for (int i = 1; i < arguments.size() && arguments.at(i) != QLatin1String("--"); ++i) {
+        if (LooksLikeNegativeNumber(arguments.at(i)))
+            arguments[i].prepend(WordMark);
+        else if (arguments.at(i).startsWith(QLatin1String("--")) && m_OptionsWithValue.contains(arguments.at(i).mid(2)))
+            ++i;
+    }
+    return arguments;
+}
+
+QStringList TCommandLine::Words() const
+{
+    QStringList words = m_Parser.positionalArguments();
+    for (QString& word : words) {
+        if (word.startsWith(WordMark))
+            word.remove(0, 1);
+    }
+    return words;
 }
 
 std::optional<int> TCommandLine::Read(const QStringList& arguments, int fewest, int most)
 {
-    if (!m_Parser.parse(arguments))
+    if (!m_Parser.parse(WithNumbersAsWords(arguments)))
         return Misused(m_Parser.errorText());
     if (m_Parser.isSet(QLatin1String(HelpOption))) {
         PrintHelp();

@@ -26,7 +26,7 @@ public:
 
     bool IsSet(const QString& option) const { return m_Parser.isSet(option); }
     QString Value(const QString& option) const { return m_Parser.value(option); }
-    QStringList Words() const { return m_Parser.positionalArguments(); }
+    QStringList Words() const;
 
     /// The option's value as a finite number; a line on standard error and nothing when it is none, or outside a range.
     std::optional<double> Number(const QString& option) const;
@@ -37,10 +37,13 @@ public:
     int Misused(const QString& text) const;
 
 private:
+    /// @p arguments with negative numbers marked as the words that they are: the parser would take them for options.
+    QStringList WithNumbersAsWords(QStringList arguments) const;
     void PrintHelp() const;
 
     QString m_Command;
     QString m_Usage;
     QString m_Example;
+    QStringList m_OptionsWithValue;
     QCommandLineParser m_Parser;
 };

@@ -16,6 +16,9 @@ const tagCommand Commands[] = {
     {"set", "Sets a parameter.", RunSet},
     {"list", "Lists the parameters.", RunList},
     {"paths", "Prints where the files of a job lie.", RunPaths},
+    {"units", "Lists the units.", RunUnits},
+    {"convert", "Converts a value or a column of values.", RunConvert},
+    {"show", "Prints a value as the operator sees it.", RunShow},
     {"log", "Adds to the logs and exports them.", RunLog},
 };
 

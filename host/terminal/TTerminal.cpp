@@ -5,8 +5,10 @@
 #include "region/TRegionSettings.h"
 #include "settings/TSettings.h"
 #include "stores/TPersistenceHold.h"
+#include "terminal/Catalogue.h"
 #include "terminal/DataFolder.h"
 #include "terminal/FirstStartValues.h"
+#include "units/TUnitAbbreviations.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -62,7 +64,8 @@ bool TTerminal::Start(const QString& dataFolder, QString* error)
     }
 
     TRegionSettings::InitializeLanguageStrings();
-    InstallTranslator();
+    InstallCatalogue(m_Translator);
+    TUnitAbbreviations::Initialize();
     RestoreSettings();
     m_UserLogAccessor = std::make_unique<TUserLogAccessor>();
     UserLogAccessorPtr = m_UserLogAccessor.get();
@@ -97,13 +100,6 @@ void TTerminal::PlaceDrives(const QString& dataFolder)
     const QString internal = m_Store.GetParameter(PARAM_INTERNAL_DRIVE).toString();
     if (!internal.endsWith(QLatin1Char('/')))
         m_Store.SetParameter(PARAM_INTERNAL_DRIVE, internal + QLatin1Char('/'), false);
-}
-
-void TTerminal::InstallTranslator()
-{
-    const QString extension = TRegionSettings().GetLanguageExtension();
-    if (m_Translator.load(QLatin1String(":/translations/cabsettings") + extension))
-        QCoreApplication::installTranslator(&m_Translator);
 }
 
 void TTerminal::RestoreSettings()

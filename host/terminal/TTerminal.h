@@ -41,7 +41,6 @@ public:
 
 private:
     void PlaceDrives(const QString& dataFolder);
-    void InstallTranslator();
     void RestoreSettings();
 
     TParameterStore& m_Store;

@@ -27,8 +27,8 @@ void ConsoleUsage::wrongUsageSaysWhatIsAccepted_data()
         QTest::newRow(name) << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
                             << QString::fromUtf8(named) << QString::fromUtf8(accepted);
     };
-    row("no command", "", "a command is missing", "run, simulate, get, set, list, paths, log");
-    row("unknown command", "fly", "\"fly\"", "run, simulate, get, set, list, paths, log");
+    row("no command", "", "a command is missing", "run, simulate, get, set, list, paths, units, convert, show, log");
+    row("unknown command", "fly", "\"fly\"", "run, simulate, get, set, list, paths, units, convert, show, log");
     row("unknown log command", "log burn", "\"burn\"", "add, export");
     row("no log command", "log", "a command is missing", "add, export");
     row("unknown option", "list --colour", "colour", "list --help");
@@ -74,7 +74,8 @@ void ConsoleUsage::wrongUsageSaysWhatIsAccepted()
 void ConsoleUsage::everyCommandHasHelp_data()
 {
     QTest::addColumn<QStringList>("command");
-    for (const char* command : {"run", "simulate", "get", "set", "list", "paths", "log add", "log export"})
+    for (const char* command :
+         {"run", "simulate", "get", "set", "list", "paths", "units", "convert", "show", "log add", "log export"})
         QTest::newRow(command) << QString::fromLatin1(command).split(QLatin1Char(' '));
     QTest::newRow("the program") << QStringList();
     QTest::newRow("log") << QStringList{QLatin1String("log")};

@@ -1,0 +1,13 @@
+#include "terminal/Catalogue.h"
+
+#include "region/TRegionSettings.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+bool InstallCatalogue(QTranslator& translator)
+{
+    const QString extension = TRegionSettings().GetLanguageExtension();
+    return translator.load(QLatin1String(":/translations/cabsettings") + extension) &&
+           QCoreApplication::installTranslator(&translator);
+}

@@ -1,0 +1,76 @@
+// Positions, durations and dates as texts.
+
+#include "settings/Parameters.h"
+#include "units/NumberText.h"
+#include "units/TUnitAbbreviations.h"
+#include "units/TUnits.h"
+
+#include <cmath>
+
+namespace {
+
+const float OneMinuteInHours = 0.016666668f;
+const int MostHoursShown = 100;
+
+/// "12°34'56.78"N". Seconds of 59.995 and more read 60.00: nothing is carried.
+QString DegreesMinutesSeconds(double degrees, char hemisphere)
+{
+    const double magnitude = std::fabs(degrees);
+    const int wholeDegrees = NumberText::Truncated(magnitude);
+    const double fraction = magnitude - wholeDegrees;
+    const int minutes = NumberText::Truncated(fraction * 60);
+    const double seconds = (fraction - minutes / 60.0) * 3600;
+    return QString::number(wholeDegrees) + QChar(0xB0) + NumberText::TwoDigits(minutes) + QLatin1Char('\'') +
+           QString::fromLatin1("%1").arg(seconds, 5, 'f', 2, QLatin1Char('0')) + QLatin1Char('"') +
+           QLatin1Char(hemisphere);
+}
+
+// Positions keep their full stop whatever the display's decimal point: they are copied into other systems.
+QString Position(double degrees, char positive, char negative)
+{
+    if (!Parameters::ReadBool(PARAM_DEGREES_MINUTES_SECONDS))
+        return QString::number(degrees, 'f', 8);
+    return DegreesMinutesSeconds(degrees, degrees < 0 ? negative : positive);
+}
+
+QString Duration(double value, int decimals, EUnitsType unit)
+{
+    return TUnits::InternalToDisplayableFloatStr(QString::number(value, 'f', decimals) + QLatin1Char(' ') +
+                                                 TUnitAbbreviations::UnitAbbreviations[unit]);
+}
+
+} // namespace
+
+QString TUnits::GetLatitudeString(double degrees) { return Position(degrees, 'N', 'S'); }
+QString TUnits::GetLongitudeString(double degrees) { return Position(degrees, 'E', 'W'); }
+
+QString TUnits::GetDurationString(float hours)
+{
+    const float magnitude = std::fabs(hours);
+    const double value = static_cast<double>(hours);
+    if (magnitude < OneMinuteInHours)
+        return Duration(value * 3600, 0, UNITS_SECONDS);
+    if (magnitude < 1.0f)
+        return Duration(value * 60, 0, UNITS_MINUTES);
+    return Duration(value, 1, UNITS_HOURS);
+}
+
+QString TUnits::GetFormattedDurationString(double minutes)
+{
+    const int hours = NumberText::Truncated(minutes / 60);
+    const QString text = hours <= MostHoursShown
+                             ? NumberText::TwoDigits(hours) + QLatin1Char(':') +
+                                   NumberText::TwoDigits(NumberText::Truncated(minutes) % 60) + QLatin1Char(' ')
+                             : QString::fromLatin1("> 100 ");
+    return text + TUnitAbbreviations::UnitAbbreviations[UNITS_HOURS];
+}
+
+QString TUnits::GetDateString(bool monthFirst, const QDate& date)
+{
+    const int month = date.month();
+    const QString name =
+        month >= 1 && month <= TUnitAbbreviations::MonthCount ? TUnitAbbreviations::Months[month - 1] : QString();
+    const QString day = QString::number(date.day());
+    return (monthFirst ? name + QLatin1Char(' ') + day : day + QLatin1Char(' ') + name) + QLatin1String(", ") +
+           QString::number(date.year());
+}

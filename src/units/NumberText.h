@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <cmath>
+#include <limits>
+
+/// Pieces of texts that show numbers.
+namespace NumberText {
+
+/// Toward zero; the nearest int for a value beyond its range, 0 for NaN.
+inline int Truncated(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    if (value >= static_cast<double>(std::numeric_limits<int>::max()))
+        return std::numeric_limits<int>::max();
+    if (value <= static_cast<double>(std::numeric_limits<int>::min()))
+        return std::numeric_limits<int>::min();
+    return static_cast<int>(value);
+}
+
+/// At least two characters, "07".
+inline QString TwoDigits(int value) { return QString::fromLatin1("%1").arg(value, 2, 10, QLatin1Char('0')); }
+
+} // namespace NumberText
