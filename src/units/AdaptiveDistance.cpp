@@ -43,7 +43,7 @@ QString Metric(float meters, bool noDecimals)
 QString Feet(float meters, bool noDecimals)
 {
     const double feet = std::trunc(U::ConvertMetersToFeet(meters));
-    const QString text = Close(feet, 0, UNITS_FEET);
+    QString text = Close(feet, 0, UNITS_FEET);
     const float magnitude = std::fabs(meters);
     if (noDecimals || !(U::ConvertMetersToFeet(magnitude) < TenFeet))
         return text;
