@@ -40,6 +40,7 @@ int main(int argc, char* argv[])
     TStore store;
     ConfigManager = &store;
     store.values[PARAM_INTERNAL_DRIVE] = QDir::currentPath() + QLatin1String("/drive/");
+    store.values[PARAM_EXTERNAL_DRIVE] = QDir::currentPath(); // no mount point: no stick
 
     TSettings settings;
     Settings = &settings;
