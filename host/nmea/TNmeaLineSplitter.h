@@ -14,7 +14,7 @@ class CABHOST_EXPORT TNmeaLineSplitter
 {
 public:
     /// Bytes, line end included.
-    static const int MaxLineLength = 4096;
+    static constexpr int MaxLineLength = 4096;
 
     void Append(const char* data, int length);
 

@@ -52,7 +52,7 @@ public:
     };
 
     /// How many lines without a valid time stand for a minute when wrong checksums are counted.
-    static const int LinesWithoutTime = 1000;
+    static constexpr int LinesWithoutTime = 1000;
 
     TNmeaReceiver();
     ~TNmeaReceiver();

@@ -22,7 +22,7 @@ public:
     TRegionSettings();
 
     /// Number of languages, the valid indices being 0 to one less.
-    static const int LanguageCount = 28;
+    static constexpr int LanguageCount = 28;
 
     /// Each language's own name for itself, and the suffix of its translation files ("_de"). Empty texts until
     /// InitializeLanguageStrings() has run.

@@ -19,7 +19,9 @@ QString DegreesMinutesSeconds(double degrees, char hemisphere)
     const int wholeDegrees = NumberText::Truncated(magnitude);
     const double fraction = magnitude - wholeDegrees;
     const int minutes = NumberText::Truncated(fraction * 60);
-    const double seconds = (fraction - minutes / 60.0) * 3600;
+    // Just below a whole minute the product above may round up to it; the rest is then a hair below zero.
+    const double rest = (fraction - minutes / 60.0) * 3600;
+    const double seconds = rest < 0 ? 0.0 : rest;
     return QString::number(wholeDegrees) + QChar(0xB0) + NumberText::TwoDigits(minutes) + QLatin1Char('\'') +
            QString::fromLatin1("%1").arg(seconds, 5, 'f', 2, QLatin1Char('0')) + QLatin1Char('"') +
            QLatin1Char(hemisphere);

@@ -14,8 +14,8 @@ class CABSETTINGS_EXPORT TUnitAbbreviations : public QObject
 
 public:
     /// Number of units, the valid numbers being 0 to one less.
-    static const int UnitCount = 115;
-    static const int MonthCount = 12;
+    static constexpr int UnitCount = 115;
+    static constexpr int MonthCount = 12;
 
     /// By EUnitsType.
     static QString UnitAbbreviations[UnitCount];

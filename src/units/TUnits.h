@@ -26,7 +26,7 @@ public:
     };
 
     /// Asks the GetValueString() of a unit for the precision that depends on the value itself.
-    static const int DynamicPrecision = 100;
+    static constexpr int DynamicPrecision = 100;
 
     // ---- Factors --------------------------------------------------------------------------------------------------
 
@@ -265,7 +265,9 @@ public:
     /// is out of its range. Never one marked "(US)".
     static EUnitsType DetermineActualUnitFromUnitsType(EUnitsType type);
 
-    /// Between the hub of @p type and the unit in which @p type is shown, by ConvertUnit().
+    /// Between the hub of @p type and the unit in which @p type is shown, by ConvertUnit(): where that has no
+    /// conversion (km/h and mph, degrees, rates per travelled distance), the value comes back as it is. CanConvert()
+    /// tells.
     static double GetValueInCurrentUnit(double value, EUnitsType type);
     static double GetValueInDefaultUnit(double value, EUnitsType type);
 
