@@ -8,17 +8,14 @@ namespace {
 
 const int NotGiven = -1;
 
-/// Whether @p value is shown without a first decimal. The float is widened by the shortest decimal text that names it:
-/// 99.95 is looked at as the 99.95 that will be printed, not as the 99.94999… that its bits are.
+/// Whether @p value, a finite one, is shown without a first decimal. The float is widened by the shortest decimal text
+/// that names it: 99.95 is looked at as the 99.95 that will be printed, not as the 99.94999… that its bits are.
 bool RoundsToWhole(float value)
 {
-    const int digitsOfAnyFloat = 9;
-    double named = static_cast<double>(value);
-    for (int digits = 1; digits <= digitsOfAnyFloat; ++digits) {
-        named = QString::number(static_cast<double>(value), 'g', digits).toDouble();
-        if (static_cast<float>(named) == value)
-            break;
-    }
+    const double exact = static_cast<double>(value);
+    double named = QString::number(exact, 'g', 1).toDouble();
+    for (int digits = 2; static_cast<float>(named) != value; ++digits) // 9 digits name any float
+        named = QString::number(exact, 'g', digits).toDouble();
     return QString::number(named, 'f', 1).endsWith(QLatin1Char('0'));
 }
 

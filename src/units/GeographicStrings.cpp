@@ -11,6 +11,7 @@ namespace {
 
 const float OneMinuteInHours = 0.016666668f;
 const int MostHoursShown = 100;
+const int MinutesPerHour = 60;
 
 /// "12°34'56.78"N". Seconds of 59.995 and more read 60.00: nothing is carried.
 QString DegreesMinutesSeconds(double degrees, char hemisphere)
@@ -59,20 +60,22 @@ QString TUnits::GetDurationString(float hours)
 
 QString TUnits::GetFormattedDurationString(double minutes)
 {
+    const QString& unit = TUnitAbbreviations::UnitAbbreviations[UNITS_HOURS];
     const int hours = NumberText::Truncated(minutes / 60);
-    const QString text = hours <= MostHoursShown
-                             ? NumberText::TwoDigits(hours) + QLatin1Char(':') +
-                                   NumberText::TwoDigits(NumberText::Truncated(minutes) % 60) + QLatin1Char(' ')
-                             : QString::fromLatin1("> 100 ");
-    return text + TUnitAbbreviations::UnitAbbreviations[UNITS_HOURS];
+    if (hours > MostHoursShown)
+        return QLatin1String("> 100 ") + unit;
+    return NumberText::TwoDigits(hours) + QLatin1Char(':') +
+           NumberText::TwoDigits(NumberText::Truncated(minutes) % MinutesPerHour) + QLatin1Char(' ') + unit;
 }
 
 QString TUnits::GetDateString(bool monthFirst, const QDate& date)
 {
     const int month = date.month();
-    const QString name =
-        month >= 1 && month <= TUnitAbbreviations::MonthCount ? TUnitAbbreviations::Months[month - 1] : QString();
+    QString name;
+    if (month >= 1 && month <= TUnitAbbreviations::MonthCount)
+        name = TUnitAbbreviations::Months[month - 1];
     const QString day = QString::number(date.day());
-    return (monthFirst ? name + QLatin1Char(' ') + day : day + QLatin1Char(' ') + name) + QLatin1String(", ") +
-           QString::number(date.year());
+    const QString& first = monthFirst ? name : day;
+    const QString& second = monthFirst ? day : name;
+    return first + QLatin1Char(' ') + second + QLatin1String(", ") + QString::number(date.year());
 }

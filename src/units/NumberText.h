@@ -21,6 +21,6 @@ inline int Truncated(double value)
 }
 
 /// At least two characters, "07".
-inline QString TwoDigits(int value) { return QString::fromLatin1("%1").arg(value, 2, 10, QLatin1Char('0')); }
+inline QString TwoDigits(int value) { return QString::number(value).rightJustified(2, QLatin1Char('0')); }
 
 } // namespace NumberText

@@ -139,8 +139,8 @@ QString NumberOrDashes(double value)
 
 QString ErrorText(double percent)
 {
-    static const QString above = QString::fromLatin1(">%1").arg(GreatestErrorShown);
-    static const QString below = QString::fromLatin1("<%1").arg(-GreatestErrorShown);
+    static const QString above = QLatin1Char('>') + QString::number(GreatestErrorShown);
+    static const QString below = QLatin1Char('<') + QString::number(-GreatestErrorShown);
     if (std::isfinite(percent) && percent > GreatestErrorShown)
         return above;
     if (std::isfinite(percent) && percent < -GreatestErrorShown)

@@ -190,8 +190,10 @@ QString TUnits::GetValueString(double value, EUnitsType type, int precision, con
             return row.text(request);
     }
     const QString abbreviation = TUnitAbbreviations::GetStringFromUnitType(type, true);
-    const QString number = NumberOf(value, precision);
-    return InternalToDisplayableFloatStr(abbreviation.isEmpty() ? number : number + QLatin1Char(' ') + abbreviation);
+    QString text = NumberOf(value, precision);
+    if (!abbreviation.isEmpty())
+        text += QLatin1Char(' ') + abbreviation;
+    return InternalToDisplayableFloatStr(text);
 }
 
 void TUnits::GetValueUnitString(double value, QString& valueText, QString& unitText, const QString& unit, int precision,
