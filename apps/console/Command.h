@@ -48,4 +48,5 @@ int RunPaths(const tagContext& context, const QStringList& arguments);
 int RunUnits(const tagContext& context, const QStringList& arguments);
 int RunConvert(const tagContext& context, const QStringList& arguments);
 int RunShow(const tagContext& context, const QStringList& arguments);
+int RunDump(const tagContext& context, const QStringList& arguments);
 int RunLog(const tagContext& context, const QStringList& arguments);

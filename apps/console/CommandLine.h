@@ -26,6 +26,7 @@ public:
 
     bool IsSet(const QString& option) const { return m_Parser.isSet(option); }
     QString Value(const QString& option) const { return m_Parser.value(option); }
+    QStringList Values(const QString& option) const { return m_Parser.values(option); }
     QStringList Words() const;
 
     /// The option's value as a finite number; a line on standard error and nothing when it is none, or outside a range.

@@ -19,6 +19,7 @@ const tagCommand Commands[] = {
     {"units", "Lists the units.", RunUnits},
     {"convert", "Converts a value or a column of values.", RunConvert},
     {"show", "Prints a value as the operator sees it.", RunShow},
+    {"dump", "Prints what stands in a file of serialized blocks.", RunDump},
     {"log", "Adds to the logs and exports them.", RunLog},
 };
 

@@ -6,6 +6,7 @@
 #include "logs/TUserLogAccessor.h"
 #include "region/TRegionSettingsProxy.h"
 #include "settings/TImplementPathSetting.h"
+#include "settings/TSerializer.h"
 #include "settings/TSettings.h"
 #include "system/TSystemSettingsProxy.h"
 
@@ -50,6 +51,18 @@ using Log = TDiagnosticLogProxy;
 using NMEALog = TNEMADiagnosticLogProxy;
 using UserLog = TUserDiagnosticLogProxy;
 
+template <typename T>
+int WriteSlot()
+{
+    return SlotOf(static_cast<TSerializer& (TSerializer::*)(const T&)>(&TSerializer::operator<<));
+}
+
+template <typename T>
+int ReadSlot()
+{
+    return SlotOf(static_cast<TSerializer& (TSerializer::*)(T&)>(&TSerializer::operator>>));
+}
+
 } // namespace
 
 /// Hosts and libraries of other builds call through these tables: an operation that moves breaks them without a word.
@@ -69,7 +82,27 @@ void VirtualSlots::everyOperationKeepsItsSlot_data()
     QTest::addColumn<int>("slot");
     QTest::addColumn<int>("expected");
 
-    // The destructor takes slots 0 and 1.
+    QTest::newRow("TSerializer::atEnd") << SlotOf(&TSerializer::atEnd) << 0;
+    QTest::newRow("TSerializer::writeStartOfDataBlock") << SlotOf(&TSerializer::writeStartOfDataBlock) << 1;
+    QTest::newRow("TSerializer::readStartOfDataBlock") << SlotOf(&TSerializer::readStartOfDataBlock) << 2;
+    QTest::newRow("TSerializer << unsigned int") << WriteSlot<unsigned int>() << 3;
+    QTest::newRow("TSerializer << int") << WriteSlot<int>() << 4;
+    QTest::newRow("TSerializer << float") << WriteSlot<float>() << 5;
+    QTest::newRow("TSerializer << double") << WriteSlot<double>() << 6;
+    QTest::newRow("TSerializer << bool") << WriteSlot<bool>() << 7;
+    QTest::newRow("TSerializer << QString") << WriteSlot<QString>() << 8;
+    QTest::newRow("TSerializer << QVector<int>") << WriteSlot<QVector<int>>() << 9;
+    QTest::newRow("TSerializer << QByteArray") << WriteSlot<QByteArray>() << 10;
+    QTest::newRow("TSerializer >> unsigned int") << ReadSlot<unsigned int>() << 11;
+    QTest::newRow("TSerializer >> int") << ReadSlot<int>() << 12;
+    QTest::newRow("TSerializer >> float") << ReadSlot<float>() << 13;
+    QTest::newRow("TSerializer >> double") << ReadSlot<double>() << 14;
+    QTest::newRow("TSerializer >> bool") << ReadSlot<bool>() << 15;
+    QTest::newRow("TSerializer >> QString") << ReadSlot<QString>() << 16;
+    QTest::newRow("TSerializer >> QVector<int>") << ReadSlot<QVector<int>>() << 17;
+    QTest::newRow("TSerializer >> QByteArray") << ReadSlot<QByteArray>() << 18;
+
+    // Everywhere else the destructor takes slots 0 and 1.
     QTest::newRow("TConfigManager::SetParameter") << SlotOf(&Store::SetParameter) << 2;
     QTest::newRow("TConfigManager::GetParameter") << SlotOf(&Store::GetParameter) << 3;
 
@@ -144,6 +177,8 @@ void VirtualSlots::theDestructorComesFirst()
     QVERIFY(std::has_virtual_destructor_v<TDiagnosticLogProxy>);
     QVERIFY(std::has_virtual_destructor_v<TUserLogAccessor>);
     QVERIFY(std::is_abstract_v<TDiagnosticLogProxy>);
+    QVERIFY(std::is_abstract_v<TSerializer>);
+    QVERIFY(!std::has_virtual_destructor_v<TSerializer>);
 }
 
 int main(int argc, char** argv) { return RunCoreTest<VirtualSlots>(argc, argv); }
