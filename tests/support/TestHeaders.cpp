@@ -1,0 +1,1 @@
+// Nothing of its own: the target only precompiles headers for the tests.
