@@ -1,16 +1,34 @@
-# What a program elsewhere finds with find_package(CabSettings [COMPONENTS Host]).
+# What a program elsewhere finds with find_package(CabSettings [COMPONENTS Host]), or with pkg-config as cabsettings and
+# cabhost. Nothing that is installed knows where it lies: a prefix can be moved.
 include(CMakePackageConfigHelpers)
 
 set(_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CabSettings)
+set(_pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${_pkgconfig_dir}
+    OUTPUT_VARIABLE _pkgconfig_to_prefix)
 
-install(TARGETS CabSettings EXPORT CabSettingsTargets
-    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabsettings)
-install(EXPORT CabSettingsTargets NAMESPACE CabSettings:: DESTINATION ${_package_dir})
+# The parts of each generation of Qt that the headers include, by the names of find_package() and of pkg-config.
+set(_components_of_qt4 QtCore QtGui)
+set(_components_of_qt5 Core Gui)
+set(_components_of_qt6 Core Gui Core5Compat)
+set(_packages_of_qt4 QtCore QtGui)
+set(_packages_of_qt5 Qt5Core Qt5Gui)
+set(_packages_of_qt6 Qt6Core Qt6Gui Qt6Core5Compat)
+list(JOIN _components_of_qt${CABSETTINGS_QT} " " _qt_components)
+list(JOIN _packages_of_qt${CABSETTINGS_QT} " " _qt_packages)
 
+# cabsettings_install(target folder exports): a library, its headers below include/folder, and what finds it.
+function(cabsettings_install target folder exports)
+    install(TARGETS ${target} EXPORT ${exports}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+    install(EXPORT ${exports} NAMESPACE CabSettings:: DESTINATION ${_package_dir})
+    configure_file(cmake/${folder}.pc.in ${folder}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${folder}.pc DESTINATION ${_pkgconfig_dir})
+endfunction()
+
+cabsettings_install(CabSettings cabsettings CabSettingsTargets)
 if(CABSETTINGS_HOST)
-    install(TARGETS CabHost EXPORT CabSettingsHostTargets
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cabhost)
-    install(EXPORT CabSettingsHostTargets NAMESPACE CabSettings:: DESTINATION ${_package_dir})
+    cabsettings_install(CabHost cabhost CabSettingsHostTargets)
     install(TARGETS cabsettings-console)
 endif()
 
@@ -18,6 +36,6 @@ configure_package_config_file(cmake/CabSettingsConfig.cmake.in CabSettingsConfig
     INSTALL_DESTINATION ${_package_dir})
 write_basic_package_version_file(CabSettingsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
-    ${CMAKE_CURRENT_BINARY_DIR}/CabSettingsConfig.cmake
-    ${CMAKE_CURRENT_BINARY_DIR}/CabSettingsConfigVersion.cmake
+    ${PROJECT_BINARY_DIR}/CabSettingsConfig.cmake
+    ${PROJECT_BINARY_DIR}/CabSettingsConfigVersion.cmake
     DESTINATION ${_package_dir})

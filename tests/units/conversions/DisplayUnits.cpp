@@ -278,7 +278,8 @@ void DisplayUnits::someUnitsFollowAChoice()
 {
     QFETCH(int, unit);
     const QList<int> areas = QList<int>() << 8 << 28 << 30 << 40 << 44 << 75 << 80 << 100;
-    QCOMPARE(TUnits::IsSpecifiedAreaUnit(Unit(unit)), areas.contains(unit));
+    const bool isArea = areas.contains(unit);
+    QCOMPARE(TUnits::IsSpecifiedAreaUnit(Unit(unit)), isArea);
     QCOMPARE(TUnits::IsSpecifiedPressureUnit(Unit(unit)), unit == 58);
     QCOMPARE(TUnits::IsSpecifiedShortDistanceUnit(Unit(unit)), unit == 1 || unit == 5 || unit == 7);
 }
