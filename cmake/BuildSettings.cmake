@@ -24,3 +24,11 @@ if(CABSETTINGS_SANITIZE)
         -fsanitize=${CABSETTINGS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(BuildSettings INTERFACE -fsanitize=${CABSETTINGS_SANITIZE})
 endif()
+
+# The thread sanitizer learns from these what Qt's locks and threads do, which are built without it.
+if(CABSETTINGS_SANITIZE STREQUAL "thread")
+    add_library(ThreadAnnotations OBJECT ${PROJECT_SOURCE_DIR}/tests/threads/ThreadAnnotations.cpp)
+    target_link_libraries(ThreadAnnotations PRIVATE Qt${CABSETTINGS_QT}::Core BuildSettings)
+    target_sources(BuildSettings INTERFACE
+        $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:$<TARGET_OBJECTS:ThreadAnnotations>>)
+endif()
