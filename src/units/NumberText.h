@@ -11,13 +11,17 @@ namespace NumberText {
 /// Toward zero; the nearest int for a value beyond its range, 0 for NaN.
 inline int Truncated(double value)
 {
-    if (std::isnan(value))
+    // Some processors calculate with more digits than a double holds, and would make 22 of the 22.999… that is 23 on all
+    // others. What is stored is a double everywhere.
+    const volatile double stored = value;
+    const double number = stored;
+    if (std::isnan(number))
         return 0;
-    if (value >= static_cast<double>(std::numeric_limits<int>::max()))
+    if (number >= static_cast<double>(std::numeric_limits<int>::max()))
         return std::numeric_limits<int>::max();
-    if (value <= static_cast<double>(std::numeric_limits<int>::min()))
+    if (number <= static_cast<double>(std::numeric_limits<int>::min()))
         return std::numeric_limits<int>::min();
-    return static_cast<int>(value);
+    return static_cast<int>(number);
 }
 
 /// At least two characters, "07".

@@ -1,44 +1,24 @@
 #include "CoreTest.h"
+#include "InOwnProcess.h"
 #include "TestHost.h"
 
 #include "system/TSystemSettings.h"
 
-#include <QCoreApplication>
-#include <QProcess>
-#include <QtTest>
-
-#include <cstdio>
-#include <cstdlib>
-
 namespace {
 
-/// The answer is found once per process, so each row asks in a process of its own: this program again, with the
-/// patterns that the host gives in its environment.
-const char* const FirstPattern = "CABSETTINGS_TEST_FIRST_PATTERN";
-const char* const LaterPattern = "CABSETTINGS_TEST_LATER_PATTERN";
-
-/// Prints the first answer, the answer after the host has changed its pattern, and how often the host was asked.
-int AnswerTwice()
+/// The first answer, the answer after the host has changed its pattern, and how often the host was asked. The answer is
+/// found once per process, so each row asks in a process of its own.
+QString AnswersOfAProcess(const QString& firstPattern, const QString& laterPattern)
 {
-    TTestFiles::extensionPattern = QString::fromLatin1(std::getenv(FirstPattern));
-    const bool first = TSystemSettings::AreFilenameExtensionInvariantsSatisfied();
-    TTestFiles::extensionPattern = QString::fromLatin1(std::getenv(LaterPattern));
-    const bool later = TSystemSettings::AreFilenameExtensionInvariantsSatisfied();
-    std::printf("%d %d %d", first, later, TTestFiles::extensionPatternAsked);
-    return 0;
-}
-
-/// What AnswerTwice() prints.
-QByteArray AnswersOfAProcess(const QString& firstPattern, const QString& laterPattern)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(FirstPattern), firstPattern);
-    environment.insert(QLatin1String(LaterPattern), laterPattern);
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), QStringList());
-    process.waitForFinished();
-    return process.readAllStandardOutput();
+    const QStringList answers = InOwnProcess([&firstPattern, &laterPattern] {
+        TTestFiles::extensionPattern = firstPattern;
+        const int first = TSystemSettings::AreFilenameExtensionInvariantsSatisfied();
+        TTestFiles::extensionPattern = laterPattern;
+        const int later = TSystemSettings::AreFilenameExtensionInvariantsSatisfied();
+        return QStringList() << QString::number(first) << QString::number(later)
+                             << QString::number(TTestFiles::extensionPatternAsked);
+    });
+    return answers.join(QLatin1String(" "));
 }
 
 const char* const LowerCase = "\\.[a-z]+";
@@ -85,32 +65,29 @@ void FilenameExtensions::theHostsPatternDecides()
 {
     QFETCH(QString, pattern);
     QFETCH(bool, satisfied);
-    QCOMPARE(AnswersOfAProcess(pattern, pattern), QByteArray(satisfied ? "1 1 1" : "0 0 1"));
+    QCOMPARE(AnswersOfAProcess(pattern, pattern), QString::fromLatin1(satisfied ? "1 1 1" : "0 0 1"));
 }
 
 void FilenameExtensions::theFirstAnswerStands_data()
 {
     QTest::addColumn<QString>("firstPattern");
     QTest::addColumn<QString>("laterPattern");
-    QTest::addColumn<QByteArray>("answers");
+    QTest::addColumn<QString>("answers");
 
-    QTest::newRow("yes") << QString::fromLatin1(LowerCase) << QString::fromLatin1(Nothing) << QByteArray("1 1 1");
-    QTest::newRow("no") << QString::fromLatin1(Nothing) << QString::fromLatin1(LowerCase) << QByteArray("0 0 1");
+    QTest::newRow("yes") << QString::fromLatin1(LowerCase) << QString::fromLatin1(Nothing)
+                         << QString::fromLatin1("1 1 1");
+    QTest::newRow("no") << QString::fromLatin1(Nothing) << QString::fromLatin1(LowerCase)
+                        << QString::fromLatin1("0 0 1");
 }
 
 void FilenameExtensions::theFirstAnswerStands()
 {
     QFETCH(QString, firstPattern);
     QFETCH(QString, laterPattern);
-    QFETCH(QByteArray, answers);
+    QFETCH(QString, answers);
     QCOMPARE(AnswersOfAProcess(firstPattern, laterPattern), answers);
 }
 
-int main(int argc, char** argv)
-{
-    if (std::getenv(FirstPattern))
-        return AnswerTwice();
-    return RunCoreTest<FilenameExtensions>(argc, argv);
-}
+int main(int argc, char** argv) { return RunCoreTest<FilenameExtensions>(argc, argv); }
 
 #include "FilenameExtensions.moc"

@@ -7,8 +7,17 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <vector>
 
 namespace {
+
+// In memory, as a register may hold more digits of a component than the variable it is compared with.
+std::vector<decltype(QColor().redF())> Components(const QColor& color)
+{
+    return {color.alphaF(),         color.redF(),     color.greenF(),  color.blueF(),          color.hsvHueF(),
+            color.hsvSaturationF(), color.valueF(),   color.hslHueF(), color.hslSaturationF(), color.lightnessF(),
+            color.cyanF(),          color.magentaF(), color.yellowF(), color.blackF()};
+}
 
 // QVariant and QColor compare leniently; what is stored must come back to the last bit.
 bool IsExactly(const QVariant& one, const QVariant& other)
@@ -24,13 +33,7 @@ bool IsExactly(const QVariant& one, const QVariant& other)
         const QColor first = one.value<QColor>();
         const QColor second = other.value<QColor>();
         return first.spec() == second.spec() && first.rgba64() == second.rgba64() &&
-               first.alphaF() == second.alphaF() && first.redF() == second.redF() &&
-               first.greenF() == second.greenF() && first.blueF() == second.blueF() &&
-               first.hsvHueF() == second.hsvHueF() && first.hsvSaturationF() == second.hsvSaturationF() &&
-               first.valueF() == second.valueF() && first.hslHueF() == second.hslHueF() &&
-               first.hslSaturationF() == second.hslSaturationF() && first.lightnessF() == second.lightnessF() &&
-               first.cyanF() == second.cyanF() && first.magentaF() == second.magentaF() &&
-               first.yellowF() == second.yellowF() && first.blackF() == second.blackF();
+               Components(first) == Components(second);
     }
     return one == other;
 }

@@ -252,7 +252,8 @@ void RatesPerArea::travelCountsOnlyOnTheBasisThatPermitsIt()
         m_Store->values[8966] = perTravel;
     QCOMPARE(U::GetSprayerRequestedRateString(200), requested);
     QCOMPARE(U::GetVolumePerAreaString(true, false, 200.0F, false, UNITS_L_PER_HA, -1, nullptr), volume);
-    QCOMPARE(m_Store->reads.contains(8966), basis.toInt() == 0);
+    const bool asksForTravel = m_Store->reads.contains(8966);
+    QCOMPARE(asksForTravel, basis.toInt() == 0);
 }
 
 void RatesPerArea::requestedRatesHaveTheDecimalsThatSuitThem_data()
