@@ -11,8 +11,8 @@ namespace NumberText {
 /// Toward zero; the nearest int for a value beyond its range, 0 for NaN.
 inline int Truncated(double value)
 {
-    // Some processors calculate with more digits than a double holds, and would make 22 of the 22.999… that is 23 on all
-    // others. What is stored is a double everywhere.
+    // Some processors calculate with more digits than a double holds, and would make 22 of the 22.999… that is 23 on
+    // all others. What is stored is a double everywhere.
     const volatile double stored = value;
     const double number = stored;
     if (std::isnan(number))

@@ -2,11 +2,11 @@
 #include "Latin1.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QRegExp>
 #include <QSet>
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
 
 /// What the libraries show to others, and what libcabsettings.so asks of its host.
@@ -29,11 +29,16 @@ QStringList Libraries() { return Latin1(CABSETTINGS_LIBRARIES).split(QLatin1Char
 
 QStringList Symbols(const QString& library, const char* kind)
 {
-    QProcess nm;
-    nm.start(Latin1(CABSETTINGS_NM), QStringList() << Latin1("-DC") << Latin1(kind) << library);
-    if (!nm.waitForFinished())
-        return QStringList();
-    return QString::fromUtf8(nm.readAllStandardOutput()).split(QLatin1Char('\n'));
+    // By the shell: an emulator of another processor starts no processes for Qt.
+    const QString command =
+        Latin1(CABSETTINGS_NM) + Latin1(" -DC ") + Latin1(kind) + Latin1(" '") + library + QLatin1Char('\'');
+    FILE* const nm = popen(QFile::encodeName(command).constData(), "r");
+    QFile output;
+    const bool isRead = nm && output.open(nm, QIODevice::ReadOnly);
+    const QByteArray symbols = isRead ? output.readAll() : QByteArray();
+    if (nm)
+        pclose(nm);
+    return QString::fromUtf8(symbols).split(QLatin1Char('\n'));
 }
 
 QStringList InOrder(const QSet<QString>& names)
