@@ -1,4 +1,9 @@
 # Finds the parts of the chosen generation of Qt that the project needs; targets link Qt${CABSETTINGS_QT}::Core and so on.
+if(CABSETTINGS_QT EQUAL 4)
+    include(cmake/FindQt4Parts.cmake)
+    return()
+endif()
+
 set(_components Core Gui)
 if(CABSETTINGS_HOST)
     list(APPEND _components Sql Positioning LinguistTools)

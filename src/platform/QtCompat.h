@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QString>
 
 /// What differs between the generations of Qt that the library is built with: 4.8, 5.15 and 6.4.
@@ -14,6 +15,21 @@ inline QString Translate(const char* context, const char* text, const char* comm
 #else
     return QCoreApplication::translate(context, text, comment);
 #endif
+}
+
+struct tagDateParts
+{
+    int year;
+    int month;
+    int day;
+};
+
+/// Zeros when @p date is invalid: Qt 4 tells the year -4713 of such a date.
+inline tagDateParts Parts(const QDate& date)
+{
+    const tagDateParts parts = {date.year(), date.month(), date.day()};
+    const tagDateParts none = {0, 0, 0};
+    return date.isValid() ? parts : none;
 }
 
 } // namespace QtCompat

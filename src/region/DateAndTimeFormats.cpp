@@ -1,4 +1,6 @@
 #include "region/TRegionSettings.h"
+
+#include "platform/QtCompat.h"
 #include "settings/Parameters.h"
 
 namespace {
@@ -22,12 +24,12 @@ QString TRegionSettings::GetTimeString() const
 
 QString TRegionSettings::GetDateString(QDate date) const
 {
-    const int month = date.month();
-    const QString monthText = month >= 1 && month <= 12 ? tr(MonthNames[month - 1]) : QString();
-    const QString day = QString::number(date.day());
+    const QtCompat::tagDateParts parts = QtCompat::Parts(date);
+    const QString monthText = parts.month == 0 ? QString() : tr(MonthNames[parts.month - 1]);
+    const QString day = QString::number(parts.day);
     const QString dayAndMonth = Parameters::ReadBool(PARAM_MONTH_FIRST) ? monthText + QLatin1Char(' ') + day
                                                                         : day + QLatin1Char(' ') + monthText;
-    return dayAndMonth + QLatin1String(", ") + QString::number(date.year());
+    return dayAndMonth + QLatin1String(", ") + QString::number(parts.year);
 }
 
 QString TRegionSettings::GetDateString() const { return GetDateString(GetDate()); }

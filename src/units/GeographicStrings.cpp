@@ -1,5 +1,6 @@
 // Positions, durations and dates as texts.
 
+#include "platform/QtCompat.h"
 #include "settings/Parameters.h"
 #include "units/NumberText.h"
 #include "units/TUnitAbbreviations.h"
@@ -70,12 +71,10 @@ QString TUnits::GetFormattedDurationString(double minutes)
 
 QString TUnits::GetDateString(bool monthFirst, const QDate& date)
 {
-    const int month = date.month();
-    QString name;
-    if (month >= 1 && month <= TUnitAbbreviations::MonthCount)
-        name = TUnitAbbreviations::Months[month - 1];
-    const QString day = QString::number(date.day());
+    const QtCompat::tagDateParts parts = QtCompat::Parts(date);
+    const QString name = parts.month == 0 ? QString() : TUnitAbbreviations::Months[parts.month - 1];
+    const QString day = QString::number(parts.day);
     const QString& first = monthFirst ? name : day;
     const QString& second = monthFirst ? day : name;
-    return first + QLatin1Char(' ') + second + QLatin1String(", ") + QString::number(date.year());
+    return first + QLatin1Char(' ') + second + QLatin1String(", ") + QString::number(parts.year);
 }

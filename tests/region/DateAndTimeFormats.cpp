@@ -92,8 +92,6 @@ void DateAndTimeFormats::datesForTheOperator_data()
     QTest::newRow("last day of a century") << QDate(1999, 12, 31) << Latin1("Dec 31, 1999") << Latin1("31 Dec, 1999");
     QTest::newRow("early year") << QDate(7, 1, 2) << Latin1("Jan 2, 7") << Latin1("2 Jan, 7");
     QTest::newRow("year beyond four digits") << QDate(12024, 1, 2) << Latin1("Jan 2, 12024") << Latin1("2 Jan, 12024");
-    if (QDate().month() != 0)
-        return; // Qt 4 takes no date for a day of the year -4713
     QTest::newRow("no date") << QDate() << Latin1(" 0, 0") << Latin1("0 , 0");
     QTest::newRow("a day that does not exist") << QDate(2023, 2, 29) << Latin1(" 0, 0") << Latin1("0 , 0");
 }

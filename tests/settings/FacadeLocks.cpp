@@ -183,7 +183,8 @@ void FacadeLocks::theHostIsCalledUnderTheLock()
     for (const QStringList& held : observed)
         QVERIFY2(held == NamesOf(*forwarder.lock) || (forwarder.reach == CallsHostUnderBoth && held == both),
                  qPrintable(held.join(QLatin1String(", "))));
-    QCOMPARE(observed.contains(both), forwarder.reach == CallsHostUnderBoth);
+    const bool isUnderBoth = observed.contains(both);
+    QCOMPARE(isUnderBoth, forwarder.reach == CallsHostUnderBoth);
     QCOMPARE(HeldLocks(), QStringList());
 }
 
