@@ -30,6 +30,10 @@ cabsettings_install(CabSettings cabsettings CabSettingsTargets)
 if(CABSETTINGS_HOST)
     cabsettings_install(CabHost cabhost CabSettingsHostTargets)
     install(TARGETS cabsettings-console)
+    install(FILES apps/console/completion.bash RENAME cabsettings
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    # The program's own; a build for another machine without an emulator has none.
+    install(FILES ${PROJECT_BINARY_DIR}/apps/console/cabsettings.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)
 endif()
 
 configure_package_config_file(cmake/CabSettingsConfig.cmake.in CabSettingsConfig.cmake
