@@ -1,21 +1,30 @@
-#include "ParameterText.h"
+#include "parameters/ParameterText.h"
 
 #include <QColor>
 #include <QMetaType>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
 namespace {
 
+const char* const TrueWords[] = {"true", "yes", "on", "1"};
+const char* const FalseWords[] = {"false", "no", "off", "0"};
+
+template <std::size_t Count>
+bool IsOneOf(const QString& text, const char* const (&words)[Count])
+{
+    return std::any_of(std::begin(words), std::end(words), [&text](const char* word) {
+        return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+    });
+}
+
 QVariant ToBool(const QString& text)
 {
-    const QString word = text.toLower();
-    if (word == QLatin1String("true") || word == QLatin1String("1"))
+    if (IsOneOf(text, TrueWords))
         return true;
-    if (word == QLatin1String("false") || word == QLatin1String("0"))
-        return false;
-    return QVariant();
+    return IsOneOf(text, FalseWords) ? QVariant(false) : QVariant();
 }
 
 QVariant ToInt(const QString& text)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HostExport.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -8,15 +10,15 @@
 namespace ParameterText {
 
 /// Names of the types that a value can be given: "bool", "int", "double", "string", "color".
-QStringList TypeNames();
+CABHOST_EXPORT QStringList TypeNames();
 
 /// The name of the value's type; Qt's own name for one that has none here.
-QString TypeName(const QVariant& value);
+CABHOST_EXPORT QString TypeName(const QVariant& value);
 
-QString FromValue(const QVariant& value);
+CABHOST_EXPORT QString FromValue(const QVariant& value);
 
 /// Reads @p text as a value of the named type. An invalid variant with @p error telling what is accepted when it is
 /// none.
-QVariant ToValue(const QString& typeName, const QString& text, QString* error);
+CABHOST_EXPORT QVariant ToValue(const QString& typeName, const QString& text, QString* error);
 
 } // namespace ParameterText

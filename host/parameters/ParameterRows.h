@@ -1,0 +1,285 @@
+#pragma once
+
+#include "platform/EParamID.h"
+#include "region/ELanguage.h"
+
+#include <QRgb>
+
+#include <cstddef>
+#include <limits>
+
+/// The rows of TParameterCatalogue, by kind: everything that is known about each parameter stands here, once.
+namespace ParameterRows {
+
+/// What every row has.
+struct tagAbout
+{
+    EParamID id;
+    const char* name; ///< for people and tools: a group, a full stop, and what it is in the group
+    const char* meaning;
+    const char* readers; ///< what changes with it
+};
+
+struct tagSwitch
+{
+    tagAbout about;
+    bool first; ///< the value of a first start
+};
+
+struct tagChoice
+{
+    int value;
+    const char* name;
+};
+
+struct tagSelection
+{
+    tagAbout about;
+    const tagChoice* choices;
+    std::size_t count;
+    int first;
+};
+
+struct tagNumber
+{
+    tagAbout about;
+    int least;
+    int greatest;
+    int first;
+    const char* unit;
+};
+
+/// A name that the operator gives; see ItemNames.
+struct tagItemName
+{
+    tagAbout about;
+    bool hasExtension; ///< of an item's file; else of a folder
+    bool isFirstEmpty; ///< else TSettings::Restore() puts the built-in name there
+};
+
+struct tagDrive
+{
+    tagAbout about;
+    const char* accepts;
+};
+
+/// An element of the map or of a control, by day and by night.
+struct tagColor
+{
+    EParamID day;
+    EParamID night;
+    const char* name;
+    const char* meaning;
+    QRgb firstByDay;
+    QRgb firstByNight;
+};
+
+template <std::size_t Count>
+constexpr tagSelection Selection(const tagAbout& about, const tagChoice (&choices)[Count], int first)
+{
+    return tagSelection{about, choices, Count, first};
+}
+
+inline constexpr tagSwitch Switches[] = {
+    {{PARAM_UTC_OFFSET_SET_BY_USER, "clock.offset-by-operator",
+      "the operator has set the time: GPS time keeps the offset from UTC instead of computing it",
+      "setting the clock from GPS"},
+     false},
+    {{PARAM_METRIC, "units.metric", "metric units; else US or English ones", "every conversion and text of a quantity"},
+     true},
+    {{PARAM_US_MEASURES, "units.us", "US measures where units are not metric; else English ones",
+      "gallons, fluid ounces and bushels"},
+     false},
+    {{PARAM_DEGREES_MINUTES_SECONDS, "units.degrees-minutes-seconds",
+      "positions in degrees, minutes and seconds; else in decimal degrees", "texts of latitude and longitude"},
+     false},
+    {{PARAM_RATE_PER_TRAVEL, "units.rate-per-travel",
+      "liquid rates per 100 m or 100 yd of travel; only with rates.basis travel", "liquid application rates"},
+     false},
+    {{PARAM_24_HOUR_CLOCK, "region.24-hour-clock", "times from 0 to 24 hours; else with am and pm", "texts of times"},
+     true},
+    {{PARAM_MONTH_FIRST, "region.month-first", "dates with the month before the day", "texts of dates"}, false},
+    {{PARAM_DAY_MODE, "display.day", "the colours of the day; else those of the night", "every colour"}, true},
+};
+
+inline constexpr tagChoice RateBases[] = {{0, "travel"}, {1, "area"}};
+inline constexpr tagChoice PressureUnits[] = {{0, "kPa"}, {1, "psi"}, {2, "bar"}};
+inline constexpr tagChoice AreaUnits[] = {{0, "hectare"}, {1, "acre"}};
+inline constexpr tagChoice ShortDistanceUnits[] = {{0, "metric"}, {1, "inch"}, {2, "foot"}};
+inline constexpr tagChoice DryVolumeUnits[] = {
+    {0, "litre"}, {1, "kilogram"}, {2, "cubic-metre"}, {3, "us-bushel"}, {4, "uk-bushel"}};
+inline constexpr tagChoice DryDensityUnits[] = {{0, "kg/L"}, {1, "kg/m3"}, {2, "kg/us-bushel"}, {3, "kg/uk-bushel"}};
+inline constexpr tagChoice LiquidUnits[] = {{0, "litre"}, {1, "cubic-metre"}, {2, "tonne"}};
+inline constexpr tagChoice DecimalPoints[] = {{0, "point"}, {1, "comma"}};
+inline constexpr tagChoice Languages[] = {
+    {LANGUAGE_ENGLISH, "en"},    {LANGUAGE_GERMAN, "de"},     {LANGUAGE_FRENCH, "fr"},    {LANGUAGE_SPANISH, "es"},
+    {LANGUAGE_ITALIAN, "it"},    {LANGUAGE_PORTUGUESE, "pt"}, {LANGUAGE_RUSSIAN, "ru"},   {LANGUAGE_DUTCH, "nl"},
+    {LANGUAGE_FINNISH, "fi"},    {LANGUAGE_CZECH, "cs"},      {LANGUAGE_DANISH, "da"},    {LANGUAGE_NORWEGIAN, "nb"},
+    {LANGUAGE_POLISH, "pl"},     {LANGUAGE_SWEDISH, "sv"},    {LANGUAGE_JAPANESE, "ja"},  {LANGUAGE_LATVIAN, "lv"},
+    {LANGUAGE_LITHUANIAN, "lt"}, {LANGUAGE_GREEK, "el"},      {LANGUAGE_BULGARIAN, "bg"}, {LANGUAGE_ROMANIAN, "ro"},
+    {LANGUAGE_HUNGARIAN, "hu"},  {LANGUAGE_CROATIAN, "hr"},   {LANGUAGE_TURKISH, "tr"},   {LANGUAGE_CHINESE, "zh"},
+    {LANGUAGE_ESTONIAN, "et"},   {LANGUAGE_SERBIAN, "sr"},    {LANGUAGE_SLOVAK, "sk"},    {LANGUAGE_SLOVENIAN, "sl"},
+};
+
+inline constexpr tagSelection Selections[] = {
+    Selection({PARAM_SPRAYER_RATE_BASIS, "rates.basis",
+               "what the sprayer's rates may be related to: with travel, units.rate-per-travel decides",
+               "liquid application rates"},
+              RateBases, 1),
+    Selection({PARAM_PRESSURE_UNIT, "units.pressure", "unit of pressures", "texts and conversions of pressures"},
+              PressureUnits, 0),
+    Selection({PARAM_AREA_UNIT, "units.area", "unit of areas, and of rates per area",
+               "texts and conversions of areas, productivity and rates per area"},
+              AreaUnits, 0),
+    Selection({PARAM_SHORT_DISTANCE_UNIT, "units.short-distance", "unit of short distances: widths, offsets",
+               "texts and conversions of short distances"},
+              ShortDistanceUnits, 0),
+    Selection({PARAM_DRY_VOLUME_UNIT, "units.dry-volume", "unit of granular volumes", "granular products"},
+              DryVolumeUnits, 0),
+    Selection({PARAM_DRY_DENSITY_UNIT, "units.dry-density", "unit of granular densities", "granular products"},
+              DryDensityUnits, 0),
+    Selection({PARAM_LIQUID_UNIT, "units.liquid", "unit of liquid volumes, flows and rates", "liquid products"},
+              LiquidUnits, 0),
+    Selection({PARAM_LANGUAGE, "region.language", "language of the display's texts; after a restart",
+               "texts, and the suffix of language files"},
+              Languages, LANGUAGE_ENGLISH),
+    Selection({PARAM_DECIMAL_POINT, "region.decimal-point", "what stands before the decimals; after a restart",
+               "every number shown or typed"},
+              DecimalPoints, 0),
+};
+
+inline constexpr int AnyLeast = std::numeric_limits<int>::min();
+inline constexpr int AnyGreatest = std::numeric_limits<int>::max();
+
+inline constexpr tagNumber Numbers[] = {
+    {{PARAM_UTC_OFFSET_HOURS, "clock.offset-hours", "local time less UTC, whole hours", "time from GPS"},
+     -23,
+     23,
+     0,
+     "h"},
+    {{PARAM_UTC_OFFSET_MINUTES, "clock.offset-minutes",
+      "local time less UTC, minutes beyond the hours; of the sign of the hours", "time from GPS"},
+     -59,
+     59,
+     0,
+     "min"},
+    {{PARAM_LIGHTBAR_NIGHT_LEVEL, "display.night-lightbar", "brightness of the lightbar at night", "the lightbar"},
+     0,
+     100,
+     30,
+     "%"},
+    {{PARAM_BACKLIGHT_NIGHT_LEVEL, "display.night-backlight", "brightness of the screen at night", "the screen"},
+     0,
+     100,
+     20,
+     "%"},
+    {{PARAM_BUTTON_LED_NIGHT_LEVEL, "display.night-buttons", "brightness of the button lights at night", "the buttons"},
+     0,
+     100,
+     10,
+     "%"},
+    {{PARAM_BACKGROUND_NUMBER_DAY, "colors.day.background-number", "number of the background picture by day",
+      "the background"},
+     0,
+     AnyGreatest,
+     1,
+     ""},
+    {{PARAM_BACKGROUND_NUMBER_NIGHT, "colors.night.background-number", "number of the background picture by night",
+      "the background"},
+     0,
+     AnyGreatest,
+     2,
+     ""},
+    {{PARAM_IMPLEMENT_FOLDER_CHOICE, "system.implement-folder",
+      "4 keeps implements in the folder of their vehicle; any other number in their own", "paths of implements"},
+     AnyLeast,
+     AnyGreatest,
+     0,
+     ""},
+    {{PARAM_NMEA_LOG_FILE_NUMBER, "log.nmea-number", "number of the next file of the NMEA log", "the NMEA log"},
+     1,
+     99999,
+     1,
+     ""},
+    {{PARAM_USER_LOG_FILE_NUMBER, "log.user-number", "number of the next file of the user log", "the user log"},
+     1,
+     99999,
+     1,
+     ""},
+};
+
+/// Its value of a first start is what the machine takes for local time.
+inline constexpr tagNumber ClockOffset = {
+    {PARAM_CLOCK_OFFSET, "clock.offset", "the display's clock less UTC", "the clock at start-up"},
+    AnyLeast,
+    AnyGreatest,
+    0,
+    "s"};
+
+inline constexpr tagDrive Drives[] = {
+    {{PARAM_INTERNAL_DRIVE, "system.internal-drive", "folder of the internal drive; unset, it is in the data folder",
+      "every path on the terminal"},
+     "an absolute path that ends in \"/\""},
+    {{PARAM_EXTERNAL_DRIVE, "system.external-drive",
+      "where the removable drive is mounted; unset, it is in the data folder", "every path on the stick, exports"},
+     "an absolute path"},
+};
+
+inline constexpr tagItemName ItemNames[] = {
+    {{PARAM_ACTIVE_JOB, "active.job", "the active job", "paths of the job, its coverage and reports"}, true, false},
+    {{PARAM_ACTIVE_BOUNDARY, "active.boundary", "the active boundary", "its path"}, true, false},
+    {{PARAM_ACTIVE_AB_LINE, "active.ab-line", "the active straight guidance line", "its path"}, true, false},
+    {{PARAM_ACTIVE_PIVOT, "active.pivot", "the active pivot", "its path"}, true, false},
+    {{PARAM_ACTIVE_CURVE, "active.curve", "the active guidance curve", "its path"}, true, false},
+    {{PARAM_ACTIVE_OPTIMAL_LINES_SHAPE_FILE, "active.optimal-lines", "the active shape file of optimal lines",
+      "its path"},
+     true,
+     false},
+    {{PARAM_ACTIVE_PROJECT_LINES_SHAPE_FILE, "active.project-lines", "the active shape file of project lines",
+      "its path"},
+     true,
+     false},
+    {{PARAM_ACTIVE_ZONES_SHAPE_FILE, "active.zones", "the active shape file of zones", "its path"}, true, false},
+    {{PARAM_ACTIVE_STEERING_PROFILE, "active.steering-profile", "the active steering profile", "its path"},
+     true,
+     false},
+    {{PARAM_ACTIVE_IMPLEMENT, "active.implement", "the active implement", "its path, and its area counters"},
+     true,
+     false},
+    {{PARAM_ACTIVE_VEHICLE, "active.vehicle", "the active vehicle", "its path, and those of its implements"},
+     true,
+     false},
+    {{PARAM_ACTIVE_SPRAYER, "active.sprayer", "the active sprayer", "its path"}, true, false},
+    {{PARAM_ACTIVE_BOOM_LEVELLER, "active.boom-leveller", "the active boom leveller", "its path"}, true, false},
+    {{PARAM_CLIENT, "active.client", "whose field is worked", "paths of jobs, lines and boundaries"}, false, true},
+    {{PARAM_FARM, "active.farm", "the farm that is worked", "paths of jobs, lines and boundaries"}, false, true},
+    {{PARAM_FIELD, "active.field", "the field that is worked", "paths of jobs, lines and boundaries"}, false, true},
+};
+
+/// By night everything that fills an area is near black, so that the screen does not blind; what must be read or
+/// steered by keeps a contrast of at least 4.5 to 1 against it, in warm tones that spare the eye's dark adaptation.
+inline constexpr tagColor Colors[] = {
+    {PARAM_TEXT_COLOR_DAY, PARAM_TEXT_COLOR_NIGHT, "text", "texts", 0xff101418, 0xffd8c7a8},
+    {PARAM_BUTTON_COLOR_DAY, PARAM_BUTTON_COLOR_NIGHT, "button", "buttons", 0xffd6dde3, 0xff22262a},
+    {PARAM_BUTTON_TEXT_COLOR_DAY, PARAM_BUTTON_TEXT_COLOR_NIGHT, "button-text", "texts on buttons", 0xff101418,
+     0xffd8c7a8},
+    {PARAM_BACKGROUND_COLOR_DAY, PARAM_BACKGROUND_COLOR_NIGHT, "background", "the background", 0xfff2f4f5, 0xff0b0d0f},
+    {PARAM_TITLE_COLOR_DAY, PARAM_TITLE_COLOR_NIGHT, "title", "titles", 0xff1d4f7c, 0xffe0a458},
+    {PARAM_EXTERNAL_BOUNDARY_COLOR_DAY, PARAM_EXTERNAL_BOUNDARY_COLOR_NIGHT, "external-boundary",
+     "the outer boundary of the field", 0xff0b3d91, 0xff6f9bd8},
+    {PARAM_INTERNAL_BOUNDARY_COLOR_DAY, PARAM_INTERNAL_BOUNDARY_COLOR_NIGHT, "internal-boundary",
+     "boundaries within the field", 0xff8a1c1c, 0xffd47a6a},
+    {PARAM_INACTIVE_BOUNDARIES_COLOR_DAY, PARAM_INACTIVE_BOUNDARIES_COLOR_NIGHT, "inactive-boundaries",
+     "boundaries that are not active", 0xff7a8288, 0xff7c8086},
+    {PARAM_COVERAGE_COLOR_DAY, PARAM_COVERAGE_COLOR_NIGHT, "coverage", "covered ground", 0xff4f9e4f, 0xff1f4a2b},
+    {PARAM_VEHICLE_COLOR_DAY, PARAM_VEHICLE_COLOR_NIGHT, "vehicle", "the vehicle", 0xffc2410c, 0xfff08a3c},
+    {PARAM_TRACK_COLOR_DAY, PARAM_TRACK_COLOR_NIGHT, "track", "the guidance line", 0xff6d28d9, 0xffa98be8},
+    {PARAM_MAP_COLOR_DAY, PARAM_MAP_COLOR_NIGHT, "map", "the map's ground", 0xffe6e2d3, 0xff101214},
+    {PARAM_EXCLUSION_ZONE_COLOR_DAY, PARAM_EXCLUSION_ZONE_COLOR_NIGHT, "exclusion-zone", "zones to keep out of",
+     0xffd97706, 0xffc98a1e},
+    {PARAM_GRID_COLOR_DAY, PARAM_GRID_COLOR_NIGHT, "grid", "the map's grid", 0xffc8c4b4, 0xff2a2e32},
+    {PARAM_CROSS_HAIRS_COLOR_DAY, PARAM_CROSS_HAIRS_COLOR_NIGHT, "cross-hairs", "the cross-hairs", 0xff101418,
+     0xffd8c7a8},
+};
+
+} // namespace ParameterRows

@@ -1,0 +1,299 @@
+#include "parameters/ParameterText.h"
+#include "parameters/TParameterCatalogue.h"
+#include "region/TRegionSettings.h"
+
+#include <QColor>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <QtTest>
+
+/// The table of every parameter: complete, without contradictions, and what follows from it.
+class ParameterCatalogue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyEnumeratorHasARow();
+    void everyRowIsWhole_data();
+    void everyRowIsWhole();
+    void namesAndNumbersAreUnique();
+    void languagesAreTheLibrarys();
+    void nightFollowsDay();
+
+    void parametersAreFound_data();
+    void parametersAreFound();
+    void nearNamesAreSuggested_data();
+    void nearNamesAreSuggested();
+
+    void acceptedTextsAreRead_data();
+    void acceptedTextsAreRead();
+    void otherTextsAreRefused_data();
+    void otherTextsAreRefused();
+    void everyFirstValueIsAccepted_data();
+    void everyFirstValueIsAccepted();
+    void valuesOfAnotherTypeAreShownAsTheyAre();
+
+private:
+    static void AddParameters()
+    {
+        QTest::addColumn<int>("number");
+        for (const tagParameter& parameter : TParameterCatalogue::Parameters())
+            QTest::newRow(qPrintable(parameter.name)) << static_cast<int>(parameter.id);
+    }
+};
+
+namespace {
+
+QString Utf8(const char* text) { return QString::fromUtf8(text); }
+
+const int MetaTypes[] = {QMetaType::Bool, QMetaType::Int, QMetaType::QString, QMetaType::QColor}; // by EParameterType
+
+} // namespace
+
+void ParameterCatalogue::everyEnumeratorHasARow()
+{
+    QFile header(Utf8(CABSETTINGS_ENUMERATORS));
+    QVERIFY(header.open(QIODevice::ReadOnly));
+    const QRegularExpression enumerator(Utf8("^\\s+PARAM_\\w+ = (\\d+),"), QRegularExpression::MultilineOption);
+    QList<int> expected;
+    QRegularExpressionMatchIterator matches = enumerator.globalMatch(QString::fromUtf8(header.readAll()));
+    while (matches.hasNext())
+        expected.append(matches.next().captured(1).toInt());
+    std::sort(expected.begin(), expected.end());
+    QVERIFY(expected.size() > 50);
+
+    QList<int> found;
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters())
+        found.append(parameter.id);
+    QCOMPARE(found, expected);
+}
+
+void ParameterCatalogue::everyRowIsWhole_data() { AddParameters(); }
+
+void ParameterCatalogue::everyRowIsWhole()
+{
+    QFETCH(int, number);
+    const tagParameter* const parameter = TParameterCatalogue::Find(number);
+    QVERIFY(parameter);
+    QVERIFY(QRegularExpression(Utf8("^[a-z]+(\\.[a-z0-9-]+)+$")).match(parameter->name).hasMatch());
+    QVERIFY(!parameter->meaning.isEmpty());
+    QVERIFY(!parameter->readers.isEmpty());
+    QVERIFY(!parameter->accepts.isEmpty());
+    QVERIFY(!parameter->meaning.endsWith(QLatin1Char('.')));
+    if (parameter->firstValue.isValid())
+        QCOMPARE(parameter->firstValue.userType(), MetaTypes[parameter->type]);
+    if (parameter->type == PARAMETER_INT)
+        QVERIFY(!parameter->choices.isEmpty() || parameter->least < parameter->greatest);
+    else
+        QVERIFY(parameter->choices.isEmpty());
+}
+
+void ParameterCatalogue::namesAndNumbersAreUnique()
+{
+    QSet<QString> names;
+    int last = -1;
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        QVERIFY2(!names.contains(parameter.name), qPrintable(parameter.name));
+        names.insert(parameter.name);
+        QVERIFY(parameter.id > last);
+        last = parameter.id;
+        QSet<QString> choices;
+        for (const tagParameterChoice& choice : parameter.choices)
+            choices.insert(choice.name);
+        QCOMPARE(choices.size(), parameter.choices.size());
+    }
+}
+
+void ParameterCatalogue::languagesAreTheLibrarys()
+{
+    TRegionSettings::InitializeLanguageStrings();
+    const QList<tagParameterChoice>& choices = TParameterCatalogue::Find(PARAM_LANGUAGE)->choices;
+    QCOMPARE(static_cast<int>(choices.size()), static_cast<int>(TRegionSettings::LanguageCount));
+    for (const tagParameterChoice& choice : choices)
+        QCOMPARE(QLatin1Char('_') + choice.name, TRegionSettings::LanguageExtensions[choice.value]);
+}
+
+void ParameterCatalogue::nightFollowsDay()
+{
+    int pairs = 0;
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        if (!parameter.name.startsWith(Utf8("colors.day.")))
+            continue;
+        ++pairs;
+        const tagParameter* const night = TParameterCatalogue::Find(parameter.id + 16);
+        QVERIFY(night);
+        QCOMPARE(night->name, QString(parameter.name).replace(Utf8(".day."), Utf8(".night.")));
+        QCOMPARE(static_cast<int>(night->type), static_cast<int>(parameter.type));
+    }
+    QCOMPARE(pairs, 16);
+}
+
+void ParameterCatalogue::parametersAreFound_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("number"); // -1 for none
+    QTest::newRow("name") << Utf8("units.metric") << 8953;
+    QTest::newRow("name in capitals") << Utf8("Units.Metric") << 8953;
+    QTest::newRow("number") << Utf8("8953") << 8953;
+    QTest::newRow("first") << Utf8("1929") << 1929;
+    QTest::newRow("last") << Utf8("10472") << 10472;
+    QTest::newRow("number between") << Utf8("8956") << -1;
+    QTest::newRow("beyond the last") << Utf8("10473") << -1;
+    QTest::newRow("part of a name") << Utf8("metric") << -1;
+    QTest::newRow("empty") << QString() << -1;
+}
+
+void ParameterCatalogue::parametersAreFound()
+{
+    QFETCH(QString, text);
+    QFETCH(int, number);
+    const tagParameter* const found = TParameterCatalogue::Find(text);
+    QCOMPARE(found ? static_cast<int>(found->id) : -1, number);
+}
+
+void ParameterCatalogue::nearNamesAreSuggested_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("nearest");
+    QTest::newRow("a letter missing") << Utf8("unts.metric") << Utf8("units.metric");
+    QTest::newRow("a letter wrong") << Utf8("units.matric") << Utf8("units.metric");
+    QTest::newRow("letters swapped") << Utf8("units.mertic") << Utf8("units.metric");
+    QTest::newRow("group missing") << Utf8("language") << Utf8("region.language");
+    QTest::newRow("group wrong") << Utf8("display.metric") << Utf8("units.metric");
+    QTest::newRow("capitals") << Utf8("METRC") << Utf8("units.metric");
+    QTest::newRow("nothing like it") << Utf8("xyzzy-plugh-frobozz") << QString();
+    QTest::newRow("empty") << QString() << QString();
+}
+
+void ParameterCatalogue::nearNamesAreSuggested()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, nearest);
+    const QStringList near = TParameterCatalogue::Near(text);
+    QCOMPARE(near.value(0), nearest);
+    QVERIFY(near.size() <= 4);
+}
+
+void ParameterCatalogue::acceptedTextsAreRead_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](int number, const char* text, const QVariant& value) {
+        QTest::newRow(qPrintable(QString::fromLatin1("%1 %2").arg(number).arg(Utf8(text))))
+            << number << Utf8(text) << value;
+    };
+    for (const char* word : {"true", "yes", "on", "1", "TRUE"})
+        row(PARAM_METRIC, word, true);
+    for (const char* word : {"false", "no", "off", "0", "Off"})
+        row(PARAM_METRIC, word, false);
+    row(PARAM_AREA_UNIT, "acre", 1);
+    row(PARAM_AREA_UNIT, "ACRE", 1);
+    row(PARAM_AREA_UNIT, "0", 0);
+    row(PARAM_LANGUAGE, "sl", 27);
+    row(PARAM_UTC_OFFSET_HOURS, "-23", -23);
+    row(PARAM_UTC_OFFSET_HOURS, "23", 23);
+    row(PARAM_UTC_OFFSET_MINUTES, "-59", -59);
+    row(PARAM_BACKLIGHT_NIGHT_LEVEL, "100", 100);
+    row(PARAM_CLOCK_OFFSET, "-2147483648", std::numeric_limits<int>::min());
+    row(PARAM_USER_LOG_FILE_NUMBER, "99999", 99999);
+    row(PARAM_CLIENT, "Müller & Söhne", Utf8("Müller & Söhne"));
+    row(PARAM_CLIENT, "", QString::fromLatin1(""));
+    row(PARAM_ACTIVE_JOB, "1234", Utf8("1234"));
+    row(PARAM_INTERNAL_DRIVE, "/media/internal/", Utf8("/media/internal/"));
+    row(PARAM_EXTERNAL_DRIVE, "/media/usb", Utf8("/media/usb"));
+    row(PARAM_MAP_COLOR_NIGHT, "#102030", QColor(0x10, 0x20, 0x30));
+    row(PARAM_MAP_COLOR_NIGHT, "navy", QColor(0, 0, 128));
+    row(PARAM_MAP_COLOR_NIGHT, "#80102030", QColor(0x10, 0x20, 0x30, 0x80));
+}
+
+void ParameterCatalogue::acceptedTextsAreRead()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    QFETCH(QVariant, value);
+    QString error;
+    const QVariant read = TParameterCatalogue::Read(*TParameterCatalogue::Find(number), text, &error);
+    QCOMPARE(error, QString());
+    QCOMPARE(read.userType(), value.userType());
+    QCOMPARE(read, value);
+}
+
+void ParameterCatalogue::otherTextsAreRefused_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("error");
+    const auto row = [](int number, const char* text, const char* error) {
+        QTest::newRow(qPrintable(QString::fromLatin1("%1 %2").arg(number).arg(Utf8(text))))
+            << number << Utf8(text) << Utf8(error);
+    };
+    row(PARAM_METRIC, "maybe", "units.metric: \"maybe\" is refused; accepted: true or false");
+    row(PARAM_METRIC, "2", "units.metric: \"2\" is refused; accepted: true or false");
+    row(PARAM_METRIC, "", "units.metric: \"\" is refused; accepted: true or false");
+    row(PARAM_AREA_UNIT, "2", "units.area: \"2\" is refused; accepted: hectare (0), acre (1)");
+    row(PARAM_AREA_UNIT, "01", "units.area: \"01\" is refused; accepted: hectare (0), acre (1)");
+    row(PARAM_AREA_UNIT, "acres", "units.area: \"acres\" is refused; accepted: hectare (0), acre (1)");
+    row(PARAM_UTC_OFFSET_HOURS, "24",
+        "clock.offset-hours: \"24\" is out of range; accepted: a whole number from -23 to 23");
+    row(PARAM_UTC_OFFSET_HOURS, "1.5",
+        "clock.offset-hours: \"1.5\" is refused; accepted: a whole number from -23 to 23");
+    row(PARAM_UTC_OFFSET_MINUTES, "60", "is out of range");
+    row(PARAM_BACKLIGHT_NIGHT_LEVEL, "101", "is out of range");
+    row(PARAM_BACKLIGHT_NIGHT_LEVEL, "-1", "is out of range");
+    row(PARAM_CLOCK_OFFSET, "2147483648", "is refused");
+    row(PARAM_USER_LOG_FILE_NUMBER, "0", "is out of range");
+    row(PARAM_USER_LOG_FILE_NUMBER, "100000", "is out of range");
+    row(PARAM_CLIENT, "a/b",
+        "active.client: \"a/b\" holds the separator \"/\", and would leave its folder; accepted: a name "
+        "that a FAT stick can hold, of at most 255 bytes; \"a_b\" would do");
+    row(PARAM_ACTIVE_JOB, "..", "would be another folder");
+    row(PARAM_INTERNAL_DRIVE, "/media/internal",
+        "does not end in \"/\"; accepted: an absolute path that ends in \"/\"");
+    row(PARAM_INTERNAL_DRIVE, "internal/", "is not an absolute path");
+    row(PARAM_EXTERNAL_DRIVE, "usb", "is not an absolute path");
+    row(PARAM_EXTERNAL_DRIVE, "", "is not an absolute path");
+    row(PARAM_MAP_COLOR_NIGHT, "blurple", "is refused; accepted: a colour");
+    row(PARAM_MAP_COLOR_NIGHT, "", "is refused; accepted: a colour");
+}
+
+void ParameterCatalogue::otherTextsAreRefused()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    QFETCH(QString, error);
+    QString said;
+    const QVariant read = TParameterCatalogue::Read(*TParameterCatalogue::Find(number), text, &said);
+    QVERIFY(!read.isValid());
+    QVERIFY2(said.contains(error), qPrintable(said));
+    QVERIFY(said.startsWith(TParameterCatalogue::Find(number)->name));
+}
+
+void ParameterCatalogue::everyFirstValueIsAccepted_data() { AddParameters(); }
+
+void ParameterCatalogue::everyFirstValueIsAccepted()
+{
+    QFETCH(int, number);
+    const tagParameter* const parameter = TParameterCatalogue::Find(number);
+    const QVariant first = TParameterCatalogue::FirstValue(*parameter);
+    if (!first.isValid())
+        return; // the terminal finds it
+    QString error;
+    const QVariant read = TParameterCatalogue::Read(*parameter, TParameterCatalogue::Text(*parameter, first), &error);
+    QCOMPARE(error, QString());
+    QCOMPARE(read.userType(), first.userType());
+    QCOMPARE(read, first);
+}
+
+void ParameterCatalogue::valuesOfAnotherTypeAreShownAsTheyAre()
+{
+    const tagParameter& area = *TParameterCatalogue::Find(PARAM_AREA_UNIT);
+    QCOMPARE(TParameterCatalogue::Text(area, 1), Utf8("acre"));
+    QCOMPARE(TParameterCatalogue::Text(area, 7), Utf8("7"));
+    QCOMPARE(TParameterCatalogue::Text(area, true), Utf8("true"));
+    QCOMPARE(TParameterCatalogue::Text(area, Utf8("acre")), Utf8("acre"));
+}
+
+QTEST_APPLESS_MAIN(ParameterCatalogue)
+#include "ParameterCatalogue.moc"
