@@ -51,7 +51,7 @@ tagStoreFinding CheckStructure(TSqliteConnection& connection)
     return {STORE_FILE_CLEAN, QString()};
 }
 
-tagStoreFinding ReadRows(TSqliteConnection& connection, tagContent* content)
+tagStoreFinding CheckRows(TSqliteConnection& connection, tagContent* content)
 {
     const auto rows = connection.Run(QLatin1String("SELECT id, type, value, digest FROM parameters"));
     for (const TSqliteConnection::TRow& row : rows) {
@@ -83,10 +83,14 @@ void Create(TSqliteConnection& connection)
 tagStoreFinding Read(TSqliteConnection& connection, tagContent* content)
 {
     *content = {};
-    tagStoreFinding finding = Verdict(connection, CheckStructure(connection));
-    if (finding.state == STORE_FILE_CLEAN)
-        finding = Verdict(connection, ReadRows(connection, content));
-    return finding;
+    const tagStoreFinding finding = Verdict(connection, CheckStructure(connection));
+    return finding.state == STORE_FILE_CLEAN ? ReadRows(connection, content) : finding;
+}
+
+tagStoreFinding ReadRows(TSqliteConnection& connection, tagContent* content)
+{
+    *content = {};
+    return Verdict(connection, CheckRows(connection, content));
 }
 
 QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes)

@@ -27,6 +27,9 @@ void Create(TSqliteConnection& connection);
 /// Checks the database throughout and reads the table.
 tagStoreFinding Read(TSqliteConnection& connection, tagContent* content);
 
+/// Reads the table alone, and checks no more than its rows.
+tagStoreFinding ReadRows(TSqliteConnection& connection, tagContent* content);
+
 /// Writes @p changes in one transaction; an invalid variant removes its row. Every valid one must be of a type that can
 /// be stored. @return empty, or why nothing was written.
 QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes);

@@ -11,6 +11,8 @@
 
 namespace {
 
+const int AnyNumber = std::numeric_limits<int>::max();
+
 void Assign(QMap<int, QVariant>* values, int id, const QVariant& value)
 {
     if (value.isValid())
@@ -21,14 +23,14 @@ void Assign(QMap<int, QVariant>* values, int id, const QVariant& value)
 
 } // namespace
 
-TParameterStore::TParameterStore() : m_HoldCount(0) {}
+TParameterStore::TParameterStore() : m_Revision(0), m_HoldCount(0) {}
 TParameterStore::~TParameterStore() = default;
 
 bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool persist)
 {
     {
         const QWriteLocker memory(&m_MemoryLock);
-        Assign(&m_Values, id, value);
+        Remember(id, value);
         if (!persist)
             return true;
         m_Wishes.insert(id, tagWish{value, 0});
@@ -50,7 +52,8 @@ bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool pers
         return false;
     // The disk works again: what failed once gets its second chance, apart from the above so that a value that can
     // never be written (too large for the disk, say) does not keep the others from it.
-    PersistWishes(1, 1);
+    if (!Wishes(1, 1).isEmpty())
+        PersistWishes(1, 1);
     return true;
 }
 
@@ -77,6 +80,12 @@ QMap<int, QVariant> TParameterStore::Values() const
     return m_Values;
 }
 
+quint64 TParameterStore::Revision() const
+{
+    const QReadLocker memory(&m_MemoryLock);
+    return m_Revision;
+}
+
 void TParameterStore::HoldPersistence()
 {
     const QMutexLocker disk(&m_DiskMutex);
@@ -88,49 +97,94 @@ bool TParameterStore::ReleasePersistence()
     const QMutexLocker disk(&m_DiskMutex);
     if (m_HoldCount > 0)
         --m_HoldCount;
-    return m_HoldCount > 0 || PersistWishes(0, std::numeric_limits<int>::max());
+    if (m_HoldCount > 0)
+        return true;
+    DropFulfilledWishes(); // before anything that others have done in the meantime is known
+    return PersistWishes(0, AnyNumber);
 }
 
 void TParameterStore::TakeStored(const QMap<int, QVariant>& values, const QSet<int>& unreadable)
 {
-    const QMutexLocker disk(&m_DiskMutex);
+    // Compared before memory is locked: it is a long while for those who read.
+    QMap<int, QVariant> news;
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        if (!IsSameValue(value.value(), m_OnDisk.value(value.key())))
+            news.insert(value.key(), value.value());
+    for (auto former = m_OnDisk.constBegin(); former != m_OnDisk.constEnd(); ++former)
+        if (!values.contains(former.key()))
+            news.insert(former.key(), QVariant());
+    for (const int id : unreadable)
+        if (!m_UnknownOnDisk.contains(id))
+            news.insert(id, QVariant());
+
     const QWriteLocker memory(&m_MemoryLock);
-    m_Values = values;
-    m_OnDisk = values;
-    m_UnknownOnDisk = unreadable;
+    for (auto parameter = news.constBegin(); parameter != news.constEnd(); ++parameter) {
+        const int id = parameter.key();
+        Assign(&m_OnDisk, id, parameter.value());
+        if (unreadable.contains(id))
+            m_UnknownOnDisk.insert(id);
+        else if (!m_Wishes.contains(id))
+            m_UnknownOnDisk.remove(id);
+        if (!m_Wishes.contains(id))
+            Remember(id, parameter.value());
+    }
+}
+
+void TParameterStore::LookAtDisk()
+{
+    const QMutexLocker disk(&m_DiskMutex);
+    if (m_HoldCount == 0)
+        CatchUp();
 }
 
 bool TParameterStore::PersistOutstanding()
 {
     const QMutexLocker disk(&m_DiskMutex);
-    return m_HoldCount == 0 && PersistWishes(0, std::numeric_limits<int>::max());
+    if (m_HoldCount > 0)
+        return false;
+    return Wishes(0, AnyNumber).isEmpty() || PersistWishes(0, AnyNumber);
+}
+
+// Under m_MemoryLock.
+void TParameterStore::Remember(int id, const QVariant& value)
+{
+    if (!IsSameValue(m_Values.value(id), value))
+        ++m_Revision;
+    Assign(&m_Values, id, value);
 }
 
 bool TParameterStore::PersistWishes(int minFailures, int maxFailures)
 {
-    const QMap<int, QVariant> changes = TakeChanges(minFailures, maxFailures);
+    const bool isKnown = CatchUp();
+    if (isKnown)
+        DropFulfilledWishes();
+    const QMap<int, QVariant> changes = Wishes(minFailures, maxFailures);
     if (changes.isEmpty())
         return true;
-    const bool done = Persist(changes);
+    const bool done = isKnown && Persist(changes);
     Settle(changes, done);
     return done;
 }
 
-QMap<int, QVariant> TParameterStore::TakeChanges(int minFailures, int maxFailures)
+QMap<int, QVariant> TParameterStore::Wishes(int minFailures, int maxFailures) const
 {
-    QMap<int, QVariant> changes;
+    QMap<int, QVariant> wishes;
+    const QReadLocker memory(&m_MemoryLock);
+    for (auto wish = m_Wishes.constBegin(); wish != m_Wishes.constEnd(); ++wish)
+        if (wish->failures >= minFailures && wish->failures <= maxFailures)
+            wishes.insert(wish.key(), wish->value);
+    return wishes;
+}
+
+// Those for what the disk is known to hold.
+void TParameterStore::DropFulfilledWishes()
+{
     const QWriteLocker memory(&m_MemoryLock);
     for (auto wish = m_Wishes.begin(); wish != m_Wishes.end();) {
         const int id = wish.key();
-        if (!m_UnknownOnDisk.contains(id) && IsSameValue(wish->value, m_OnDisk.value(id))) {
-            wish = m_Wishes.erase(wish);
-            continue;
-        }
-        if (wish->failures >= minFailures && wish->failures <= maxFailures)
-            changes.insert(id, wish->value);
-        ++wish;
+        const bool isFulfilled = !m_UnknownOnDisk.contains(id) && IsSameValue(wish->value, m_OnDisk.value(id));
+        wish = isFulfilled ? m_Wishes.erase(wish) : ++wish;
     }
-    return changes;
 }
 
 void TParameterStore::Settle(const QMap<int, QVariant>& changes, bool done)

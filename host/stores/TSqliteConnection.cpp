@@ -1,5 +1,6 @@
 #include "stores/TSqliteConnection.h"
 
+#include <QDeadlineTimer>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -10,28 +11,30 @@
 
 namespace {
 
-// How long another program may keep the file to itself before a read or a write gives up, in milliseconds.
-const QString WaitOption = QLatin1String("QSQLITE_BUSY_TIMEOUT=5000");
 const QString ReadOption = QLatin1String(";QSQLITE_OPEN_READONLY");
+
+// SQLite asks ever more rarely whether a file is free, until those who write much leave no gap for those who ask. So it
+// is left to wait for this long at most, and then told to ask anew.
+const int AskMilliseconds = 20;
 
 struct tagFailureCode
 {
     int code;
-    const char* words; ///< null where the database's own words will do
+    bool isBusy;
 };
 
 // Failures that say nothing against the content of the file.
 constexpr tagFailureCode Surroundings[] = {
-    {3, nullptr},                      // no permission
-    {5, "in use by another program"},  // busy
-    {6, "in use by another program"},  // locked
-    {7, nullptr},                      // out of memory
-    {8, nullptr},                      // read-only
-    {10, nullptr},                     // input or output failed
-    {13, nullptr},                     // disk full
-    {14, nullptr},                     // cannot be opened
-    {15, "in use by another program"}, // locking protocol
-    {-1, nullptr},                     // no answer from the driver
+    {3, false},  // no permission
+    {5, true},   // busy
+    {6, true},   // locked
+    {7, false},  // out of memory
+    {8, false},  // read-only
+    {10, false}, // input or output failed
+    {13, false}, // disk full
+    {14, false}, // cannot be opened
+    {15, true},  // locking protocol
+    {-1, false}, // no answer from the driver
 };
 
 // Reading less than was asked for, or nothing at all, is the file's fault: it is too short, or a bad block in it.
@@ -50,8 +53,9 @@ TSqliteConnection::tagFailure FailureOf(const QSqlError& error)
                      [code](const tagFailureCode& row) { return row.code == (code < 0 ? code : code & 0xff); });
     const bool isRead = std::find(std::begin(ReadFailures), std::end(ReadFailures), code) != std::end(ReadFailures);
     if (surroundings == std::end(Surroundings) || isRead)
-        return {text, true};
-    return {surroundings->words != nullptr ? QString::fromLatin1(surroundings->words) : text, false};
+        return {text, true, false};
+    return {surroundings->isBusy ? QString::fromLatin1("another program keeps it busy") : text, false,
+            surroundings->isBusy};
 }
 
 QString NextName()
@@ -62,11 +66,12 @@ QString NextName()
 
 } // namespace
 
-TSqliteConnection::TSqliteConnection(const QString& path, EAccess access)
-    : m_Database(QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), NextName())), m_Failure{QString(), false}
+TSqliteConnection::TSqliteConnection(const QString& path, EAccess access, int patience)
+    : m_Database(QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), NextName())), m_Failure{}, m_Patience(patience)
 {
     m_Database.setDatabaseName(path);
-    m_Database.setConnectOptions(access == SQLITE_ACCESS_READ ? WaitOption + ReadOption : WaitOption);
+    const QString wait = QString::fromLatin1("QSQLITE_BUSY_TIMEOUT=%1").arg(AskMilliseconds);
+    m_Database.setConnectOptions(access == SQLITE_ACCESS_READ ? wait + ReadOption : wait);
     if (!m_Database.open())
         m_Failure = FailureOf(m_Database.lastError());
 }
@@ -81,9 +86,20 @@ TSqliteConnection::~TSqliteConnection()
 
 QVector<TSqliteConnection::TRow> TSqliteConnection::Run(const QString& statement, const TRow& bound)
 {
-    QVector<TRow> rows;
     if (!m_Failure.text.isEmpty())
-        return rows;
+        return {};
+    const QDeadlineTimer deadline(m_Patience);
+    QVector<TRow> rows = RunOnce(statement, bound);
+    while (m_Failure.isBusy && !deadline.hasExpired()) {
+        m_Failure = {};
+        rows = RunOnce(statement, bound);
+    }
+    return rows;
+}
+
+QVector<TSqliteConnection::TRow> TSqliteConnection::RunOnce(const QString& statement, const TRow& bound)
+{
+    QVector<TRow> rows;
     QSqlQuery query(m_Database);
     query.setForwardOnly(true);
     bool isDone = query.prepare(statement);
@@ -111,6 +127,6 @@ QVariant TSqliteConnection::Value(const QString& statement)
 TSqliteConnection::tagFailure TSqliteConnection::TakeFailure()
 {
     tagFailure failure = m_Failure;
-    m_Failure = {QString(), false};
+    m_Failure = {};
     return failure;
 }

@@ -22,10 +22,16 @@ public:
     {
         QString text;
         bool isDamage; ///< the content of the file is to blame, not its surroundings
+        bool isBusy;   ///< somebody else kept the file to himself for longer than there was patience
     };
 
     /// @param path absolute, or ":memory:".
-    TSqliteConnection(const QString& path, EAccess access);
+    /// @param patience for how many milliseconds a statement waits for others who keep the file to themselves.
+    TSqliteConnection(const QString& path, EAccess access, int patience);
+
+    /// Another patience, from the next statement on.
+    void SetPatience(int patience) { m_Patience = patience; }
+
     ~TSqliteConnection();
 
     TSqliteConnection(const TSqliteConnection&) = delete;
@@ -41,6 +47,9 @@ public:
     tagFailure TakeFailure();
 
 private:
+    QVector<TRow> RunOnce(const QString& statement, const TRow& bound);
+
     QSqlDatabase m_Database;
     tagFailure m_Failure;
+    int m_Patience;
 };

@@ -4,24 +4,38 @@
 #include "stores/StoredValue.h"
 #include "stores/TDiskThread.h"
 #include "stores/TSqliteStoreFile.h"
+#include "stores/TWatchThread.h"
 
 #include <QFileInfo>
 
-std::unique_ptr<TSqliteStore> TSqliteStore::Open(const QString& path, QString* error)
+namespace {
+
+// One line for each reason: what fails is tried again and again.
+void SayOnce(const QString& failure, QString* said)
 {
-    std::unique_ptr<TSqliteStore> store(new TSqliteStore(QFileInfo(path).absoluteFilePath()));
+    if (!failure.isEmpty() && failure != *said)
+        SayOnStandardError(failure);
+    *said = failure;
+}
+
+} // namespace
+
+std::unique_ptr<TSqliteStore> TSqliteStore::Open(const QString& path, QString* error, int patience)
+{
+    std::unique_ptr<TSqliteStore> store(new TSqliteStore(QFileInfo(path).absoluteFilePath(), patience));
     *error = store->Load();
     if (!error->isEmpty())
         store.reset();
     return store;
 }
 
-TSqliteStore::TSqliteStore(const QString& path)
-    : m_DiskThread(std::make_unique<TDiskThread>()), m_File(std::make_unique<TSqliteStoreFile>(path))
+TSqliteStore::TSqliteStore(const QString& path, int patience)
+    : m_DiskThread(std::make_unique<TDiskThread>()), m_File(std::make_unique<TSqliteStoreFile>(path, patience))
 {}
 
 TSqliteStore::~TSqliteStore()
 {
+    m_Watch.reset();
     PersistOutstanding();
     m_DiskThread->Do([this] { m_File.reset(); });
 }
@@ -31,11 +45,21 @@ QString TSqliteStore::Load()
     QString error;
     StoreTable::tagContent content;
     m_DiskThread->Do([&] { error = m_File->Open(&content); });
-    for (auto row = content.unreadable.constBegin(); error.isEmpty() && row != content.unreadable.constEnd(); ++row)
-        SayOnStandardError(QString::fromLatin1("parameter %1 cannot be read: %2").arg(row.key()).arg(row.value()));
+    if (!error.isEmpty())
+        return error;
+    Take(content);
+    m_Watch = std::make_unique<TWatchThread>([this] { LookAtDisk(); });
+    return {};
+}
+
+void TSqliteStore::Take(const StoreTable::tagContent& content)
+{
+    for (auto row = content.unreadable.constBegin(); row != content.unreadable.constEnd(); ++row)
+        if (m_Unreadable.value(row.key()) != row.value())
+            SayOnStandardError(QString::fromLatin1("parameter %1 cannot be read: %2").arg(row.key()).arg(row.value()));
+    m_Unreadable = content.unreadable;
     const QList<int> unreadable = content.unreadable.keys();
     TakeStored(content.values, QSet<int>(unreadable.cbegin(), unreadable.cend()));
-    return error;
 }
 
 bool TSqliteStore::SetParameter(EParamID id, const QVariant& value, bool persist)
@@ -50,12 +74,22 @@ bool TSqliteStore::SetParameter(EParamID id, const QVariant& value, bool persist
     return false;
 }
 
+bool TSqliteStore::CatchUp()
+{
+    QString failure;
+    StoreTable::tagContent content;
+    bool isChanged = false;
+    m_DiskThread->Do([&] { failure = m_File->ReadChanged(&content, &isChanged); });
+    SayOnce(failure, &m_ReadFailure);
+    if (isChanged)
+        Take(content);
+    return failure.isEmpty();
+}
+
 bool TSqliteStore::Persist(const QMap<int, QVariant>& changes)
 {
     QString failure;
     m_DiskThread->Do([&] { failure = m_File->Write(changes); });
-    if (!failure.isEmpty() && failure != m_LastFailure)
-        SayOnStandardError(failure);
-    m_LastFailure = failure;
+    SayOnce(failure, &m_WriteFailure);
     return failure.isEmpty();
 }

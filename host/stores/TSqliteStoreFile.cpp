@@ -7,7 +7,7 @@
 
 namespace {
 
-const int LockMilliseconds = 5000;
+const int CopyPatience = 5000; // somebody may be looking into a copy with another tool
 const QString Memory = QLatin1String(":memory:");
 
 // What SQLite keeps beside a file. It must go where the file goes: left behind, it would be applied to the next file of
@@ -70,7 +70,7 @@ tagStoreFinding CheckAtRest(const QString& path)
     tagStoreFinding finding = RecogniseStoreFile(path);
     if (finding.state != STORE_FILE_CLEAN)
         return finding;
-    TSqliteConnection connection(path, TSqliteConnection::SQLITE_ACCESS_READ);
+    TSqliteConnection connection(path, TSqliteConnection::SQLITE_ACCESS_READ, CopyPatience);
     StoreTable::tagContent content;
     return StoreTable::Read(connection, &content);
 }
@@ -98,15 +98,49 @@ bool CopyTo(TSqliteConnection& source, const QString& target, QString* reason)
     return false;
 }
 
+QString CannotBeUsed(const QString& path, const QString& reason)
+{
+    return QString::fromLatin1("%1 cannot be used: %2").arg(path, reason);
+}
+
 QString Refusal(const QString& path, const tagStoreFinding& found)
 {
     if (found.state == STORE_FILE_INACCESSIBLE)
-        return QString::fromLatin1("%1 cannot be used: %2").arg(path, found.words);
+        return CannotBeUsed(path, found.words);
     return QString::fromLatin1("%1 is not accepted: found %2; accepted is an SQLite file with application id %3 and "
                                "schema %4")
         .arg(path, found.words)
         .arg(StoreTable::ApplicationId)
         .arg(StoreTable::SchemaVersion);
+}
+
+// Opens and reads a database that has been recognised as ours, and checks it throughout.
+tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
+                        std::unique_ptr<TSqliteConnection>* connection, StoreTable::tagContent* content)
+{
+    auto opened = std::make_unique<TSqliteConnection>(path, TSqliteConnection::SQLITE_ACCESS_WRITE,
+                                                      static_cast<int>(deadline.remainingTime()));
+    const tagStoreFinding finding = StoreTable::Read(*opened, content);
+    if (finding.state != STORE_FILE_CLEAN)
+        return finding;
+    const QString mode = opened->Value(QLatin1String("PRAGMA journal_mode = WAL")).toString();
+    opened->Run(QLatin1String("PRAGMA synchronous = FULL"));
+    const TSqliteConnection::tagFailure failure = opened->TakeFailure();
+    if (!failure.text.isEmpty())
+        return {STORE_FILE_INACCESSIBLE, failure.text};
+    if (mode != QLatin1String("wal"))
+        return {STORE_FILE_INACCESSIBLE, QLatin1String("no write-ahead log is possible on its drive")};
+    *connection = std::move(opened);
+    return finding;
+}
+
+// The same, of whatever stands under the name.
+tagStoreFinding RecogniseAndConnect(const QString& path, const QDeadlineTimer& deadline,
+                                    std::unique_ptr<TSqliteConnection>* connection)
+{
+    const tagStoreFinding finding = RecogniseStoreFile(path);
+    StoreTable::tagContent content;
+    return finding.state == STORE_FILE_CLEAN ? Connect(path, deadline, connection, &content) : finding;
 }
 
 bool IsOurs(EStoreFileState state) { return state == STORE_FILE_CLEAN || state == STORE_FILE_DAMAGED; }
@@ -115,53 +149,77 @@ bool IsBeyondUs(EStoreFileState state) { return state == STORE_FILE_NEWER || sta
 
 } // namespace
 
-TSqliteStoreFile::TSqliteStoreFile(const QString& path)
-    : m_Path(path), m_GoodPath(path + QLatin1String(".good")), m_Lock(path + QLatin1String(".lock")), m_Identity{}
+TSqliteStoreFile::TSqliteStoreFile(const QString& path, int patience)
+    : m_Path(path)
+    , m_GoodPath(path + QLatin1String(".good"))
+    , m_Patience(patience)
+    , m_Lock(path + QLatin1String(".lock"))
+    , m_Identity{}
 {}
 
 TSqliteStoreFile::~TSqliteStoreFile()
 {
-    if (m_Connection)
-        MakeGoodCopy();
+    if (!m_Connection)
+        return;
+    m_Connection.reset();
+    if (m_Lock.TakeAlone() && IsStillThere()) {
+        TSqliteConnection connection(m_Path, TSqliteConnection::SQLITE_ACCESS_WRITE, m_Patience);
+        MakeGoodCopy(connection);
+    }
 }
 
 QString TSqliteStoreFile::Open(StoreTable::tagContent* content)
 {
-    QString reason;
-    if (!m_Lock.Take(LockMilliseconds, &reason))
-        return QString::fromLatin1("%1 cannot be used: %2").arg(m_Path, reason);
-
-    tagStoreFinding found = OpenChecked(content);
-    if (found.state != STORE_FILE_CLEAN && !IsBeyondUs(found.state)) {
-        if (!Replace(found, &reason))
+    const QDeadlineTimer deadline(m_Patience);
+    bool isShared = false;
+    while (!isShared) {
+        QString reason;
+        if (!m_Lock.Take(deadline, &reason))
+            return CannotBeUsed(m_Path, reason);
+        if (m_Lock.IsAlone() && !Prepare(deadline, &reason))
             return reason;
-        found = OpenChecked(content);
+        isShared = !m_Lock.IsAlone() || m_Lock.Share(m_Identity, &reason);
+        if (!reason.isEmpty())
+            return CannotBeUsed(m_Path, reason);
     }
-    if (found.state != STORE_FILE_CLEAN)
-        return Refusal(m_Path, found);
-    MakeGoodCopy();
-    return {};
+    return OpenPrepared(deadline, content);
 }
 
-tagStoreFinding TSqliteStoreFile::OpenChecked(StoreTable::tagContent* content)
+// Alone with the file, makes it fit to be used. Leaves nothing of it open: while the lock goes over from alone to
+// shared somebody else may be alone with the file, and look at it from outside SQLite. A process that does so loses all
+// the locks that its own connections have on the file.
+bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
 {
-    tagStoreFinding finding = RecogniseStoreFile(m_Path);
-    if (finding.state != STORE_FILE_CLEAN)
-        return finding;
+    std::unique_ptr<TSqliteConnection> connection;
+    tagStoreFinding found = RecogniseAndConnect(m_Path, deadline, &connection);
+    if (found.state != STORE_FILE_CLEAN && !IsBeyondUs(found.state)) {
+        if (!Replace(found, reason))
+            return false;
+        found = RecogniseAndConnect(m_Path, deadline, &connection);
+    }
+    if (found.state != STORE_FILE_CLEAN) {
+        *reason = Refusal(m_Path, found);
+        return false;
+    }
     DurableFiles::Identify(m_Path, &m_Identity);
-    auto connection = std::make_unique<TSqliteConnection>(m_Path, TSqliteConnection::SQLITE_ACCESS_WRITE);
-    finding = StoreTable::Read(*connection, content);
-    if (finding.state != STORE_FILE_CLEAN)
-        return finding;
-    const QString mode = connection->Value(QLatin1String("PRAGMA journal_mode = WAL")).toString();
-    connection->Run(QLatin1String("PRAGMA synchronous = FULL"));
-    const TSqliteConnection::tagFailure failure = connection->TakeFailure();
-    if (!failure.text.isEmpty())
-        return {STORE_FILE_INACCESSIBLE, failure.text};
-    if (mode != QLatin1String("wal"))
-        return {STORE_FILE_INACCESSIBLE, QLatin1String("no write-ahead log is possible on its drive")};
-    m_Connection = std::move(connection);
-    return finding;
+    MakeGoodCopy(*connection);
+    return true;
+}
+
+// Opens what the first one has prepared. Nothing can be repaired here: others are at work on it.
+QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTable::tagContent* content)
+{
+    m_Lock.FileInUse(&m_Identity);
+    if (!IsStillThere())
+        return CannotBeUsed(m_Path, QLatin1String("it is not the file that another program has open"));
+    const tagStoreFinding found = Connect(m_Path, deadline, &m_Connection, content);
+    if (found.state == STORE_FILE_DAMAGED)
+        return CannotBeUsed(
+            m_Path, QString::fromLatin1("%1; it can be repaired when no other program uses it").arg(found.words));
+    if (found.state != STORE_FILE_CLEAN)
+        return Refusal(m_Path, found);
+    m_Connection->SetPatience(m_Patience);
+    return {};
 }
 
 // Puts a file that can be used in the place of one that cannot, and says so.
@@ -181,7 +239,7 @@ bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
     if (!isNew && !SetAside(m_Path, found, reason))
         return false;
     if (good.state == STORE_FILE_CLEAN) {
-        TSqliteConnection copy(m_GoodPath, TSqliteConnection::SQLITE_ACCESS_READ);
+        TSqliteConnection copy(m_GoodPath, TSqliteConnection::SQLITE_ACCESS_READ, CopyPatience);
         SayOnStandardError(QString::fromLatin1("%1: going on with the last good copy %2").arg(m_Path, m_GoodPath));
         return PutInPlace(copy, reason);
     }
@@ -189,7 +247,7 @@ bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
         return false;
     if (!isNew)
         SayOnStandardError(QString::fromLatin1("%1: no good copy, going on with an empty store").arg(m_Path));
-    TSqliteConnection empty(Memory, TSqliteConnection::SQLITE_ACCESS_WRITE);
+    TSqliteConnection empty(Memory, TSqliteConnection::SQLITE_ACCESS_WRITE, CopyPatience);
     StoreTable::Create(empty);
     return PutInPlace(empty, reason);
 }
@@ -202,20 +260,39 @@ bool TSqliteStoreFile::PutInPlace(TSqliteConnection& source, QString* reason)
     return false;
 }
 
+QString TSqliteStoreFile::ReadChanged(StoreTable::tagContent* content, bool* isChanged)
+{
+    const QVariant version = m_Connection->Value(QLatin1String("PRAGMA data_version"));
+    QString reason = m_Connection->TakeFailure().text;
+    *isChanged = reason.isEmpty() && version != m_Version;
+    if (*isChanged)
+        reason = StoreTable::ReadRows(*m_Connection, content).words;
+    if (!reason.isEmpty()) {
+        *isChanged = false;
+        return QString::fromLatin1("%1 cannot be read: %2").arg(m_Path, reason);
+    }
+    m_Version = version; // asked before the rows: what changes meanwhile is seen the next time
+    return {};
+}
+
 QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes)
 {
     QString reason = StoreTable::Write(*m_Connection, changes);
     // A file that was deleted or moved, or whose drive is gone, can still be written: into nothing.
-    DurableFiles::tagIdentity named;
-    if (reason.isEmpty() && !(DurableFiles::Identify(m_Path, &named) && named == m_Identity &&
-                              DurableFiles::Exists(m_Path + QLatin1String(CompanionSuffixes[0]))))
+    if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(CompanionSuffixes[0]))))
         reason = QLatin1String("it is no longer there");
     return reason.isEmpty() ? reason : QString::fromLatin1("%1 cannot be written: %2").arg(m_Path, reason);
 }
 
-void TSqliteStoreFile::MakeGoodCopy()
+bool TSqliteStoreFile::IsStillThere() const
+{
+    DurableFiles::tagIdentity named;
+    return DurableFiles::Identify(m_Path, &named) && named == m_Identity;
+}
+
+void TSqliteStoreFile::MakeGoodCopy(TSqliteConnection& source)
 {
     QString reason;
-    if (!CopyTo(*m_Connection, m_GoodPath, &reason))
+    if (!CopyTo(source, m_GoodPath, &reason))
         SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(m_GoodPath, reason));
 }

@@ -1,8 +1,7 @@
 #include "stores/TStoreLock.h"
 
-#include "stores/DurableFiles.h"
-
-#include <QDeadlineTimer>
+#include <QByteArray>
+#include <QList>
 #include <QThread>
 
 #include <cerrno>
@@ -14,39 +13,34 @@
 namespace {
 
 const unsigned long PollMilliseconds = 20;
+const char Separator = ' ';
+const char End = '\n'; // a note without it was not finished
 
 } // namespace
 
-TStoreLock::TStoreLock(const QString& path) : m_Path(path), m_File(-1) {}
+TStoreLock::TStoreLock(const QString& path) : m_Path(path), m_File(-1), m_IsAlone(false) {}
 
 TStoreLock::~TStoreLock()
 {
-    if (m_File < 0)
-        return;
     QString reason;
-    if (IsStillThere())
+    if ((m_IsAlone || TakeAlone()) && IsStillThere())
         DurableFiles::Remove(m_Path, &reason); // one that stays does no harm: it is not locked
     Drop();
 }
 
-bool TStoreLock::Take(int milliseconds, QString* reason)
+bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
 {
-    const QDeadlineTimer deadline(milliseconds);
     for (;;) {
         m_File = open(m_Path.toUtf8().constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
         if (m_File < 0) {
             *reason = DurableFiles::SystemReason(QLatin1String("cannot make"), m_Path);
             return false;
         }
-        if (flock(m_File, LOCK_EX | LOCK_NB) == 0) {
-            if (IsStillThere())
-                return true;
-            Drop(); // the one who held it has removed the file in between: try for the new one
-            continue;
-        }
+        if (TryToTake())
+            return true;
         const bool isTaken = errno == EWOULDBLOCK || errno == EINTR;
         if (!isTaken || deadline.hasExpired()) {
-            *reason = isTaken ? QString::fromLatin1("in use by another program: %1 is locked").arg(m_Path)
+            *reason = isTaken ? QString::fromLatin1("another program keeps it busy: %1 is locked").arg(m_Path)
                               : DurableFiles::SystemReason(QLatin1String("cannot lock"), m_Path);
             Drop();
             return false;
@@ -54,6 +48,67 @@ bool TStoreLock::Take(int milliseconds, QString* reason)
         Drop();
         QThread::msleep(PollMilliseconds);
     }
+}
+
+// When this is false, errno tells why.
+bool TStoreLock::TryToTake()
+{
+    m_IsAlone = flock(m_File, LOCK_EX | LOCK_NB) == 0;
+    if (!m_IsAlone && (errno != EWOULDBLOCK || flock(m_File, LOCK_SH | LOCK_NB) != 0))
+        return false;
+    // What was locked may have been removed in between by the last one. And between the two attempts one who was alone
+    // may have ended before the file was fit to be shared. Either way there is another chance.
+    DurableFiles::tagIdentity file;
+    if (!IsStillThere() || !(m_IsAlone || FileInUse(&file))) {
+        errno = EWOULDBLOCK;
+        return false;
+    }
+    return !m_IsAlone || ftruncate(m_File, 0) == 0;
+}
+
+bool TStoreLock::Share(const DurableFiles::tagIdentity& file, QString* reason)
+{
+    const QByteArray note = QByteArray::number(static_cast<qulonglong>(file.device)) + Separator +
+                            QByteArray::number(static_cast<qulonglong>(file.number)) + End;
+    if (pwrite(m_File, note.constData(), static_cast<size_t>(note.size()), 0) != note.size()) {
+        *reason = DurableFiles::SystemReason(QLatin1String("cannot write"), m_Path);
+        return false;
+    }
+    // The change is not promised to be atomic: somebody else may have been alone in between, and may still be.
+    DurableFiles::tagIdentity noted;
+    m_IsAlone = false;
+    if (flock(m_File, LOCK_SH | LOCK_NB) == 0 && IsStillThere() && FileInUse(&noted) && noted == file)
+        return true;
+    Drop();
+    return false;
+}
+
+bool TStoreLock::FileInUse(DurableFiles::tagIdentity* file) const
+{
+    QByteArray note(64, '\0');
+    const ssize_t length = pread(m_File, note.data(), static_cast<size_t>(note.size()), 0);
+    if (length <= 0 || note.at(static_cast<int>(length) - 1) != End)
+        return false;
+    note.truncate(static_cast<int>(length) - 1);
+    const QList<QByteArray> numbers = note.split(Separator);
+    bool isDevice = false;
+    bool isNumber = false;
+    *file = {static_cast<dev_t>(numbers.first().toULongLong(&isDevice)),
+             static_cast<ino_t>(numbers.last().toULongLong(&isNumber))};
+    return numbers.size() == 2 && isDevice && isNumber;
+}
+
+// Two who leave at once must not both find the other still there: each lets go before it tries. What comes in between
+// is a new user, who needs nothing of what the last one does.
+bool TStoreLock::TakeAlone()
+{
+    if (m_File >= 0) {
+        flock(m_File, LOCK_UN);
+        m_IsAlone = flock(m_File, LOCK_EX | LOCK_NB) == 0 && IsStillThere();
+        if (!m_IsAlone)
+            Drop();
+    }
+    return m_IsAlone;
 }
 
 bool TStoreLock::IsStillThere() const
@@ -66,6 +121,8 @@ bool TStoreLock::IsStillThere() const
 
 void TStoreLock::Drop()
 {
-    close(m_File);
+    if (m_File >= 0)
+        close(m_File);
     m_File = -1;
+    m_IsAlone = false;
 }

@@ -1,27 +1,47 @@
 #pragma once
 
+#include "stores/DurableFiles.h"
+
+#include <QDeadlineTimer>
 #include <QString>
 
-/// Keeps a store to one user at a time, in this process or another: a store that answers from memory would not see
-/// what somebody else writes. The system lets go of the lock when the process dies.
+/// Tells the users of a store's file, in this process or others, whether they are alone with it. Alone, one may repair
+/// and replace the file; after that it is shared, and nobody replaces it under the others. The system lets go of the
+/// lock when the process dies.
 class TStoreLock
 {
 public:
     /// @param path of the lock's own file, which is there while the lock is held.
     explicit TStoreLock(const QString& path);
+
+    /// The last one removes the lock's file.
     ~TStoreLock();
 
     TStoreLock(const TStoreLock&) = delete;
     TStoreLock& operator=(const TStoreLock&) = delete;
 
-    /// Waits for up to @p milliseconds. False with a reason when somebody else still holds the lock then, or when its
-    /// file cannot be made.
-    bool Take(int milliseconds, QString* reason);
+    /// Takes the lock: alone when nobody else has it, else with those who share it. Waits for one who is alone until
+    /// @p deadline has passed. False with a reason when the lock could not be had.
+    bool Take(const QDeadlineTimer& deadline, QString* reason);
+
+    bool IsAlone() const { return m_IsAlone; }
+
+    /// From alone to shared; those who come learn which file it is that all of them use. False when the lock was lost
+    /// to somebody else on the way, with an empty reason, or when its file cannot be written.
+    bool Share(const DurableFiles::tagIdentity& file, QString* reason);
+
+    /// Which file it is, told by the one who shared the lock.
+    bool FileInUse(DurableFiles::tagIdentity* file) const;
+
+    /// From shared to alone, without waiting: true for the last one. Whoever is not holds nothing any more.
+    bool TakeAlone();
 
 private:
+    bool TryToTake();
     bool IsStillThere() const;
     void Drop();
 
-    QString m_Path;
+    const QString m_Path;
     int m_File;
+    bool m_IsAlone;
 };

@@ -17,36 +17,64 @@ namespace {
 
 using TChanges = QMap<int, QVariant>;
 
-// A disk that can be made to fail, and that tells what it was asked for.
+void Apply(const TChanges& changes, TChanges* values)
+{
+    for (auto change = changes.begin(); change != changes.end(); ++change) {
+        values->insert(change.key(), change.value());
+        if (!change.value().isValid())
+            values->remove(change.key());
+    }
+}
+
+// A disk that can be made to fail, that others can change, and that tells what it was asked for.
 class TRecordingStore : public TParameterStore
 {
 public:
+    using TParameterStore::LookAtDisk;
     using TParameterStore::PersistOutstanding;
     using TParameterStore::TakeStored;
 
     std::function<bool(const TChanges&)> accepts = [](const TChanges&) { return true; };
     QList<TChanges> transactions; ///< those that were tried
     TChanges disk;
+    QSet<int> unreadable;
+    bool isReadable = true;
+
+    void ChangeElsewhere(const TChanges& changes)
+    {
+        Apply(changes, &disk);
+        m_IsChanged = true;
+    }
 
 protected:
+    bool CatchUp() override
+    {
+        if (isReadable && m_IsChanged) {
+            TakeStored(disk, unreadable);
+            m_IsChanged = false;
+        }
+        return isReadable;
+    }
+
     bool Persist(const TChanges& changes) override
     {
         transactions.append(changes);
         if (!accepts(changes))
             return false;
-        for (auto change = changes.begin(); change != changes.end(); ++change) {
-            disk.insert(change.key(), change.value());
-            if (!change.value().isValid())
-                disk.remove(change.key());
-        }
+        Apply(changes, &disk);
         return true;
     }
+
+private:
+    bool m_IsChanged = false;
 };
 
 bool Refuse(const TChanges&) { return false; }
 bool Accept(const TChanges&) { return true; }
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(TRecordingStore&)>)
 
 class ParameterStoreRules : public QObject
 {
@@ -76,6 +104,21 @@ private slots:
     void aReleaseTellsWhetherTheDiskTookIt();
     void aReleaseWithoutAHoldDoesNoHarm();
 
+    void memoryFollowsWhatOthersChange_data();
+    void memoryFollowsWhatOthersChange();
+    void aValueOnItsWayToTheDiskIsLaterThanTheirs();
+    void aWriteThatOthersMadeNecessaryIsDone();
+    void aWriteThatOthersHaveDoneIsNotDoneAgain();
+    void onlyWhatChangedIsWrittenOverTheirs();
+    void aHoldTakesNothingOfOthers();
+    void whatAHoldPutsBackDoesNotUndoOthersChanges();
+    void whatAHoldChangesIsLaterThanTheirs();
+    void aDiskThatCannotBeReadIsNotWritten();
+    void theRevisionGrowsWithEveryChange_data();
+    void theRevisionGrowsWithEveryChange();
+
+    void aParameterThatOthersMakeUnreadableIsAbsent();
+    void anUnreadableParameterThatOthersSetIsThere();
     void anUnreadableParameterStaysUntilItIsSet();
     void anUnreadableParameterCanBeRemoved();
     void aSnapshotDoesNotChange();
@@ -333,6 +376,214 @@ void ParameterStoreRules::aReleaseWithoutAHoldDoesNoHarm()
     QVERIFY(store.disk.isEmpty());
     QVERIFY(store.ReleasePersistence());
     QCOMPARE(store.disk, store.Values());
+}
+
+void ParameterStoreRules::memoryFollowsWhatOthersChange_data()
+{
+    QTest::addColumn<TChanges>("changes");
+    QTest::addColumn<TChanges>("expected");
+    const TChanges before{{PARAM_AREA_UNIT, 0}, {PARAM_CLIENT, QLatin1String("mine alone")}};
+    const auto row = [&before](const char* name, const TChanges& changes, const TChanges& differences) {
+        TChanges expected = before;
+        Apply(differences, &expected);
+        QTest::newRow(name) << changes << expected;
+    };
+    const QVariant none;
+    row("nothing", {}, {});
+    row("a new one", {{PARAM_METRIC, true}}, {{PARAM_METRIC, true}});
+    row("another value", {{PARAM_AREA_UNIT, 1}}, {{PARAM_AREA_UNIT, 1}});
+    row("another type", {{PARAM_AREA_UNIT, false}}, {{PARAM_AREA_UNIT, false}});
+    row("a removal", {{PARAM_AREA_UNIT, none}}, {{PARAM_AREA_UNIT, none}});
+    row("what memory covers", {{PARAM_CLIENT, QLatin1String("theirs")}}, {{PARAM_CLIENT, QLatin1String("theirs")}});
+    row("what memory covers, removed", {{PARAM_CLIENT, none}}, {{PARAM_CLIENT, none}});
+    row("what memory covers, the same again", {{PARAM_CLIENT, QLatin1String("stored")}}, {});
+    row("several", {{PARAM_AREA_UNIT, none}, {PARAM_METRIC, true}, {PARAM_FARM, 1}},
+        {{PARAM_AREA_UNIT, none}, {PARAM_METRIC, true}, {PARAM_FARM, 1}});
+}
+
+void ParameterStoreRules::memoryFollowsWhatOthersChange()
+{
+    QFETCH(TChanges, changes);
+    QFETCH(TChanges, expected);
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 0, true);
+    store.SetParameter(PARAM_CLIENT, QLatin1String("stored"), true);
+    store.SetParameter(PARAM_CLIENT, QLatin1String("mine alone"), false);
+    store.ChangeElsewhere(changes);
+    store.LookAtDisk();
+    QCOMPARE(store.Values(), expected);
+    QCOMPARE(store.transactions.size(), 2);
+}
+
+void ParameterStoreRules::aValueOnItsWayToTheDiskIsLaterThanTheirs()
+{
+    TRecordingStore store;
+    store.accepts = Refuse;
+    QVERIFY(!store.SetParameter(PARAM_AREA_UNIT, 1, true));
+    store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}});
+    store.LookAtDisk();
+    QCOMPARE(store.GetParameter(PARAM_AREA_UNIT), QVariant(1));
+
+    store.accepts = Accept;
+    QVERIFY(store.SetParameter(PARAM_METRIC, true, true));
+    QCOMPARE(store.disk, store.Values());
+    QCOMPARE(store.disk[PARAM_AREA_UNIT], QVariant(1));
+}
+
+void ParameterStoreRules::aWriteThatOthersMadeNecessaryIsDone()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 1, true);
+    store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}});
+    QVERIFY(store.SetParameter(PARAM_AREA_UNIT, 1, true));
+    QCOMPARE(store.disk, (TChanges{{PARAM_AREA_UNIT, 1}}));
+}
+
+void ParameterStoreRules::aWriteThatOthersHaveDoneIsNotDoneAgain()
+{
+    TRecordingStore store;
+    store.ChangeElsewhere({{PARAM_AREA_UNIT, 1}});
+    QVERIFY(store.SetParameter(PARAM_AREA_UNIT, 1, true));
+    QVERIFY(store.transactions.isEmpty());
+}
+
+void ParameterStoreRules::onlyWhatChangedIsWrittenOverTheirs()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 1, true);
+    store.SetParameter(PARAM_METRIC, true, true);
+    store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}});
+    QVERIFY(store.SetParameter(PARAM_METRIC, false, true));
+    QCOMPARE(store.transactions.last(), (TChanges{{PARAM_METRIC, false}}));
+    QCOMPARE(store.Values(), (TChanges{{PARAM_AREA_UNIT, 2}, {PARAM_METRIC, false}}));
+}
+
+void ParameterStoreRules::aHoldTakesNothingOfOthers()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 1, true);
+    TPersistenceHold hold(store);
+    store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}});
+    store.LookAtDisk();
+    QCOMPARE(store.GetParameter(PARAM_AREA_UNIT), QVariant(1));
+    QVERIFY(hold.Release());
+    QCOMPARE(store.GetParameter(PARAM_AREA_UNIT), QVariant(2));
+}
+
+void ParameterStoreRules::whatAHoldPutsBackDoesNotUndoOthersChanges()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("north"), true);
+    store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    store.transactions.clear();
+    {
+        const TPersistenceHold hold(store);
+        store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("built in"), true);
+        store.SetParameter(PARAM_FARM, QVariant(), true);
+        store.ChangeElsewhere({{PARAM_ACTIVE_JOB, QLatin1String("south")}, {PARAM_FARM, QLatin1String("Dale")}});
+        store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("north"), true);
+        store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    }
+    QVERIFY(store.transactions.isEmpty());
+    QCOMPARE(store.Values(),
+             (TChanges{{PARAM_ACTIVE_JOB, QLatin1String("south")}, {PARAM_FARM, QLatin1String("Dale")}}));
+}
+
+void ParameterStoreRules::whatAHoldChangesIsLaterThanTheirs()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 0, true);
+    {
+        const TPersistenceHold hold(store);
+        store.SetParameter(PARAM_AREA_UNIT, 1, true);
+        store.SetParameter(PARAM_METRIC, true, true);
+        store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}, {PARAM_METRIC, true}, {PARAM_FARM, QLatin1String("Hill")}});
+    }
+    QCOMPARE(store.transactions.last(), (TChanges{{PARAM_AREA_UNIT, 1}})); // the other one is there already
+    QCOMPARE(store.Values(), store.disk);
+    QCOMPARE(store.disk, (TChanges{{PARAM_AREA_UNIT, 1}, {PARAM_METRIC, true}, {PARAM_FARM, QLatin1String("Hill")}}));
+}
+
+void ParameterStoreRules::aDiskThatCannotBeReadIsNotWritten()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 0, true);
+    store.isReadable = false;
+    // Not even for what seems to be there: others may have changed it.
+    QVERIFY(!store.SetParameter(PARAM_AREA_UNIT, 0, true));
+    QVERIFY(!store.SetParameter(PARAM_METRIC, true, true));
+    QCOMPARE(store.transactions.size(), 1);
+    QCOMPARE(store.GetParameter(PARAM_METRIC), QVariant(true));
+
+    store.isReadable = true;
+    QVERIFY(store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true));
+    QCOMPARE(store.disk, store.Values());
+}
+
+void ParameterStoreRules::theRevisionGrowsWithEveryChange_data()
+{
+    using TAction = std::function<void(TRecordingStore&)>;
+    QTest::addColumn<TAction>("action");
+    QTest::addColumn<bool>("grows");
+    const auto row = [](const char* name, bool grows, const TAction& action) {
+        QTest::newRow(name) << action << grows;
+    };
+    row("a value", true, [](TRecordingStore& store) { store.SetParameter(PARAM_METRIC, false, true); });
+    row("the same value", false, [](TRecordingStore& store) { store.SetParameter(PARAM_METRIC, true, true); });
+    row("in memory alone", true, [](TRecordingStore& store) { store.SetParameter(PARAM_METRIC, false, false); });
+    row("a removal", true, [](TRecordingStore& store) { store.SetParameter(PARAM_METRIC, QVariant(), true); });
+    row("a removal of nothing", false,
+        [](TRecordingStore& store) { store.SetParameter(PARAM_FARM, QVariant(), true); });
+    row("while it is held", true, [](TRecordingStore& store) {
+        const TPersistenceHold hold(store);
+        store.SetParameter(PARAM_METRIC, false, true);
+        store.SetParameter(PARAM_METRIC, true, true);
+    });
+    row("what the disk refuses", true, [](TRecordingStore& store) {
+        store.accepts = Refuse;
+        store.SetParameter(PARAM_METRIC, false, true);
+    });
+    row("by others", true, [](TRecordingStore& store) { store.ChangeElsewhere({{PARAM_METRIC, false}}); });
+    row("by others to the same", false, [](TRecordingStore& store) { store.ChangeElsewhere({{PARAM_METRIC, true}}); });
+    row("a look", false, [](TRecordingStore&) {});
+}
+
+void ParameterStoreRules::theRevisionGrowsWithEveryChange()
+{
+    QFETCH(std::function<void(TRecordingStore&)>, action);
+    QFETCH(bool, grows);
+    TRecordingStore store;
+    store.SetParameter(PARAM_METRIC, true, true);
+    const quint64 before = store.Revision();
+    action(store);
+    store.LookAtDisk();
+    QCOMPARE(store.Revision() > before, grows);
+    QVERIFY(store.Revision() >= before);
+}
+
+void ParameterStoreRules::aParameterThatOthersMakeUnreadableIsAbsent()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    store.unreadable = {PARAM_FARM, PARAM_FIELD};
+    store.ChangeElsewhere({{PARAM_FARM, QVariant()}});
+    store.LookAtDisk();
+    QVERIFY(store.Values().isEmpty());
+    store.transactions.clear();
+    QVERIFY(store.SetParameter(PARAM_FARM, QVariant(), true)); // takes the rows away
+    QVERIFY(store.SetParameter(PARAM_FIELD, QVariant(), true));
+    QCOMPARE(store.transactions, (QList<TChanges>{{{PARAM_FARM, QVariant()}}, {{PARAM_FIELD, QVariant()}}}));
+}
+
+void ParameterStoreRules::anUnreadableParameterThatOthersSetIsThere()
+{
+    TRecordingStore store;
+    store.TakeStored({}, {PARAM_FARM});
+    store.ChangeElsewhere({{PARAM_FARM, QLatin1String("Hill")}});
+    store.LookAtDisk();
+    QCOMPARE(store.GetParameter(PARAM_FARM), QVariant(QLatin1String("Hill")));
+    QVERIFY(store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true));
+    QVERIFY(store.transactions.isEmpty());
 }
 
 void ParameterStoreRules::anUnreadableParameterStaysUntilItIsSet()

@@ -1,7 +1,6 @@
 #include "StoreTestSupport.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -90,10 +89,7 @@ void StoreRecoversFromDamage::initTestCase()
 
 void StoreRecoversFromDamage::init()
 {
-    // Hundreds of stores are opened here, each waiting for the disk several times. In memory there is no such wait.
-    m_Folder = std::make_unique<QTemporaryDir>(QLatin1String("/dev/shm/StoreRecoversFromDamage-XXXXXX"));
-    if (!m_Folder->isValid())
-        m_Folder = std::make_unique<QTemporaryDir>();
+    m_Folder = MakeFolder();
     m_Path = m_Folder->filePath(QLatin1String("settings.db"));
 }
 
@@ -405,13 +401,16 @@ void StoreRecoversFromDamage::theGoodCopyIsNotMadeOfADamagedFile()
     Place(m_FileBytes);
     auto store = OpenStore(m_Path);
     const QByteArray good = FileBytes(m_Path + Good);
-    RunSql(m_Path, QLatin1String("UPDATE parameters SET value = 'Smyth' WHERE id = 8932"));
     TStandardErrorCapture standardError;
+    RunSql(m_Path, QLatin1String("UPDATE parameters SET value = 'Smyth' WHERE id = 8932"));
+    const QString reason = QLatin1String("its parameter 8932 does not match its digest");
+    QTRY_COMPARE_WITH_TIMEOUT(standardError.Lines(),
+                              QStringList(QString::fromLatin1("%1 cannot be read: %2").arg(m_Path, reason)),
+                              SoonMilliseconds);
     store.reset();
     QCOMPARE(FileBytes(m_Path + Good), good);
-    QCOMPARE(standardError.Lines(),
-             QStringList(m_Path + QLatin1String(".good cannot be made: its parameter 8932 does not "
-                                                "match its digest")));
+    QCOMPARE(standardError.Lines().mid(1),
+             QStringList(QString::fromLatin1("%1.good cannot be made: %2").arg(m_Path, reason)));
 }
 
 void StoreRecoversFromDamage::remainsOfAnUnfinishedCopyDoNotMatter()

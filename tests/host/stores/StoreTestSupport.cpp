@@ -14,7 +14,14 @@
 #include <cstdlib>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
+
+std::unique_ptr<QTemporaryDir> MakeFolder()
+{
+    auto folder = std::make_unique<QTemporaryDir>(QLatin1String("/dev/shm/stores-XXXXXX"));
+    return folder->isValid() ? std::move(folder) : std::make_unique<QTemporaryDir>();
+}
 
 std::unique_ptr<TSqliteStore> OpenStore(const QString& path)
 {

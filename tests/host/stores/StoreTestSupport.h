@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QVariant>
 
@@ -14,8 +15,17 @@
 /// Any number as a parameter's.
 inline EParamID Param(int id) { return static_cast<EParamID>(id); }
 
+/// A folder in memory where that is possible: tests that open hundreds of stores would wait for the disk each time.
+std::unique_ptr<QTemporaryDir> MakeFolder();
+
 /// Opens a store; a reason for failing is said as a warning of the test.
 std::unique_ptr<TSqliteStore> OpenStore(const QString& path);
+
+/// Within so many milliseconds stores that share a file have the same values.
+const int SharingMilliseconds = 1000;
+
+/// How long tests wait for what happens soon, however slow the machine.
+const int SoonMilliseconds = 60000;
 
 /// What the file holds: opens it as a store, reads everything and closes it.
 QMap<int, QVariant> StoredValues(const QString& path);
