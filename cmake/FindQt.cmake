@@ -6,7 +6,7 @@ endif()
 
 set(_components Core Gui)
 if(CABSETTINGS_HOST)
-    list(APPEND _components Sql Positioning LinguistTools)
+    list(APPEND _components Sql Positioning Network SerialPort LinguistTools)
 endif()
 if(CABSETTINGS_TESTS)
     list(APPEND _components Test)

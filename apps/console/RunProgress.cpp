@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -23,9 +24,17 @@ TRunProgress::TRunProgress(const TNmeaReceiver& receiver) : m_Receiver(receiver)
     m_Timer.start(IntervalMs);
 }
 
-TRunProgress::~TRunProgress()
+TRunProgress::~TRunProgress() { Wipe(); }
+
+void TRunProgress::Say(const QString& text)
 {
-    if (m_IsShown)
+    Wipe();
+    std::fprintf(stderr, "cabsettings: %s\n", text.toUtf8().constData());
+}
+
+void TRunProgress::Wipe()
+{
+    if (std::exchange(m_IsShown, false))
         std::fputs(WipeLine, stderr);
 }
 

@@ -17,8 +17,12 @@ public:
     /// Wipes the line from the terminal.
     ~TRunProgress() override;
 
+    /// Says one line on standard error, whatever it is, behind the program's name; what is shown makes way for it.
+    void Say(const QString& text);
+
 private:
     void Show();
+    void Wipe();
 
     const TNmeaReceiver& m_Receiver;
     QTimer m_Timer;

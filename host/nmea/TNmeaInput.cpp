@@ -1,58 +1,47 @@
 #include "nmea/TNmeaInput.h"
 
+#include "nmea/TFileSource.h"
 #include "nmea/TNmeaStreamTime.h"
-
-#include <QFile>
-#include <QSocketNotifier>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "nmea/TSerialSource.h"
+#include "nmea/TTcpSource.h"
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <cmath>
-#include <system_error>
 #include <utility>
 
 namespace {
 
 const double LongestWait = 60000; // milliseconds; QTimer counts them in an int
 
-int OpenForReading(const QString& path)
+using ByteSourcePtr = std::unique_ptr<TByteSource>;
+
+struct tagSourceMaker
 {
-    // A descriptor of our own, so that the end closes it like any other. No O_NONBLOCK there: the flag would hold for
-    // every process that shares the standard input.
-    if (path == QLatin1String("-"))
-        return fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0);
-    // Without waiting for the other end of a pipe, or for a modem's carrier.
-    return open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-}
+    ByteSourcePtr operator()(const tagFileAddress& file) const { return std::make_unique<TFileSource>(file.path); }
+    ByteSourcePtr operator()(const tagTcpAddress& server) const { return std::make_unique<TTcpSource>(server); }
+    ByteSourcePtr operator()(const tagSerialAddress& line) const { return std::make_unique<TSerialSource>(line); }
+};
 
 } // namespace
 
-TNmeaInput::TNmeaInput(const QString& path, double speed, QObject* parent)
+TNmeaInput::TNmeaInput(const NmeaAddress& address, double speed, QObject* parent)
     : QObject(parent)
-    , m_Path(path)
     , m_Speed(speed)
+    , m_Source(std::visit(tagSourceMaker(), address))
     , m_DueAt(0)
-    , m_Notifier(nullptr)
-    , m_Fd(-1)
     , m_IsRunning(false)
     , m_IsAtEnd(false)
 {
+    connect(m_Source.get(), &TByteSource::Received, this, &TNmeaInput::Take);
+    connect(m_Source.get(), &TByteSource::Lost, this, &TNmeaInput::BreakLine);
+    connect(m_Source.get(), &TByteSource::Regained, this, &TNmeaInput::SourceRegained);
+    connect(m_Source.get(), &TByteSource::Ended, this, &TNmeaInput::TakeEnd);
     m_Timer.setSingleShot(true);
     m_Timer.setTimerType(Qt::PreciseTimer);
     connect(&m_Timer, &QTimer::timeout, this, &TNmeaInput::Step);
 }
 
-TNmeaInput::~TNmeaInput()
-{
-    delete m_Notifier;
-    if (m_Fd >= 0)
-        close(m_Fd);
-}
+TNmeaInput::~TNmeaInput() = default;
 
 void TNmeaInput::Start()
 {
@@ -62,7 +51,7 @@ void TNmeaInput::Start()
 
 void TNmeaInput::Stop()
 {
-    if (m_IsRunning && m_Notifier) { // what a live source has sent is received, be the last line complete or not
+    if (m_IsRunning && !m_Source->IsRecording()) { // what has been sent is received, be the last line complete or not
         TNmeaLineSplitter received = std::exchange(m_Splitter, TNmeaLineSplitter());
         for (QByteArray line = received.TakeLine(); !line.isEmpty(); line = received.TakeLine())
             emit LineReceived(line);
@@ -70,53 +59,43 @@ void TNmeaInput::Stop()
         if (!rest.isEmpty())
             emit LineReceived(rest);
     }
-    End(true, QString());
+    End(QString());
 }
 
 void TNmeaInput::Step()
 {
-    if (m_Fd < 0 && !Open())
-        return;
-    if (m_Waiting.isEmpty() && !m_IsAtEnd && !Read())
-        return;
+    if (m_Waiting.isEmpty())
+        m_Source->Read();
+    else
+        HandOn();
+}
+
+void TNmeaInput::Take(const QByteArray& bytes)
+{
+    if (m_Speed > 0 && !m_StreamTime && m_Source->IsRecording()) {
+        m_StreamTime = std::make_unique<TNmeaStreamTime>();
+        m_Elapsed.start();
+    }
+    m_Splitter.Append(bytes.constData(), static_cast<int>(bytes.size()));
     HandOn();
 }
 
-bool TNmeaInput::Open()
+void TNmeaInput::BreakLine(const QString& reason)
 {
-    m_Fd = OpenForReading(m_Path);
-    struct stat status = {};
-    const bool isOpen = m_Fd >= 0 && fstat(m_Fd, &status) == 0;
-    if (!isOpen || S_ISDIR(status.st_mode)) {
-        Fail(isOpen ? EISDIR : errno);
-        return false;
-    }
-    m_Elapsed.start();
-    if (!S_ISREG(status.st_mode)) {
-        m_Notifier = new QSocketNotifier(m_Fd, QSocketNotifier::Read);
-        connect(m_Notifier, &QSocketNotifier::activated, this, &TNmeaInput::Step);
-        return false; // it tells when there is something to read
-    }
-    if (m_Speed > 0)
-        m_StreamTime = std::make_unique<TNmeaStreamTime>();
-    return true;
+    const QByteArray rest = m_Splitter.TakeRest();
+    if (!rest.isEmpty())
+        emit LineReceived(rest + (rest.endsWith('\r') ? "\n" : "\r\n"));
+    if (m_IsRunning)
+        emit SourceLost(reason);
 }
 
-/// False when nothing came, for now or for ever.
-bool TNmeaInput::Read()
+void TNmeaInput::TakeEnd(const QString& error)
 {
-    std::array<char, 0x10000> buffer;
-    const ssize_t count = read(m_Fd, buffer.data(), buffer.size());
-    if (count < 0) {
-        if (errno != EAGAIN && errno != EINTR)
-            Fail(errno);
-        else if (!m_Notifier)
-            m_Timer.start(0);
-        return false;
-    }
-    m_IsAtEnd = count == 0;
-    m_Splitter.Append(buffer.data(), static_cast<int>(count));
-    return true;
+    m_IsAtEnd = true;
+    if (error.isEmpty())
+        HandOn();
+    else
+        End(error);
 }
 
 void TNmeaInput::HandOn()
@@ -132,8 +111,8 @@ void TNmeaInput::HandOn()
             return;
     }
     if (m_IsAtEnd)
-        End(true, QString());
-    else if (!m_Notifier)
+        End(QString());
+    else if (m_Source->IsRecording())
         m_Timer.start(0);
 }
 
@@ -152,26 +131,12 @@ QByteArray TNmeaInput::NextLine()
 /// Milliseconds until the line is due; none for what is not paced.
 double TNmeaInput::Wait() const { return m_StreamTime ? m_DueAt - static_cast<double>(m_Elapsed.elapsed()) : 0; }
 
-void TNmeaInput::Fail(int error)
-{
-    const QString name = m_Path == QLatin1String("-") ? QString(QLatin1String("standard input")) : m_Path;
-    const QString reason = QString::fromStdString(std::generic_category().message(error));
-    End(false, QString::fromLatin1("cannot %1 %2: %3").arg(QLatin1String(m_Fd < 0 ? "open" : "read"), name, reason));
-}
-
-void TNmeaInput::End(bool ok, const QString& error)
+void TNmeaInput::End(const QString& error)
 {
     if (!m_IsRunning)
         return;
     m_IsRunning = false;
     m_Timer.stop();
-    if (m_Notifier) {
-        m_Notifier->setEnabled(false);
-        m_Notifier->deleteLater(); // it may be the one that is calling
-        m_Notifier = nullptr;
-    }
-    if (m_Fd >= 0)
-        close(m_Fd);
-    m_Fd = -1;
-    emit Finished(ok, error);
+    m_Source->Close();
+    emit Finished(error.isEmpty(), error);
 }

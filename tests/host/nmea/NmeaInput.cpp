@@ -1,7 +1,8 @@
+#include "NmeaCatch.h"
+
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TNmeaInput.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -28,28 +29,6 @@ QByteArray Recording()
     }
     return stream + "$GPGG";
 }
-
-/// What comes out of an input.
-struct tagCatch
-{
-    explicit tagCatch(TNmeaInput& input) : lines(&input, &TNmeaInput::LineReceived), end(&input, &TNmeaInput::Finished)
-    {}
-
-    bool WaitForEnd() { return !end.isEmpty() || end.wait(60000); }
-    bool Ok() const { return end.value(0).value(0).toBool(); }
-    QString Error() const { return end.value(0).value(1).toString(); }
-
-    QByteArray Stream() const
-    {
-        QByteArray stream;
-        for (const QList<QVariant>& line : lines)
-            stream += line.value(0).toByteArray();
-        return stream;
-    }
-
-    QSignalSpy lines;
-    QSignalSpy end;
-};
 
 /// Both ends of a pipe, closed at the end.
 struct tagPipe
@@ -165,7 +144,7 @@ void NmeaInput::filesComeOutWhole()
 {
     QFETCH(QByteArray, stream);
     QFETCH(double, speed);
-    TNmeaInput input(Write(stream), speed);
+    TNmeaInput input(tagFileAddress{Write(stream)}, speed);
     tagCatch caught(input);
     input.Start();
     QVERIFY(caught.lines.isEmpty()); // nothing before the event loop runs
@@ -187,7 +166,7 @@ void NmeaInput::theEventLoopRunsWhileAFileIsRead_data()
 void NmeaInput::theEventLoopRunsWhileAFileIsRead()
 {
     QFETCH(double, speed);
-    TNmeaInput input(Write(Recording()), speed);
+    TNmeaInput input(tagFileAddress{Write(Recording())}, speed);
     tagCatch caught(input);
     int linesAtOnce = 0;
     int most = 0;
@@ -203,10 +182,10 @@ void NmeaInput::theEventLoopRunsWhileAFileIsRead()
 
 void NmeaInput::theNextLineOfAFileWaitsForItsTime()
 {
-    TNmeaInput input(Write(Recording()), 1e-6); // the second line is due in eleven days
+    TNmeaInput input(tagFileAddress{Write(Recording())}, 1e-6); // the second line is due in eleven days
     tagCatch caught(input);
     input.Start();
-    QVERIFY(caught.lines.wait(60000));
+    QVERIFY(caught.lines.wait(Deadline));
     for (int round = 0; round < 1000; ++round)
         QCoreApplication::processEvents();
     QCOMPARE(caught.lines.size(), 1);
@@ -219,15 +198,16 @@ void NmeaInput::linesOfAPipeComeAsTheyAreSent()
 {
     tagPipe pipe;
     QVERIFY(pipe.isOpen);
-    TNmeaInput input(QString::fromLatin1("/dev/fd/%1").arg(pipe.ends[0]), 1e-6); // which holds for files alone
+    TNmeaInput input(tagFileAddress{QString::fromLatin1("/dev/fd/%1").arg(pipe.ends[0])},
+                     1e-6); // which holds for files alone
     tagCatch caught(input);
     input.Start();
 
     pipe.Write("$GPZDA,120000.00,01,05,2024,,*60\r\n$GP");
-    QVERIFY(caught.lines.wait(60000));
+    QVERIFY(caught.lines.wait(Deadline));
     QCOMPARE(caught.Stream(), QByteArray("$GPZDA,120000.00,01,05,2024,,*60\r\n"));
     pipe.Write("ZDA,130000.00,01,05,2024,,*61\r\nre");
-    QVERIFY(caught.lines.wait(60000));
+    QVERIFY(caught.lines.wait(Deadline));
     QCOMPARE(caught.lines.size(), 2);
     QVERIFY(caught.end.isEmpty());
     pipe.Write("st");
@@ -241,7 +221,7 @@ void NmeaInput::aNamedPipeIsWaitedFor()
 {
     const QString path = PathOf("pipe");
     QCOMPARE(mkfifo(QFile::encodeName(path).constData(), S_IRUSR | S_IWUSR), 0);
-    TNmeaInput input(path);
+    TNmeaInput input(tagFileAddress{path});
     tagCatch caught(input);
     input.Start();
     for (int round = 0; round < 100; ++round)
@@ -275,7 +255,7 @@ void NmeaInput::theStandardInputIsRead()
     pipe.CloseWriter();
 
     const TStandardInput standardInput(isPipe ? pipe.ends[0] : file.handle());
-    TNmeaInput input(QString::fromLatin1("-"));
+    TNmeaInput input(tagFileAddress{QString::fromLatin1("-")});
     tagCatch caught(input);
     input.Start();
     QVERIFY(caught.WaitForEnd());
@@ -290,11 +270,11 @@ void NmeaInput::theStandardInputStaysOpen()
     QVERIFY(pipe.isOpen);
     const TStandardInput standardInput(pipe.ends[0]);
     {
-        TNmeaInput input(QString::fromLatin1("-"));
+        TNmeaInput input(tagFileAddress{QString::fromLatin1("-")});
         tagCatch caught(input);
         input.Start();
         pipe.Write("$A*41\r\n");
-        QVERIFY(caught.lines.wait(60000));
+        QVERIFY(caught.lines.wait(Deadline));
         input.Stop();
     }
     pipe.Write("x");
@@ -321,7 +301,7 @@ void NmeaInput::whatCannotBeReadIsNamed_data()
 void NmeaInput::whatCannotBeReadIsNamed()
 {
     QFETCH(QString, path);
-    TNmeaInput input(path);
+    TNmeaInput input(tagFileAddress{path});
     tagCatch caught(input);
     input.Start();
     QVERIFY(caught.end.isEmpty()); // told by the event loop, like everything else
@@ -344,7 +324,7 @@ void NmeaInput::itCanBeStopped()
 {
     QFETCH(bool, isRunning);
     tagPipe pipe;
-    TNmeaInput input(QString::fromLatin1("/dev/fd/%1").arg(pipe.ends[0]));
+    TNmeaInput input(tagFileAddress{QString::fromLatin1("/dev/fd/%1").arg(pipe.ends[0])});
     tagCatch caught(input);
     input.Stop();
     QVERIFY(caught.end.isEmpty()); // not started
@@ -352,7 +332,7 @@ void NmeaInput::itCanBeStopped()
     input.Start();
     pipe.Write("$A*41\r\n$B");
     if (isRunning)
-        QVERIFY(caught.lines.wait(60000));
+        QVERIFY(caught.lines.wait(Deadline));
     input.Stop();
     QCOMPARE(caught.end.size(), 1);
     QVERIFY(caught.Ok());
@@ -366,7 +346,7 @@ void NmeaInput::itCanBeStopped()
 
 void NmeaInput::stoppingWithinALineIsTheEnd()
 {
-    TNmeaInput input(Write(Recording()));
+    TNmeaInput input(tagFileAddress{Write(Recording())});
     tagCatch caught(input);
     connect(&input, &TNmeaInput::LineReceived, this, [&] {
         if (caught.lines.size() == 10)
@@ -384,7 +364,7 @@ void NmeaInput::itMayBeDestroyedWhileItRuns()
     tagPipe pipe;
     const QString path = QString::fromLatin1("/dev/fd/%1").arg(pipe.ends[0]);
     for (const int rounds : {0, 1, 10}) {
-        TNmeaInput input(path);
+        TNmeaInput input(tagFileAddress{path});
         input.Start();
         for (int round = 0; round < rounds; ++round)
             QCoreApplication::processEvents();

@@ -1,0 +1,88 @@
+#include "nmea/TTcpSource.h"
+
+#include <QNetworkProxy>
+
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+
+namespace {
+
+const qint64 BufferSize = 0x10000;
+
+/// What gpsd says to everybody, and what makes it send NMEA.
+const char GpsdGreeting[] = R"({"class":"VERSION")";
+const char GpsdRequest[] = "?WATCH={\"enable\":true,\"nmea\":true};\n";
+const int GreetingLength = static_cast<int>(sizeof GpsdGreeting) - 1;
+
+struct tagSocketOption
+{
+    int level;
+    int name;
+    int value;
+};
+
+/// A receiver talks every second. A silent peer is asked whether it is still there, and gone when it does not answer.
+const tagSocketOption WatchPeer[] = {
+    {SOL_SOCKET, SO_KEEPALIVE, 1},
+    {IPPROTO_TCP, TCP_KEEPIDLE, 10}, // seconds
+    {IPPROTO_TCP, TCP_KEEPINTVL, 5},
+    {IPPROTO_TCP, TCP_KEEPCNT, 3},
+};
+
+} // namespace
+
+TTcpSource::TTcpSource(const tagTcpAddress& address) : m_Address(address), m_HostIsKnown(false)
+{
+    m_Socket.setProxy(QNetworkProxy::NoProxy); // the receiver is in the cab, whatever all_proxy says
+    m_Socket.setReadBufferSize(BufferSize);
+    connect(&m_Socket, &QTcpSocket::hostFound, this, [this] { m_HostIsKnown = true; });
+    connect(&m_Socket, &QTcpSocket::connected, this, &TTcpSource::OnConnected);
+    connect(&m_Socket, &QTcpSocket::readyRead, this, &TTcpSource::OnReadyRead);
+    // Later, when the socket is done with it: it may be used again only then.
+    connect(&m_Socket, &QTcpSocket::errorOccurred, this, &TTcpSource::OnError, Qt::QueuedConnection);
+}
+
+TTcpSource::~TTcpSource() { Close(); }
+
+void TTcpSource::Connect()
+{
+    m_Beginning.clear();
+    m_Socket.connectToHost(m_Address.host, m_Address.port);
+}
+
+void TTcpSource::Disconnect() { m_Socket.abort(); }
+
+void TTcpSource::OnConnected()
+{
+    const int fd = static_cast<int>(m_Socket.socketDescriptor());
+    for (const tagSocketOption& option : WatchPeer)
+        setsockopt(fd, option.level, option.name, &option.value, sizeof option.value);
+    Made();
+}
+
+void TTcpSource::OnError()
+{
+    if (!IsOpen()) // it was closed in the meantime
+        return;
+    if (m_Socket.error() == QTcpSocket::HostNotFoundError && !m_HostIsKnown)
+        emit Ended(QString::fromLatin1("cannot find the host %1").arg(m_Address.host));
+    else
+        Failed(m_Socket.errorString());
+}
+
+void TTcpSource::OnReadyRead()
+{
+    const QByteArray bytes = m_Socket.readAll();
+    if (CompletesGreeting(bytes))
+        m_Socket.write(GpsdRequest);
+    Deliver(bytes);
+}
+
+bool TTcpSource::CompletesGreeting(const QByteArray& bytes)
+{
+    if (m_Beginning.size() == GreetingLength)
+        return false;
+    m_Beginning += bytes.left(GreetingLength - m_Beginning.size());
+    return m_Beginning == GpsdGreeting;
+}
