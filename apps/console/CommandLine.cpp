@@ -1,9 +1,12 @@
 #include "CommandLine.h"
 
 #include "Command.h"
+#include "Completion.h"
 #include "Output.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -18,6 +21,9 @@ bool LooksLikeNegativeNumber(const QString& text)
            (text.at(1).isDigit() || text.at(1) == QLatin1Char('.'));
 }
 
+/// As people type it: "-n", "--speed".
+QString Dashed(const QString& option) { return QLatin1String(option.size() == 1 ? "-" : "--") + option; }
+
 std::optional<double> ToNumber(const QString& text)
 {
     bool isNumber = false;
@@ -29,21 +35,28 @@ std::optional<double> ToNumber(const QString& text)
 
 TCommandLine::TCommandLine(const QString& command, const QString& usage, const QString& description,
                            const QString& example)
-    : m_Command(command), m_Usage(usage), m_Example(example)
+    : m_Command(command), m_Usage(usage), m_Example(example), m_Description(description)
 {
     m_Parser.setApplicationDescription(description);
     m_Parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    m_Parser.addOption(
-        QCommandLineOption({QLatin1String("h"), QLatin1String(HelpOption)}, QLatin1String("Shows this help.")));
+    const QString help = QLatin1String("Shows this help.");
+    m_Options.append({Dashed(QLatin1String(HelpOption)), help, QString()});
+    m_Parser.addOption(QCommandLineOption({QLatin1String("h"), QLatin1String(HelpOption)}, help));
 }
 
 void TCommandLine::AddOption(const QString& name, const QString& description, const QString& valueName,
                              const QString& defaultValue)
 {
     const QString ending = defaultValue.isEmpty() ? QString() : QString::fromLatin1(" [%1]").arg(defaultValue);
-    if (!valueName.isEmpty())
-        m_OptionsWithValue.append(name);
+    m_Options.append({Dashed(name), description + ending, valueName});
     m_Parser.addOption(QCommandLineOption(name, description + ending, valueName, defaultValue));
+}
+
+bool TCommandLine::TakesNextAsValue(const QString& argument) const
+{
+    return std::any_of(m_Options.begin(), m_Options.end(), [&argument](const Manual::tagOption& option) {
+        return argument == option.name && !option.valueName.isEmpty();
+    });
 }
 
 QStringList TCommandLine::WithNumbersAsWords(QStringList arguments) const
@@ -51,7 +64,7 @@ QStringList TCommandLine::WithNumbersAsWords(QStringList arguments) const
     for (int i = 1; i < arguments.size() && arguments.at(i) != QLatin1String("--"); ++i) {
         if (LooksLikeNegativeNumber(arguments.at(i)))
             arguments[i].prepend(WordMark);
-        else if (arguments.at(i).startsWith(QLatin1String("--")) && m_OptionsWithValue.contains(arguments.at(i).mid(2)))
+        else if (TakesNextAsValue(arguments.at(i)))
             ++i;
     }
     return arguments;
@@ -69,6 +82,16 @@ QStringList TCommandLine::Words() const
 
 std::optional<int> TCommandLine::Read(const QStringList& arguments, int fewest, int most)
 {
+    if (Completion::IsAsked(arguments)) {
+        m_Parser.parse(WithNumbersAsWords(arguments.mid(0, arguments.size() - 1)));
+        PrintWordsToCome();
+        return STATUS_DONE;
+    }
+    if (Manual::IsAsked(arguments)) {
+        Manual::PrintCommand(QString::fromLatin1("%1 [options] %2").arg(m_Command, m_Usage).trimmed(), m_Description,
+                             m_Options, m_Example);
+        return STATUS_DONE;
+    }
     if (!m_Parser.parse(WithNumbersAsWords(arguments)))
         return Misused(m_Parser.errorText());
     if (m_Parser.isSet(QLatin1String(HelpOption))) {
@@ -87,7 +110,7 @@ std::optional<double> TCommandLine::Number(const QString& option) const
 {
     if (const auto number = ToNumber(Value(option)))
         return number;
-    Misused(QString::fromLatin1("--%1 takes a number, not \"%2\"").arg(option, Value(option)));
+    Misused(QString::fromLatin1("%1 takes a number, not \"%2\"").arg(Dashed(option), Value(option)));
     return std::nullopt;
 }
 
@@ -96,8 +119,8 @@ std::optional<double> TCommandLine::Number(const QString& option, double least, 
     const auto number = ToNumber(Value(option));
     if (number && *number >= least && *number <= greatest)
         return number;
-    Misused(QString::fromLatin1("--%1 takes a number from %2 to %3, not \"%4\"")
-                .arg(option)
+    Misused(QString::fromLatin1("%1 takes a number from %2 to %3, not \"%4\"")
+                .arg(Dashed(option))
                 .arg(least, 0, 'f', -1)
                 .arg(greatest, 0, 'f', -1)
                 .arg(Value(option)));
@@ -110,8 +133,8 @@ std::optional<int> TCommandLine::WholeNumber(const QString& option, int least, i
     const int number = Value(option).toInt(&isNumber);
     if (isNumber && number >= least && number <= greatest)
         return number;
-    Misused(QString::fromLatin1("--%1 takes a whole number from %2 to %3, not \"%4\"")
-                .arg(option)
+    Misused(QString::fromLatin1("%1 takes a whole number from %2 to %3, not \"%4\"")
+                .arg(Dashed(option))
                 .arg(least)
                 .arg(greatest)
                 .arg(Value(option)));
@@ -124,6 +147,15 @@ int TCommandLine::Misused(const QString& text) const
     if (sentence.endsWith(QLatin1Char('.')))
         sentence.chop(1);
     return Misuse(QString::fromLatin1("%1: %2 (see cabsettings %1 --help)").arg(m_Command, sentence));
+}
+
+void TCommandLine::PrintWordsToCome() const
+{
+    QStringList words = Completion::Words(m_Usage, Words());
+    for (const Manual::tagOption& option : m_Options)
+        words.append(option.name);
+    for (const QString& word : std::as_const(words))
+        Print(word + QLatin1Char('\n'));
 }
 
 void TCommandLine::PrintHelp() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Manual.h"
+
 #include <QCommandLineParser>
 #include <QList>
 #include <QString>
@@ -38,13 +40,17 @@ public:
     int Misused(const QString& text) const;
 
 private:
+    bool TakesNextAsValue(const QString& argument) const;
+
     /// @p arguments with negative numbers marked as the words that they are: the parser would take them for options.
     QStringList WithNumbersAsWords(QStringList arguments) const;
     void PrintHelp() const;
+    void PrintWordsToCome() const;
 
     QString m_Command;
     QString m_Usage;
     QString m_Example;
-    QStringList m_OptionsWithValue;
+    QString m_Description;
+    QList<Manual::tagOption> m_Options;
     QCommandLineParser m_Parser;
 };

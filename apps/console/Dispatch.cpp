@@ -1,4 +1,5 @@
 #include "Command.h"
+#include "Completion.h"
 #include "Output.h"
 
 #include <QList>
@@ -19,15 +20,26 @@ int Dispatch(const QString& program, const tagCommand* commands, std::size_t cou
         return STATUS_DONE;
     }
 
+    QStringList names;
+    for (std::size_t i = 0; i < count; ++i)
+        names.append(QLatin1String(commands[i].name));
+    if (arguments.size() == 1 && Completion::IsAsked(arguments)) {
+        Print(names.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        return STATUS_DONE;
+    }
+
+    if (word == QLatin1String("--manual")) {
+        for (std::size_t i = 0; i < count; ++i)
+            commands[i].run(context, {QLatin1String(commands[i].name), word});
+        return STATUS_DONE;
+    }
+
     const tagCommand* const command = std::find_if(commands, commands + count, [&word](const tagCommand& candidate) {
         return word == QLatin1String(candidate.name);
     });
     if (command != commands + count)
         return command->run(context, arguments);
 
-    QStringList names;
-    for (std::size_t i = 0; i < count; ++i)
-        names.append(QLatin1String(commands[i].name));
     const QString problem = word.isEmpty() ? QLatin1String("a command is missing")
                                            : QString::fromLatin1("there is no command \"%1\"").arg(word);
     return Misuse(QString::fromLatin1("%1; the commands are %2 (see %3 --help)")

@@ -1,4 +1,4 @@
-// log add and log export: the user log and the NMEA log.
+// log: the group of its commands; log add and log export, which need a terminal that runs.
 
 #include "Command.h"
 #include "CommandLine.h"
@@ -9,10 +9,15 @@
 #include "logs/TUserDiagnosticLogProxy.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <limits>
 
 namespace {
+
+const char* const JsonOption = "json";
 
 int RunAdd(const tagContext& context, const QStringList& arguments)
 {
@@ -43,13 +48,20 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
     return isLogged ? STATUS_DONE : Fail(QLatin1String("the entry could not be written to the user log"));
 }
 
-int ExportOne(TDiagnosticLogProxy& log, const char* name, const QString& target)
+/// Copies one log, and tells of it in words or in @p array. False when not every file could be copied, which is said.
+bool ExportOne(TDiagnosticLogProxy& log, const char* name, const char* title, const QString& target, QJsonArray* array)
 {
     const TDiagnosticLog::tagExportResult result = log.Export(target);
+    if (array) {
+        array->append(QJsonObject{{QLatin1String("log"), QLatin1String(name)},
+                                  {QLatin1String("files"), result.filesFound},
+                                  {QLatin1String("complete"), result.allCopied}});
+    } else if (result.allCopied) {
+        Print(QString::fromLatin1("%1: %2 files copied\n").arg(QLatin1String(title)).arg(result.filesHandled));
+    }
     if (!result.allCopied)
-        return Fail(QString::fromLatin1("%1: not every file could be copied to %2").arg(QLatin1String(name), target));
-    Print(QString::fromLatin1("%1: %2 files copied\n").arg(QLatin1String(name)).arg(result.filesHandled));
-    return STATUS_DONE;
+        Fail(QString::fromLatin1("%1: not every file could be copied to %2").arg(QLatin1String(title), target));
+    return result.allCopied;
 }
 
 int RunExport(const tagContext& context, const QStringList& arguments)
@@ -57,6 +69,8 @@ int RunExport(const tagContext& context, const QStringList& arguments)
     TCommandLine line(QLatin1String("log export"), QLatin1String("DIR"),
                       QLatin1String("Copies every file of both logs into a folder, down to the disk."),
                       QLatin1String("cabsettings log export /media/usb"));
+    line.AddOption(QLatin1String(JsonOption),
+                   QLatin1String("Prints an array of objects: log, files (how many there are), complete."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const QString target = line.Words().first();
@@ -68,13 +82,19 @@ int RunExport(const tagContext& context, const QStringList& arguments)
         return STATUS_FAILED;
     TUserDiagnosticLogProxy userLog;
     TNEMADiagnosticLogProxy nmeaLog;
-    const int user = ExportOne(userLog, "user log", target);
-    const int nmea = ExportOne(nmeaLog, "NMEA log", target);
-    return qMax(user, nmea);
+    const bool isJson = line.IsSet(QLatin1String(JsonOption));
+    QJsonArray array;
+    const bool isUserCopied = ExportOne(userLog, "user", "user log", target, isJson ? &array : nullptr);
+    const bool isNmeaCopied = ExportOne(nmeaLog, "nmea", "NMEA log", target, isJson ? &array : nullptr);
+    if (isJson)
+        PrintBytes(QJsonDocument(array).toJson());
+    return isUserCopied && isNmeaCopied ? STATUS_DONE : STATUS_FAILED;
 }
 
 const tagCommand Commands[] = {
     {"add", "Adds an entry to the user log.", RunAdd},
+    {"tail", "Prints the newest lines of a log.", RunLogTail},
+    {"list", "Lists the files of both logs.", RunLogList},
     {"export", "Copies the files of both logs into a folder.", RunExport},
 };
 

@@ -10,7 +10,12 @@ namespace {
 
 const int Gap = 2; // blanks between columns
 
-void Say(const QString& text) { std::fprintf(stderr, "cabsettings: %s\n", text.toUtf8().constData()); }
+/// Behind what stands on standard output already, where both are one terminal.
+void Say(const QString& text)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "cabsettings: %s\n", text.toUtf8().constData());
+}
 
 } // namespace
 

@@ -1,106 +1,135 @@
-// get, set and list: the parameters of the store, by number.
+// get, set and reset: one parameter, by name or number.
 
 #include "Command.h"
 #include "CommandLine.h"
 #include "Output.h"
-#include "ParameterText.h"
+#include "ParameterArgument.h"
 #include "Store.h"
 
+#include "parameters/ParameterText.h"
 #include "terminal/FirstStartValues.h"
+
+#include <QJsonDocument>
 
 namespace {
 
-std::optional<EParamID> ToNumber(const QString& text)
+const char* const TypeOption = "type";
+const char* const JsonOption = "json";
+
+/// The store of the data folder as a terminal would find it.
+std::unique_ptr<TSqliteStore> OpenStartedStore(const tagContext& context)
 {
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber && number >= 0 ? std::optional<EParamID>(static_cast<EParamID>(number)) : std::nullopt;
+    std::unique_ptr<TSqliteStore> store = OpenStore(context);
+    if (store)
+        SetFirstStartValues(*store);
+    return store;
 }
 
-int NotANumber(const TCommandLine& line, const QString& text)
+int Store(TSqliteStore& store, const tagParameterArgument& parameter, const QVariant& value)
 {
-    return line.Misused(QString::fromLatin1("\"%1\" is no parameter; a whole number from 0 is accepted").arg(text));
+    return store.SetParameter(parameter.id, value, true)
+               ? STATUS_DONE
+               : Fail(QString::fromLatin1("%1 could not be stored").arg(parameter.Name()));
+}
+
+/// What was typed, as a value of a number that only the host knows: of the type that is asked for, or that it has.
+QVariant ReadHostValue(TSqliteStore& store, const tagParameterArgument& parameter, const QString& typeAsked,
+                       const QString& text, QString* error)
+{
+    if (typeAsked.isEmpty() && !store.HasParameter(parameter.id)) {
+        *error = QString::fromLatin1("has no value yet; say its type with --type: %1")
+                     .arg(ParameterText::TypeNames().join(QLatin1String(", ")));
+        return QVariant();
+    }
+    const QString type = typeAsked.isEmpty() ? ParameterText::TypeName(store.GetParameter(parameter.id)) : typeAsked;
+    return ParameterText::ToValue(type, text, error);
 }
 
 } // namespace
 
 int RunGet(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("get"), QLatin1String("NUMBER"), QLatin1String("Prints the value of a parameter."),
-                      QLatin1String("cabsettings get 8953"));
+    TCommandLine line(QLatin1String("get"), QLatin1String("PARAMETER"),
+                      QLatin1String("Prints the value of a parameter, given by name or number. By name, a choice is "
+                                    "printed as its name; by number, as its number."),
+                      QLatin1String("cabsettings get units.metric"));
+    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an object with all that is known about it."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
-    const auto id = ToNumber(line.Words().first());
-    if (!id)
-        return NotANumber(line, line.Words().first());
+    const auto parameter = ReadParameter(line.Words().first(), line);
+    if (!parameter)
+        return STATUS_MISUSED;
 
-    const auto store = OpenStore(context);
+    const auto store = OpenStartedStore(context);
     if (!store)
         return STATUS_FAILED;
-    SetFirstStartValues(*store);
-    if (!store->HasParameter(*id))
-        return Fail(QString::fromLatin1("parameter %1 is not set").arg(*id));
-    Print(ParameterText::FromValue(store->GetParameter(*id)) + QLatin1Char('\n'));
+    if (!store->HasParameter(parameter->id))
+        return Fail(QString::fromLatin1("%1 is not set").arg(parameter->Name()));
+    const QVariant value = store->GetParameter(parameter->id);
+    if (line.IsSet(QLatin1String(JsonOption)))
+        PrintBytes(QJsonDocument(ParameterJson(parameter->id, value)).toJson());
+    else
+        Print(ValueText(parameter->isByNumber ? nullptr : parameter->known, value) + QLatin1Char('\n'));
     return STATUS_DONE;
 }
 
 int RunSet(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("set"), QLatin1String("NUMBER VALUE"),
-                      QLatin1String("Sets a parameter. The value is read as the type that the parameter has; one that "
-                                    "has no value yet needs --type."),
-                      QLatin1String("cabsettings set 8932 Smith"));
+    TCommandLine line(QLatin1String("set"), QLatin1String("PARAMETER VALUE"),
+                      QLatin1String("Sets a parameter, given by name or number. `cabsettings describe` tells what it "
+                                    "accepts. A number that only the host uses takes what its type allows; one "
+                                    "without a value yet needs --type."),
+                      QLatin1String("cabsettings set units.area acre"));
     line.AddOption(
-        QLatin1String("type"),
+        QLatin1String(TypeOption),
         QString::fromLatin1("Type of the value: %1.").arg(ParameterText::TypeNames().join(QLatin1String(", "))),
         QLatin1String("TYPE"));
     if (const auto status = line.Read(arguments, 2, 2))
         return *status;
-    const auto id = ToNumber(line.Words().at(0));
-    if (!id)
-        return NotANumber(line, line.Words().at(0));
-
-    const auto store = OpenStore(context);
-    if (!store)
-        return STATUS_FAILED;
-    SetFirstStartValues(*store);
-    QString typeName = line.Value(QLatin1String("type"));
-    if (typeName.isEmpty()) {
-        if (!store->HasParameter(*id)) {
-            return line.Misused(QString::fromLatin1("parameter %1 has no value yet; say its type with --type: %2")
-                                    .arg(*id)
-                                    .arg(ParameterText::TypeNames().join(QLatin1String(", "))));
-        }
-        typeName = ParameterText::TypeName(store->GetParameter(*id));
+    const auto parameter = ReadParameter(line.Words().at(0), line);
+    if (!parameter)
+        return STATUS_MISUSED;
+    const QString type = line.Value(QLatin1String(TypeOption));
+    if (!type.isEmpty() && parameter->known && type != TParameterCatalogue::TypeName(parameter->known->type)) {
+        return line.Misused(QString::fromLatin1("%1 is of type %2")
+                                .arg(parameter->Name(), TParameterCatalogue::TypeName(parameter->known->type)));
     }
 
+    const QString text = line.Words().at(1);
     QString error;
-    const QVariant value = ParameterText::ToValue(typeName, line.Words().at(1), &error);
+    if (parameter->known) {
+        // Before the store is touched: a wrong value leaves no trace.
+        const QVariant value = TParameterCatalogue::Read(*parameter->known, text, &error);
+        if (!value.isValid())
+            return line.Misused(error);
+        const auto store = OpenStartedStore(context);
+        return store ? Store(*store, *parameter, value) : STATUS_FAILED;
+    }
+    const auto store = OpenStartedStore(context);
+    if (!store)
+        return STATUS_FAILED;
+    const QVariant value = ReadHostValue(*store, *parameter, type, text, &error);
     if (!value.isValid())
-        return line.Misused(QString::fromLatin1("parameter %1: %2").arg(*id).arg(error));
-    if (!store->SetParameter(*id, value, true))
-        return Fail(QString::fromLatin1("parameter %1 could not be stored").arg(*id));
-    return STATUS_DONE;
+        return line.Misused(QString::fromLatin1("%1: %2").arg(parameter->Name(), error));
+    return Store(*store, *parameter, value);
 }
 
-int RunList(const tagContext& context, const QStringList& arguments)
+int RunReset(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("list"), QString(),
-                      QLatin1String("Lists the parameters that have a value: number, type and value."),
-                      QLatin1String("cabsettings list"));
-    if (const auto status = line.Read(arguments, 0, 0))
+    TCommandLine line(QLatin1String("reset"), QLatin1String("PARAMETER"),
+                      QLatin1String("Gives a parameter the value of a first start, or none where the terminal finds it "
+                                    "itself."),
+                      QLatin1String("cabsettings reset colors.night.map"));
+    if (const auto status = line.Read(arguments, 1, 1))
         return *status;
-    const auto store = OpenStore(context);
-    if (!store)
-        return STATUS_FAILED;
-    SetFirstStartValues(*store);
-
-    const QMap<int, QVariant> values = store->Values();
-    QList<QStringList> rows;
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
-        rows.append(
-            {QString::number(it.key()), ParameterText::TypeName(it.value()), ParameterText::FromValue(it.value())});
+    const auto parameter = ReadParameter(line.Words().first(), line);
+    if (!parameter)
+        return STATUS_MISUSED;
+    if (!parameter->known) {
+        return line.Misused(
+            QString::fromLatin1("%1 is the host's own, and has no value of a first start").arg(parameter->Name()));
     }
-    PrintTable(rows);
-    return STATUS_DONE;
+
+    const auto store = OpenStartedStore(context);
+    return store ? Store(*store, *parameter, TParameterCatalogue::FirstValue(*parameter->known)) : STATUS_FAILED;
 }

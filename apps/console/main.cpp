@@ -1,4 +1,5 @@
 #include "Command.h"
+#include "Manual.h"
 #include "Output.h"
 
 #include <QCoreApplication>
@@ -14,13 +15,20 @@ const tagCommand Commands[] = {
     {"simulate", "Writes the NMEA stream of a tractor working a field.", RunSimulate},
     {"get", "Prints a parameter.", RunGet},
     {"set", "Sets a parameter.", RunSet},
+    {"reset", "Gives a parameter the value of a first start.", RunReset},
     {"list", "Lists the parameters.", RunList},
-    {"paths", "Prints where the files of a job lie.", RunPaths},
+    {"describe", "Explains a parameter.", RunDescribe},
+    {"colors", "Prints the colours by day and by night.", RunColors},
+    {"clock", "Prints the clock and sets it.", RunClock},
+    {"select", "Makes a job, a vehicle, a field... the active one.", RunSelect},
+    {"selections", "Lists what is active.", RunSelections},
+    {"paths", "Prints where everything lies.", RunPaths},
+    {"storage", "Prints what is free on the drives and in memory.", RunStorage},
     {"units", "Lists the units.", RunUnits},
     {"convert", "Converts a value or a column of values.", RunConvert},
     {"show", "Prints a value as the operator sees it.", RunShow},
     {"dump", "Prints what stands in a file of serialized blocks.", RunDump},
-    {"log", "Adds to the logs and exports them.", RunLog},
+    {"log", "Shows the logs, adds to them and exports them.", RunLog},
 };
 
 QString DefaultDataFolder()
@@ -44,7 +52,13 @@ int Run(QStringList arguments)
         Print(QLatin1String("cabsettings " CABSETTINGS_VERSION "\n"));
         return STATUS_DONE;
     }
-    return Dispatch(QLatin1String("cabsettings [--data DIR]"), Commands, context, arguments);
+    const bool isManual = arguments == QStringList{QLatin1String("--manual")};
+    if (isManual)
+        Manual::PrintHead();
+    const int status = Dispatch(QLatin1String("cabsettings [--data DIR]"), Commands, context, arguments);
+    if (isManual)
+        Manual::PrintTail();
+    return status;
 }
 
 } // namespace

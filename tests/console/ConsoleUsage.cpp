@@ -27,21 +27,19 @@ void ConsoleUsage::wrongUsageSaysWhatIsAccepted_data()
         QTest::newRow(name) << QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts)
                             << QString::fromUtf8(named) << QString::fromUtf8(accepted);
     };
-    row("no command", "", "a command is missing", "run, simulate, get, set, list, paths, units, convert, show, log");
-    row("unknown command", "fly", "\"fly\"", "run, simulate, get, set, list, paths, units, convert, show, log");
-    row("unknown log command", "log burn", "\"burn\"", "add, export");
-    row("no log command", "log", "a command is missing", "add, export");
+    row("no command", "", "a command is missing", "run, simulate, get, set, reset, list, describe, ");
+    row("unknown command", "fly", "\"fly\"", "run, simulate, get, set, reset, list, describe, ");
+    row("unknown log command", "log burn", "\"burn\"", "add, tail, list, export");
+    row("no log command", "log", "a command is missing", "add, tail, list, export");
     row("unknown option", "list --colour", "colour", "list --help");
-    row("get without number", "get", "missing", "NUMBER");
-    row("get of no number", "get metric", "\"metric\"", "whole number");
-    row("get of a negative number", "get -- -5", "\"-5\"", "whole number from 0");
-    row("get of two", "get 1 2", "\"2\"", "NUMBER");
-    row("set without value", "set 8953", "missing", "NUMBER VALUE");
-    row("set of an unknown type", "set --type float 8953 1", "\"float\"", "bool, int, double, string, color");
+    row("get without a parameter", "get", "missing", "PARAMETER");
+    row("get of a negative number", "get -- -5", "\"-5\"", "a name or a number");
+    row("get of two", "get 1 2", "\"2\"", "PARAMETER");
+    row("set without value", "set 8953", "missing", "PARAMETER VALUE");
+    row("reset of two", "reset 1 2", "\"2\"", "PARAMETER");
+    row("describe of nothing", "describe", "missing", "PARAMETER");
+    row("list of two", "list a b", "\"b\"", "[PATTERN]");
     row("set of an absent parameter", "set 77 1", "77", "--type");
-    row("set of a bad bool", "set 8953 maybe", "\"maybe\"", "true or false");
-    row("set of a bad int", "set 8960 1.5", "\"1.5\"", "whole number");
-    row("set of a bad colour", "set 9064 #12", "\"#12\"", "#rrggbb");
     row("paths with a word", "paths Smith", "\"Smith\"", "paths --help");
     row("paths without value", "paths --client", "client", "paths --help");
     row("log add without text", "log add", "missing", "TEXT");
@@ -75,9 +73,12 @@ void ConsoleUsage::everyCommandHasHelp_data()
 {
     QTest::addColumn<QStringList>("command");
     for (const char* command :
-         {"run", "simulate", "get", "set", "list", "paths", "units", "convert", "show", "log add", "log export"})
+         {"run",        "simulate",  "get",       "set",     "reset",      "list",     "describe",  "colors",
+          "clock show", "clock set", "clock utc", "select",  "selections", "paths",    "storage",   "units",
+          "convert",    "show",      "dump",      "log add", "log tail",   "log list", "log export"})
         QTest::newRow(command) << QString::fromLatin1(command).split(QLatin1Char(' '));
     QTest::newRow("the program") << QStringList();
+    QTest::newRow("clock") << QStringList{QLatin1String("clock")};
     QTest::newRow("log") << QStringList{QLatin1String("log")};
 }
 

@@ -71,7 +71,9 @@ void DocumentedTranscripts::transcriptsAreTrue()
             shown += line + QLatin1Char('\n');
         }
     }
-    QVERIFY2(commands > 0, "a document without a transcript has no place among these");
+    QVERIFY(!isInside);
+    // The table of parameters is tested where the commands for it are.
+    QVERIFY2(commands > 0 || document == QLatin1String("parameters.md"), "there is a document without a transcript");
 }
 
 QTEST_GUILESS_MAIN(DocumentedTranscripts)

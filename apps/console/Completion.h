@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What may follow on a command line that is being typed; the shell asks for it with "--complete" as the last word.
+namespace Completion {
+
+/// Whether the line asks for it.
+bool IsAsked(const QStringList& arguments);
+
+/// What may stand for the next word of a usage such as "PARAMETER VALUE", behind @p words.
+QStringList Words(const QString& usage, const QStringList& words);
+
+} // namespace Completion
