@@ -1,6 +1,8 @@
 # Qt 4.8 has no package of its own: CMake finds it by its qmake, under other names.
 if(CABSETTINGS_HOST)
-    message(FATAL_ERROR "The ready host and the programs on it need Qt 5 or 6: with CABSETTINGS_QT=4 only the library and its tests are built. Configure with -DCABSETTINGS_HOST=OFF.")
+    message(FATAL_ERROR
+        "The ready host and the programs on it need Qt 5 or 6: with CABSETTINGS_QT=4 only the library and its tests "
+        "are built. Configure with -DCABSETTINGS_HOST=OFF.")
 endif()
 
 set(_parts Core Gui)
