@@ -68,6 +68,7 @@ int RunRun(const tagContext& context, const QStringList& arguments)
                    QLatin1String("How many times as fast as it was recorded a file is played; 0 as fast as it can be "
                                  "read. A pipe comes as fast as it is sent; servers and devices take no speed."),
                    QLatin1String("N"), QLatin1String("0"));
+    line.AddOption(QLatin1String("json"), QLatin1String("Prints the summary as an object."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     const QString source = line.Value(QLatin1String("nmea"));
@@ -92,7 +93,7 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     const QString problem = Receive(source, *address, *speed, receiver);
     if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
         return Fail(problem); // nothing to sum up
-    PrintRunSummary(session.Store(), receiver.GetStatus());
+    PrintRunSummary(session.Store(), receiver.GetStatus(), line.IsSet(QLatin1String("json")));
     if (!problem.isEmpty())
         return Fail(problem);
     if (receiver.GetStatus().unloggedLines > 0)

@@ -9,6 +9,8 @@
 #include "region/TRegionSettingsProxy.h"
 #include "system/TSystemSettingsProxy.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocale>
 
 #include <cmath>
@@ -64,6 +66,18 @@ TRows StreamRows(const TNmeaReceiver::tagStatus& status)
         {QString(), QLatin1String("receiver"),
          QString::fromLatin1("%1, %2").arg(QLatin1String(status.hasFix ? "fix" : "no fix"), Position(status))},
     };
+}
+
+QJsonObject StreamJson(const TNmeaReceiver::tagStatus& status)
+{
+    const bool hasPosition = !std::isnan(status.latitude) && !std::isnan(status.longitude);
+    return {{QLatin1String("lines"), status.lines},
+            {QLatin1String("badChecksums"), status.badChecksums},
+            {QLatin1String("damaged"), status.damagedLines},
+            {QLatin1String("notLogged"), status.unloggedLines},
+            {QLatin1String("hasFix"), status.hasFix},
+            {QLatin1String("latitude"), hasPosition ? QJsonValue(status.latitude) : QJsonValue()},
+            {QLatin1String("longitude"), hasPosition ? QJsonValue(status.longitude) : QJsonValue()}};
 }
 
 /// The stored offset of local time from UTC, "+05:30".
@@ -145,14 +159,34 @@ TRows DriveRows()
     return rows;
 }
 
+/// An object for each heading, with what stands under it; a heading of one line has its text alone.
+void PrintJson(const QJsonObject& stream, const TRows& rows)
+{
+    QJsonObject object{{QLatin1String("stream"), stream}};
+    QString heading;
+    for (const QStringList& row : rows) {
+        heading = row.at(0).isEmpty() ? heading : row.at(0).toLower();
+        if (row.at(1).isEmpty()) {
+            object.insert(heading, row.at(2));
+            continue;
+        }
+        QJsonObject items = object.value(heading).toObject();
+        items.insert(row.at(1), row.at(2));
+        object.insert(heading, items);
+    }
+    PrintBytes(QJsonDocument(object).toJson());
+}
+
 } // namespace
 
-void PrintRunSummary(TParameterStore& store, const TNmeaReceiver::tagStatus& status)
+void PrintRunSummary(TParameterStore& store, const TNmeaReceiver::tagStatus& status, bool asJson)
 {
-    TRows rows =
-        StreamRows(status) + ClockRows(store, status) + ItemRows("Active", ActiveItems) + ItemRows("Paths", Paths);
+    TRows rows = ClockRows(store, status) + ItemRows("Active", ActiveItems) + ItemRows("Paths", Paths);
     TUserDiagnosticLogProxy().Close();
     TNEMADiagnosticLogProxy().Close();
     rows += LogRows() + DriveRows();
-    PrintTable(rows);
+    if (asJson)
+        PrintJson(StreamJson(status), rows);
+    else
+        PrintTable(StreamRows(status) + rows);
 }

@@ -5,4 +5,4 @@
 
 /// Prints what a run has come to: stream, clock, scheme, active items, paths, log files and drives. Closes the logs, so
 /// that their sizes are final.
-void PrintRunSummary(TParameterStore& store, const TNmeaReceiver::tagStatus& status);
+void PrintRunSummary(TParameterStore& store, const TNmeaReceiver::tagStatus& status, bool asJson);

@@ -1,5 +1,7 @@
 #include "TConsole.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QtTest>
 
 #include <csignal>
@@ -14,6 +16,7 @@ private slots:
     void theClockShowsTheLastUtcPlusTheOffset();
     void selectionsAreBackAfterARestart();
     void damagedLinesAreLoggedAsReceived();
+    void theSummaryCanBeHadAsJson();
     void standardInputIsReadToItsEnd();
     void aSecondRunGoesOnInTheSameFiles();
     void anInterruptEndsInGoodOrder();
@@ -160,6 +163,24 @@ void ConsoleRun::damagedLinesAreLoggedAsReceived()
     QCOMPARE(Log(console, "NMEA*.csv"), stream);
     QVERIFY2(result.output.contains(QLatin1String("5 (1 bad checksums, 4 damaged, 0 not logged)")),
              qPrintable(result.output));
+}
+
+void ConsoleRun::theSummaryCanBeHadAsJson()
+{
+    const TConsole console;
+    const QString stream = console.Path("stream.nmea");
+    WriteFile(stream, "$GPGLL,4916.45,N,12311.12,W,225444,A*31\r\nno sentence\r\n");
+    const TConsole::tagResult run =
+        console.Run({QLatin1String("run"), QLatin1String("--nmea"), stream, QLatin1String("--json")});
+    QCOMPARE(run.status, 0);
+    const QJsonObject summary = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    const QJsonObject received = summary.value(QLatin1String("stream")).toObject();
+    QCOMPARE(received.value(QLatin1String("lines")).toInt(), 2);
+    QCOMPARE(received.value(QLatin1String("damaged")).toInt(), 1);
+    QCOMPARE(received.value(QLatin1String("notLogged")).toInt(-1), 0);
+    for (const char* part : {"clock", "active", "paths", "logs", "drives"})
+        QVERIFY2(summary.value(QLatin1String(part)).isObject(), part);
+    QCOMPARE(summary.value(QLatin1String("scheme")).toString(), QLatin1String("day"));
 }
 
 void ConsoleRun::standardInputIsReadToItsEnd()
