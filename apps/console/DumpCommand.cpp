@@ -10,7 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -97,8 +97,8 @@ void PrintJson(const QList<tagBlock>& blocks)
 /// "string,int" as its types; empty when one of them is unknown, which was said.
 QStringList ReadLayout(const QString& text, const TCommandLine& line)
 {
-    const QStringList types = text.split(QLatin1Char(','));
-    for (const QString& type : types) {
+    QStringList types = text.split(QLatin1Char(','));
+    for (const QString& type : std::as_const(types)) {
         if (Types().contains(type))
             continue;
         line.Misused(QString::fromLatin1("--values: there is no type \"%1\"; the types are %2")

@@ -120,7 +120,7 @@ tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
 {
     auto opened = std::make_unique<TSqliteConnection>(path, TSqliteConnection::SQLITE_ACCESS_WRITE,
                                                       static_cast<int>(deadline.remainingTime()));
-    const tagStoreFinding finding = StoreTable::Read(*opened, content);
+    tagStoreFinding finding = StoreTable::Read(*opened, content);
     if (finding.state != STORE_FILE_CLEAN)
         return finding;
     const QString mode = opened->Value(QLatin1String("PRAGMA journal_mode = WAL")).toString();
@@ -138,7 +138,7 @@ tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
 tagStoreFinding RecogniseAndConnect(const QString& path, const QDeadlineTimer& deadline,
                                     std::unique_ptr<TSqliteConnection>* connection)
 {
-    const tagStoreFinding finding = RecogniseStoreFile(path);
+    tagStoreFinding finding = RecogniseStoreFile(path);
     StoreTable::tagContent content;
     return finding.state == STORE_FILE_CLEAN ? Connect(path, deadline, connection, &content) : finding;
 }

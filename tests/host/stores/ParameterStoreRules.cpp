@@ -4,6 +4,7 @@
 #include "stores/TPersistenceHold.h"
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QtTest>
 
 #include <atomic>
@@ -39,6 +40,7 @@ public:
     TChanges disk;
     QSet<int> unreadable;
     bool isReadable = true;
+    std::function<void()> whileItIsRead = [] {};
 
     void ChangeElsewhere(const TChanges& changes)
     {
@@ -49,6 +51,7 @@ public:
 protected:
     bool CatchUp() override
     {
+        whileItIsRead();
         if (isReadable && m_IsChanged) {
             TakeStored(disk, unreadable);
             m_IsChanged = false;
@@ -114,6 +117,7 @@ private slots:
     void whatAHoldPutsBackDoesNotUndoOthersChanges();
     void whatAHoldChangesIsLaterThanTheirs();
     void aDiskThatCannotBeReadIsNotWritten();
+    void thoseWhoWaitForADiskThatCannotBeReadWaitTogether();
     void theRevisionGrowsWithEveryChange_data();
     void theRevisionGrowsWithEveryChange();
 
@@ -517,6 +521,33 @@ void ParameterStoreRules::aDiskThatCannotBeReadIsNotWritten()
 
     store.isReadable = true;
     QVERIFY(store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true));
+    QCOMPARE(store.disk, store.Values());
+}
+
+void ParameterStoreRules::thoseWhoWaitForADiskThatCannotBeReadWaitTogether()
+{
+    const int threadCount = 8;
+    TRecordingStore store;
+    store.isReadable = false;
+    int reads = 0;
+    store.whileItIsRead = [&] {
+        ++reads;
+        QElapsedTimer timer;
+        timer.start();
+        while (store.Values().size() < threadCount && timer.elapsed() < SoonMilliseconds)
+            std::this_thread::yield();
+    };
+    std::atomic<int> failures{0};
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < threadCount; ++thread)
+        threads.emplace_back([&, thread] { failures += store.SetParameter(Param(thread), thread, true) ? 0 : 1; });
+    for (std::thread& thread : threads)
+        thread.join();
+    QCOMPARE(failures.load(), threadCount);
+    QCOMPARE(reads, 1);
+
+    store.isReadable = true;
+    QVERIFY(store.SetParameter(PARAM_METRIC, true, true));
     QCOMPARE(store.disk, store.Values());
 }
 
