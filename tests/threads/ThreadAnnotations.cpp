@@ -13,6 +13,7 @@
 #include <QWaitCondition>
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 #include <dlfcn.h>
@@ -134,6 +135,13 @@ bool QWaitCondition::wait(QMutex* mutex, QDeadlineTimer deadline)
     __tsan_mutex_pre_lock(mutex, 0);
     __tsan_mutex_post_lock(mutex, 0, 0);
     return isWoken;
+}
+
+bool QWaitCondition::wait(QMutex* mutex, unsigned long milliseconds)
+{
+    return wait(mutex, milliseconds == std::numeric_limits<unsigned long>::max()
+                           ? QDeadlineTimer(QDeadlineTimer::Forever)
+                           : QDeadlineTimer(static_cast<qint64>(milliseconds)));
 }
 
 // What a thread did is done when wait() returns. The signal is the last that it does before others may find that it has
