@@ -3,8 +3,9 @@
 #include "platform/EParamID.h"
 #include "platform/Export.h"
 
+#include <QByteArray>
+#include <QDate>
 #include <QFile>
-#include <QFileInfoList>
 #include <QString>
 
 #include <vector>
@@ -56,8 +57,9 @@ public:
     /// Closes the file; what is staged stays staged, and is dropped by the next flush of a closed log.
     void CloseWithoutFlush();
 
-    /// Stages @p length bytes, or writes them when they do not fit into what is left of the staging buffer. False when
-    /// the log is closed or not everything was written.
+    /// Stages @p length bytes, or writes them, behind what is staged, when they do not fit into what is left of the
+    /// staging buffer. False when the log is closed or not all of them were written; what is staged and cannot be
+    /// written is dropped without a word.
     bool LogDiagnostic(const char* data, int length);
 
     /// Writes what is staged. False when nothing was staged, the log is closed, or not everything was written; the
@@ -70,7 +72,7 @@ public:
     bool WriteToLog(const char* data, int length);
 
     /// Logs one line: local date and time ("2024.05.01-13:07:09:042,"), @p text in Latin-1 (other characters become
-    /// "?"), carriage return, line feed. Result as of LogDiagnostic().
+    /// "?"), carriage return, line feed. An invalid date or time is left out. Result as of LogDiagnostic().
     bool AddEntry(const QString& text);
 
     /// Copies every file of the series, complete, into the folder @p target, overwriting, and opens the log again.
@@ -87,15 +89,6 @@ public:
     QString NextLogFileIterationNumber();
 
 private:
-    struct tagSeries
-    {
-        QString folder; ///< up to and including the last "/", empty for the current folder
-        QString stem;
-        QString extension; ///< with its dot
-
-        int NumberOf(const QString& fileName, bool* isNumbered) const;
-    };
-
     /// Which file of the series counts as the newest. While the log goes on to its next file that is the one it has
     /// just filled, even if the machine's clock was set back and older files seem to be newer: else the next number
     /// would be taken from one of those, and what was just written be removed as the oldest.
@@ -107,8 +100,10 @@ private:
 
     bool Restore(const QString& basePath, int maxFileCount, long long maxFileSize, ENewest newest);
     QString NextFileName(ENewest newestIs);
-    static tagSeries SeriesOf(const QString& basePath);
-    QFileInfoList FilesOldestFirst(const tagSeries& series, ENewest newest) const;
+
+    /// Writes what is staged, for which there is room in the file, and @p data behind it, in one call to the system.
+    /// Result as of WriteToLog(), for @p data alone: what is staged is dropped where it cannot be written.
+    bool WriteBehindStaged(const char* data, int length);
 
     std::vector<char> m_Staging;
     int m_StagingFill;
@@ -123,4 +118,7 @@ private:
     int m_MaxFileCount;
     EParamID m_IterationParam;
     int m_Iteration;
+    long long m_FileLength; ///< as found on opening, plus what this log has written since
+    QDate m_StampedDate;    ///< of the last entry
+    QByteArray m_DateStamp; ///< that date as it stands in a line; changes once a day
 };

@@ -3,6 +3,7 @@
 #include "platform/TConfigManager.h"
 #include "settings/TSettings.h"
 
+#include <QStringBuilder>
 #include <QStringList>
 
 using Proxy = TUserDiagnosticLogProxy;
@@ -21,8 +22,8 @@ bool Proxy::AddEntry(EDiagnosticComponent component, EDiagnosticType type, int c
     const auto log = m_Log.By(*this); // held while the line is put together, so that entries keep their order
     const QString codeField =
         type == DIAG_TYPE_DTC ? QString::number(code) : ConfigManager->GetDiagnosticText(component, type, code);
-    return log->AddEntry(GetComponentStr(component) + GetSeparator() + GetTypeStr(type) + GetSeparator() + codeField +
-                         GetSeparator() + GetSeparatorReplacedStr(text1) + GetSeparator() +
+    return log->AddEntry(GetComponentStr(component) % GetSeparator() % GetTypeStr(type) % GetSeparator() % codeField %
+                         GetSeparator() % GetSeparatorReplacedStr(text1) % GetSeparator() %
                          GetSeparatorReplacedStr(text2));
 }
 
@@ -40,6 +41,8 @@ const QString& Proxy::GetSeparatorReplacement()
 
 QString Proxy::GetSeparatorReplacedStr(const QString& text)
 {
+    if (!text.contains(GetSeparator()))
+        return text;
     QString replaced = text;
     return replaced.replace(GetSeparator(), GetSeparatorReplacement());
 }

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <cstdlib>
+
 class LogEntries : public QObject
 {
     Q_OBJECT
@@ -10,7 +12,15 @@ class LogEntries : public QObject
 private slots:
     void anEntryIsALineWithDateAndTime_data();
     void anEntryIsALineWithDateAndTime();
+    void oddDatesAndTimesStandAsQtWritesThem_data();
+    void oddDatesAndTimesStandAsQtWritesThem();
+    void aCharacterIsAByte_data();
+    void aCharacterIsAByte();
+    void textsOfAnyLengthAreLoggedWhole_data();
+    void textsOfAnyLengthAreLoggedWhole();
     void entriesFollowOneAnother();
+    void everyEntryHasItsOwnDate();
+    void theDateIsAskedBeforeTheTime();
     void aLineIsStagedAsAWhole();
     void aLineIsNeverSplitBetweenFiles();
 };
@@ -68,6 +78,106 @@ void LogEntries::anEntryIsALineWithDateAndTime()
     QCOMPARE(room.Content(1), line);
 }
 
+void LogEntries::oddDatesAndTimesStandAsQtWritesThem_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<QTime>("time");
+    QTest::addColumn<QByteArray>("stamp");
+
+    const QDate date(2024, 5, 1);
+    const QTime time(13, 7, 9, 42);
+    QTest::newRow("no date") << QDate() << time << QByteArray("13:07:09:042,");
+    QTest::newRow("impossible date") << QDate(2023, 2, 29) << time << QByteArray("13:07:09:042,");
+    QTest::newRow("year 0") << QDate(0, 5, 1) << time << QByteArray("13:07:09:042,");
+    QTest::newRow("no time") << date << QTime() << QByteArray("2024.05.01-");
+    QTest::newRow("impossible time") << date << QTime(24, 0) << QByteArray("2024.05.01-");
+    QTest::newRow("neither") << QDate() << QTime() << QByteArray();
+    QTest::newRow("first day of all") << QDate(1, 1, 1) << time << QByteArray("0001.01.01-13:07:09:042,");
+    QTest::newRow("last day of four digits") << QDate(9999, 12, 31) << time << QByteArray("9999.12.31-13:07:09:042,");
+    QTest::newRow("leap day") << QDate(2024, 2, 29) << time << QByteArray("2024.02.29-13:07:09:042,");
+
+    // How the generations of Qt write these differs.
+    const QDate farAway[] = {QDate(10000, 1, 1), QDate(123456, 7, 8), QDate(-1, 12, 31), QDate(-4712, 6, 7)};
+    for (const QDate& odd : farAway) {
+        const QByteArray text = QLocale::c().toString(odd, QLatin1String("yyyy.MM.dd-")).toLatin1();
+        QTest::newRow(("year " + QByteArray::number(odd.year())).constData())
+            << odd << time << QByteArray(text + "13:07:09:042,");
+    }
+}
+
+void LogEntries::oddDatesAndTimesStandAsQtWritesThem()
+{
+    QFETCH(QDate, date);
+    QFETCH(QTime, time);
+    QFETCH(QByteArray, stamp);
+    const TLogRoom room;
+    TTestClock::date = date;
+    TTestClock::time = time;
+    TDiagnosticLog log(0, 1024, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QVERIFY(log.AddEntry(QLatin1String("a")));
+    QCOMPARE(room.Content(1), QByteArray(stamp + "a\r\n"));
+}
+
+void LogEntries::aCharacterIsAByte_data()
+{
+    QTest::addColumn<QString>("letter");
+    QTest::addColumn<QByteArray>("byte");
+    QTest::newRow("NUL") << QString(QChar(0)) << QByteArray(1, '\0');
+    QTest::newRow("control") << QString(QChar(0x1F)) << QByteArray("\x1F");
+    QTest::newRow("U+007F") << QString(QChar(0x7F)) << QByteArray("\x7F");
+    QTest::newRow("U+0080") << QString(QChar(0x80)) << QByteArray("\x80");
+    QTest::newRow("U+00FF") << QString(QChar(0xFF)) << QByteArray("\xFF");
+    QTest::newRow("U+0100") << QString(QChar(0x100)) << QByteArray("?");
+    QTest::newRow("U+0141") << QString(QChar(0x141)) << QByteArray("?");
+    QTest::newRow("U+FFFF") << QString(QChar(0xFFFF)) << QByteArray("?");
+    QTest::newRow("surrogate pair") << QString::fromUtf8("🚜") << QByteArray("??");
+    QTest::newRow("half a pair") << QString(QChar(0xD83D)) << QByteArray("?");
+    QTest::newRow("combining") << QString::fromUtf8("e\u0301") << QByteArray("e?");
+}
+
+void LogEntries::aCharacterIsAByte()
+{
+    QFETCH(QString, letter);
+    QFETCH(QByteArray, byte);
+    const TLogRoom room;
+    TDiagnosticLog log(0, 1024 * 1024, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QByteArray lines;
+    for (int place = 0; place <= 20; ++place) { // at every place of a text
+        const QString before(place, QLatin1Char('b'));
+        const QString after(20 - place, QLatin1Char('a'));
+        QVERIFY(log.AddEntry(before + letter + after));
+        lines += "2024.03.05-14:05:09:042," + before.toLatin1() + byte + after.toLatin1() + "\r\n";
+    }
+    QCOMPARE(room.Content(1), lines);
+}
+
+void LogEntries::textsOfAnyLengthAreLoggedWhole_data()
+{
+    QTest::addColumn<int>("stagingSize");
+    QTest::newRow("no buffer") << 0;
+    QTest::newRow("buffer") << 300;
+}
+
+void LogEntries::textsOfAnyLengthAreLoggedWhole()
+{
+    QFETCH(int, stagingSize);
+    const TLogRoom room;
+    TDiagnosticLog log(stagingSize, 64 * 1024 * 1024, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QByteArray lines;
+    for (int length = 0; length < 600; ++length) {
+        const QByteArray text = Bytes(length, length);
+        QVERIFY(log.AddEntry(QString::fromLatin1(text.constData(), length)));
+        lines += "2024.03.05-14:05:09:042," + text + "\r\n";
+    }
+    const QByteArray longText = Bytes(1000000);
+    QVERIFY(log.AddEntry(QString::fromLatin1(longText.constData(), 1000000)));
+    log.Close();
+    QVERIFY(room.Content(1) == QByteArray(lines + "2024.03.05-14:05:09:042," + longText + "\r\n"));
+}
+
 void LogEntries::entriesFollowOneAnother()
 {
     const TLogRoom room;
@@ -77,6 +187,36 @@ void LogEntries::entriesFollowOneAnother()
     TTestClock::time = TTestClock::time.addMSecs(1);
     QVERIFY(log.AddEntry(QLatin1String("second")));
     QCOMPARE(room.Content(1), QByteArray("2024.03.05-14:05:09:042,first\r\n2024.03.05-14:05:09:043,second\r\n"));
+}
+
+void LogEntries::everyEntryHasItsOwnDate()
+{
+    const TLogRoom room;
+    TDiagnosticLog log(0, 1024, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    const QDate dates[] = {QDate(),           QDate(2024, 3, 5), QDate(2024, 3, 5), QDate(2024, 3, 6),
+                           QDate(2024, 3, 5), QDate(),           QDate(2024, 3, 5)};
+    QByteArray lines;
+    for (const QDate& date : dates) {
+        TTestClock::date = date;
+        QVERIFY(log.AddEntry(QLatin1String("a")));
+        lines += QLocale::c().toString(date, QLatin1String("yyyy.MM.dd-")).toLatin1() + "14:05:09:042,a\r\n";
+    }
+    QCOMPARE(room.Content(1), lines);
+}
+
+/// A midnight between the two makes an entry a day too old, never a day too new.
+void LogEntries::theDateIsAskedBeforeTheTime()
+{
+    const TLogRoom room;
+    TDiagnosticLog log(0, 1024, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QStringList calls;
+    TTestClock::onCall = [&calls](const QString& call) { calls.append(call); };
+    const bool isLogged = log.AddEntry(QLatin1String("a"));
+    TTestClock::onCall = nullptr;
+    QVERIFY(isLogged);
+    QCOMPARE(calls, QStringList() << QLatin1String("currentDate") << QLatin1String("currentTime"));
 }
 
 void LogEntries::aLineIsStagedAsAWhole()
@@ -103,6 +243,14 @@ void LogEntries::aLineIsNeverSplitBetweenFiles()
     QCOMPARE(room.Content(2), line);
 }
 
-int main(int argc, char** argv) { return RunCoreTest<LogEntries>(argc, argv); }
+int main(int argc, char** argv)
+{
+    // A machine whose language has digits of its own, which Latin-1 has not.
+    unsetenv("LC_ALL");
+    setenv("LC_CTYPE", "C.UTF-8", 1);
+    for (const char* category : {"LANG", "LC_NUMERIC", "LC_TIME"})
+        setenv(category, "fa_IR.UTF-8", 1);
+    return RunCoreTest<LogEntries>(argc, argv);
+}
 
 #include "LogEntries.moc"

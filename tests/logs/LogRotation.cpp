@@ -3,6 +3,12 @@
 
 #include <QtTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+
 Q_DECLARE_METATYPE(QList<int>)
 
 class LogRotation : public QObject
@@ -26,6 +32,11 @@ private slots:
     void aClockSetBackKeepsWhatWasJustWritten();
 
     void otherFilesDoNotBelongToTheSeries();
+    void whatIsNoFileDoesNotBelongToTheSeries_data();
+    void whatIsNoFileDoesNotBelongToTheSeries();
+    void aLinkToAFileBelongsToTheSeries();
+    void hiddenFilesBelongToTheirSeries();
+    void aFileIsFoundAmongManyOthers();
     void stemAndExtensionDoNotOverlap();
     void filesWithoutANumberBelongToTheSeries();
     void aStemIsTakenLetterByLetter_data();
@@ -295,6 +306,86 @@ void LogRotation::otherFilesDoNotBelongToTheSeries()
     QVERIFY(room.Files().contains(room.Numbered(5)));
     QVERIFY(room.Files().contains(room.Numbered(6)));
     QVERIFY(!room.Files().contains(room.Numbered(4)));
+}
+
+void LogRotation::whatIsNoFileDoesNotBelongToTheSeries_data()
+{
+    QTest::addColumn<QString>("kind");
+    const char* const kinds[] = {"folder", "pipe", "link to nothing", "link to a folder", "name that is no text"};
+    for (const char* kind : kinds)
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+void LogRotation::whatIsNoFileDoesNotBelongToTheSeries()
+{
+    QFETCH(QString, kind);
+    const TLogRoom room;
+    room.MakeFile(1, 20, 0);
+    const QByteArray folder = QFile::encodeName(room.folder.Path(QLatin1String("logs/")));
+    const QByteArray name = kind == QLatin1String("name that is no text") ? "user\xFF\xFE.log" : "user00009.log";
+    const QByteArray path = folder + name;
+    if (kind == QLatin1String("folder"))
+        QCOMPARE(mkdir(path.constData(), 0700), 0);
+    else if (kind == QLatin1String("pipe"))
+        QCOMPARE(mkfifo(path.constData(), 0600), 0);
+    else if (kind == QLatin1String("link to nothing"))
+        QCOMPARE(symlink("nowhere", path.constData()), 0);
+    else if (kind == QLatin1String("link to a folder"))
+        QCOMPARE(symlink("..", path.constData()), 0);
+    else {
+        const int file = open(path.constData(), O_CREAT | O_WRONLY, 0600);
+        if (file < 0)
+            QSKIP("The disk takes no such name.", SkipSingle);
+        close(file);
+    }
+
+    TDiagnosticLog log(0, 10, 2, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QVERIFY(Log(log, "second"));
+    const TDiagnosticLog::tagExportResult result = log.Export(room.folder.Path());
+    const int removed = ::remove(path.constData());
+    QCOMPARE(removed, 0);
+    QCOMPARE(room.FileList(), QString::fromLatin1("user00001.log user00002.log"));
+    QCOMPARE(room.Content(2), QByteArray("second"));
+    QCOMPARE(result.filesFound, 2);
+}
+
+void LogRotation::aLinkToAFileBelongsToTheSeries()
+{
+    const TLogRoom room;
+    room.MakeFile(1, 20, 0);
+    room.MakeFile(QLatin1String("elsewhere"), 5, 1000);
+    QVERIFY(QFile::link(QLatin1String("elsewhere"), room.Path(room.Numbered(4))));
+    TDiagnosticLog log(0, 10, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QVERIFY(Log(log, "new"));
+    QCOMPARE(room.Content(QLatin1String("elsewhere")), QByteArray("xxxxxnew"));
+}
+
+void LogRotation::hiddenFilesBelongToTheirSeries()
+{
+    const TLogRoom room;
+    room.MakeFile(QLatin1String(".user00004.log"), 5, 0);
+    TDiagnosticLog log(0, 10, 2, room.parameter);
+    QVERIFY(log.Restore(room.Path(QLatin1String(".user.log")), 0, 0));
+    QVERIFY(Log(log, "012345"));
+    QVERIFY(Log(log, "new"));
+    QCOMPARE(room.FileList(), QString::fromLatin1(".user00004.log .user00005.log"));
+    QCOMPARE(room.Content(QLatin1String(".user00005.log")), QByteArray("new"));
+}
+
+void LogRotation::aFileIsFoundAmongManyOthers()
+{
+    const TLogRoom room;
+    for (int other = 0; other < 1000; ++other)
+        room.folder.MakeFile(QString::fromLatin1("logs/other%1.log").arg(other));
+    TDiagnosticLog log(0, 10, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    for (int number = 1; number <= 6; ++number)
+        QVERIFY(Log(log, Bytes(11)));
+    QCOMPARE(static_cast<int>(room.Files().size()), 1004);
+    QCOMPARE(QStringList(room.Files().mid(1000)).join(QLatin1String(" ")),
+             QString::fromLatin1("user00004.log user00005.log user00006.log user00007.log"));
 }
 
 void LogRotation::stemAndExtensionDoNotOverlap()

@@ -76,6 +76,7 @@ private slots:
 
     void separatorsBecomeBlanks_data();
     void separatorsBecomeBlanks();
+    void aTextWithoutSeparatorsIsNotCopied();
 
     void anEventIsALineOfFields_data();
     void anEventIsALineOfFields();
@@ -203,6 +204,12 @@ void UserLogEntries::separatorsBecomeBlanks()
     QCOMPARE(TUserDiagnosticLogProxy::GetSeparator(), QString::fromLatin1(","));
     QCOMPARE(TUserDiagnosticLogProxy::GetSeparatorReplacement(), QString::fromLatin1(" "));
     QCOMPARE(TUserDiagnosticLogProxy::GetSeparatorReplacedStr(text), replaced);
+}
+
+void UserLogEntries::aTextWithoutSeparatorsIsNotCopied()
+{
+    const QString text = QString::fromLatin1("a b");
+    QVERIFY(TUserDiagnosticLogProxy::GetSeparatorReplacedStr(text).constData() == text.constData());
 }
 
 void UserLogEntries::anEventIsALineOfFields_data()
