@@ -17,6 +17,13 @@ inline QString Translate(const char* context, const char* text, const char* comm
 #endif
 }
 
+/// Whether fixed notation rounds a tie away from zero, 0.125 to 0.13; Qt 4 rounds it to the even digit.
+#if QT_VERSION < 0x050000
+constexpr bool RoundsTiesAwayFromZero = false;
+#else
+constexpr bool RoundsTiesAwayFromZero = true;
+#endif
+
 struct tagDateParts
 {
     int year;

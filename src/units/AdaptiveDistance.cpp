@@ -1,5 +1,8 @@
 // A distance in the unit that suits its magnitude.
 
+#include "units/DecimalPoint.h"
+#include "units/QuantityText.h"
+#include "units/TFixedNumber.h"
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
 
@@ -7,6 +10,7 @@
 
 namespace {
 
+using namespace QuantityText;
 using U = TUnits;
 
 const float OneMeter = 1.0f;
@@ -17,47 +21,38 @@ const double TenFeet = 10.0;
 
 const QString& Abbreviation(EUnitsType unit) { return TUnitAbbreviations::UnitAbbreviations[unit]; }
 
-QString Spaced(double value, int decimals, EUnitsType unit)
-{
-    return QString::number(value, 'f', decimals) + QLatin1Char(' ') + Abbreviation(unit);
-}
-
-QString Close(double value, int decimals, EUnitsType unit)
-{
-    return QString::number(value, 'f', decimals) + Abbreviation(unit);
-}
-
 QString Metric(float meters, bool noDecimals)
 {
     const float magnitude = std::fabs(meters);
     if (magnitude < OneMeter)
-        return Spaced(U::ConvertMetersToCentimeters(meters), 0, UNITS_CENTIMETERS);
+        return WithDecimals({U::ConvertMetersToCentimeters(meters), UNITS_CENTIMETERS}, 0);
     if (magnitude <= GreatestInMeters) {
         const int decimals = magnitude < TenMeters ? 2 : 1;
-        return Spaced(static_cast<double>(meters), noDecimals ? 0 : decimals, UNITS_METERS);
+        return WithDecimals({static_cast<double>(meters), UNITS_METERS}, noDecimals ? 0 : decimals);
     }
-    return Spaced(U::ConvertMetersToKilometers(meters), noDecimals ? 0 : 1, UNITS_KILOMETERS);
+    return WithDecimals({U::ConvertMetersToKilometers(meters), UNITS_KILOMETERS}, noDecimals ? 0 : 1);
 }
 
 /// Whole feet, and below ten feet the whole inches beyond them.
 QString Feet(float meters, bool noDecimals)
 {
     const double feet = std::trunc(U::ConvertMetersToFeet(meters));
-    QString text = Close(feet, 0, UNITS_FEET);
     const float magnitude = std::fabs(meters);
     if (noDecimals || !(U::ConvertMetersToFeet(magnitude) < TenFeet))
-        return text;
+        return CloseWithDecimals({feet, UNITS_FEET}, 0);
     const double rest = static_cast<double>(magnitude) - U::ConvertFeetToMeters(static_cast<float>(std::fabs(feet)));
-    return text + Close(std::trunc(U::ConvertMetersToInches(static_cast<float>(rest))), 0, UNITS_INCHES);
+    const double inches = std::trunc(U::ConvertMetersToInches(static_cast<float>(rest)));
+    return DecimalPoint::Shown(TFixedNumber(feet, 0) % Abbreviation(UNITS_FEET) % TFixedNumber(inches, 0) %
+                               Abbreviation(UNITS_INCHES));
 }
 
 QString Imperial(float meters, bool wholeInches, bool noDecimals)
 {
     const float magnitude = std::fabs(meters);
     if (magnitude < OneYard)
-        return Close(U::ConvertMetersToInches(meters), wholeInches || noDecimals ? 0 : 2, UNITS_INCHES);
+        return CloseWithDecimals({U::ConvertMetersToInches(meters), UNITS_INCHES}, wholeInches || noDecimals ? 0 : 2);
     if (static_cast<double>(magnitude) > U::ConvertMilesToMeters(1.0f))
-        return Spaced(U::ConvertMetersToMiles(meters), noDecimals ? 0 : 1, UNITS_MILES);
+        return WithDecimals({U::ConvertMetersToMiles(meters), UNITS_MILES}, noDecimals ? 0 : 1);
     return Feet(meters, noDecimals);
 }
 
@@ -65,6 +60,5 @@ QString Imperial(float meters, bool wholeInches, bool noDecimals)
 
 QString TUnits::GetDistanceStringAdaptive(bool metric, float meters, bool wholeInches, bool noDecimals)
 {
-    return InternalToDisplayableFloatStr(metric ? Metric(meters, noDecimals)
-                                                : Imperial(meters, wholeInches, noDecimals));
+    return metric ? Metric(meters, noDecimals) : Imperial(meters, wholeInches, noDecimals);
 }

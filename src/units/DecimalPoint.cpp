@@ -1,7 +1,9 @@
-// The decimal point of the display, "." or ",". Inside the system it is always a full stop.
+#include "units/DecimalPoint.h"
 
 #include "settings/Parameters.h"
 #include "units/TUnits.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -13,25 +15,24 @@ bool IsDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
 
 /// Changes the point of every number in @p text. A number is a run of digits, a point and a run of digits, which may be
 /// empty only when @p mayEndInPoint; the next number starts behind it, so that "1.2.3" holds one.
-QString WithPoint(const QString& text, QChar from, QChar to, bool mayEndInPoint)
+void ChangePoints(QString& text, QChar from, QChar to, bool mayEndInPoint)
 {
-    QString result = text;
     const int length = static_cast<int>(text.size());
-    int digits = 0; // behind the last number, up to here
-    for (int i = 0; i < length; ++i) {
-        if (IsDigit(text.at(i))) {
-            ++digits;
-            continue;
+    int behindNumber = 0;
+    for (int point = 0;;) {
+        const QChar* const letters = text.constData(); // others than before, when the change of a point made a copy
+        const QChar* const end = letters + length;
+        point = static_cast<int>(std::find(letters + point, end, from) - letters);
+        if (point == length)
+            return;
+        const int behind = static_cast<int>(std::find_if_not(letters + point + 1, end, IsDigit) - letters);
+        const bool hasDigits = point > behindNumber && IsDigit(letters[point - 1]);
+        if (hasDigits && (behind > point + 1 || mayEndInPoint)) {
+            text[point] = to;
+            behindNumber = behind;
         }
-        const bool hasDigitBehind = i + 1 < length && IsDigit(text.at(i + 1));
-        if (text.at(i) == from && digits > 0 && (hasDigitBehind || mayEndInPoint)) {
-            result[i] = to;
-            while (i + 1 < length && IsDigit(text.at(i + 1)))
-                ++i;
-        }
-        digits = 0;
+        point = behind;
     }
-    return result;
 }
 
 } // namespace
@@ -47,14 +48,21 @@ QChar TUnits::DisplayableDecimalPointChar()
     return point;
 }
 
-QString TUnits::InternalToDisplayableFloatStr(const QString& text)
+QString DecimalPoint::Shown(QString text)
 {
     static const bool changes = ShowsComma();
-    return changes ? WithPoint(text, InternalDecimalPointChar(), DisplayableDecimalPointChar(), false) : text;
+    if (changes)
+        ChangePoints(text, TUnits::InternalDecimalPointChar(), TUnits::DisplayableDecimalPointChar(), false);
+    return text;
 }
+
+QString TUnits::InternalToDisplayableFloatStr(const QString& text) { return DecimalPoint::Shown(text); }
 
 QString TUnits::DisplayableToInternalFloatStr(const QString& text)
 {
     static const bool changes = ShowsComma();
-    return changes ? WithPoint(text, DisplayableDecimalPointChar(), InternalDecimalPointChar(), true) : text;
+    QString result = text;
+    if (changes)
+        ChangePoints(result, DisplayableDecimalPointChar(), InternalDecimalPointChar(), true);
+    return result;
 }

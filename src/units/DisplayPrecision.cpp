@@ -1,22 +1,26 @@
 // How many decimals a value is shown with.
 
+#include "units/NumberText.h"
+#include "units/TFixedNumber.h"
 #include "units/TUnits.h"
 #include "units/UnitSystem.h"
 #include "units/UnitTable.h"
+
+#include <cmath>
 
 namespace {
 
 const int NotGiven = -1;
 
-/// Whether @p value, a finite one, is shown without a first decimal. The float is widened by the shortest decimal text
-/// that names it: 99.95 is looked at as the 99.95 that will be printed, not as the 99.94999… that its bits are.
+/// Whether @p value, up to 100, is shown without a first decimal. The float is widened by the decimal text that names
+/// it: 99.95 is looked at as the 99.95 that will be printed, not as the 99.94999… that its bits are. Only a text of two
+/// decimals can do that: between a float and a longer name of it lies none of the numbers at which rounding turns.
 bool RoundsToWhole(float value)
 {
     const double exact = static_cast<double>(value);
-    double named = QString::number(exact, 'g', 1).toDouble();
-    for (int digits = 2; static_cast<float>(named) != value; ++digits) // 9 digits name any float
-        named = QString::number(exact, 'g', digits).toDouble();
-    return QString::number(named, 'f', 1).endsWith(QLatin1Char('0'));
+    const double name = NumberText::Stored(std::round(exact * 100) / 100);
+    const TFixedNumber number(static_cast<float>(name) == value ? name : exact, 1);
+    return *(number.End() - 1) == QLatin1Char('0');
 }
 
 /// Decimals between the two bounds of a rule.

@@ -3,6 +3,8 @@
 #include "platform/QtCompat.h"
 #include "settings/Parameters.h"
 #include "units/NumberText.h"
+#include "units/QuantityText.h"
+#include "units/TFixedNumber.h"
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
 
@@ -33,14 +35,8 @@ QString DegreesMinutesSeconds(double degrees, char hemisphere)
 QString Position(double degrees, char positive, char negative)
 {
     if (!Parameters::ReadBool(PARAM_DEGREES_MINUTES_SECONDS))
-        return QString::number(degrees, 'f', 8);
+        return TFixedNumber(degrees, 8).Text();
     return DegreesMinutesSeconds(degrees, degrees < 0 ? negative : positive);
-}
-
-QString Duration(double value, int decimals, EUnitsType unit)
-{
-    return TUnits::InternalToDisplayableFloatStr(QString::number(value, 'f', decimals) + QLatin1Char(' ') +
-                                                 TUnitAbbreviations::UnitAbbreviations[unit]);
 }
 
 } // namespace
@@ -53,10 +49,10 @@ QString TUnits::GetDurationString(float hours)
     const float magnitude = std::fabs(hours);
     const double value = static_cast<double>(hours);
     if (magnitude < OneMinuteInHours)
-        return Duration(value * 3600, 0, UNITS_SECONDS);
+        return QuantityText::WithDecimals({value * 3600, UNITS_SECONDS}, 0);
     if (magnitude < 1.0f)
-        return Duration(value * 60, 0, UNITS_MINUTES);
-    return Duration(value, 1, UNITS_HOURS);
+        return QuantityText::WithDecimals({value * 60, UNITS_MINUTES}, 0);
+    return QuantityText::WithDecimals({value, UNITS_HOURS}, 1);
 }
 
 QString TUnits::GetFormattedDurationString(double minutes)

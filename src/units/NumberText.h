@@ -8,13 +8,18 @@
 /// Pieces of texts that show numbers.
 namespace NumberText {
 
+/// The double that @p value is where it is stored: some processors calculate with more digits than that, and would make
+/// 22 of the 22.999… that is 23 on all others.
+inline double Stored(double value)
+{
+    const volatile double stored = value;
+    return stored;
+}
+
 /// Toward zero; the nearest int for a value beyond its range, 0 for NaN.
 inline int Truncated(double value)
 {
-    // Some processors calculate with more digits than a double holds, and would make 22 of the 22.999… that is 23 on
-    // all others. What is stored is a double everywhere.
-    const volatile double stored = value;
-    const double number = stored;
+    const double number = Stored(value);
     if (std::isnan(number))
         return 0;
     if (number >= static_cast<double>(std::numeric_limits<int>::max()))

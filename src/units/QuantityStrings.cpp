@@ -93,10 +93,10 @@ const int Default = -1; // precision
 QString ShortDistance(float meters, EUnitsType unit, int precision, const U::tagThresholdSpec* spec)
 {
     const double value = U::ConvertFromMeter(static_cast<double>(meters), unit);
+    if (TUnitAbbreviations::UnitTypeRequiresSpacing(unit))
+        return WithPrecision({value, unit}, precision, spec);
     const int asked = U::GetThresholdPrecision(static_cast<float>(value), spec, precision);
-    const QString space = TUnitAbbreviations::UnitTypeRequiresSpacing(unit) ? QString(QLatin1Char(' ')) : QString();
-    return U::InternalToDisplayableFloatStr(QString::number(value, 'f', U::GetUnitPrecision(unit, asked)) + space +
-                                            TUnitAbbreviations::UnitAbbreviations[unit]);
+    return CloseWithDecimals({value, unit}, U::GetUnitPrecision(unit, asked));
 }
 
 } // namespace

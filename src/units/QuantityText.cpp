@@ -1,11 +1,18 @@
 #include "units/QuantityText.h"
 
+#include "units/DecimalPoint.h"
+#include "units/TFixedNumber.h"
 #include "units/TUnitAbbreviations.h"
 
 QString QuantityText::WithDecimals(const tagShown& shown, int decimals)
 {
-    return TUnits::InternalToDisplayableFloatStr(QString::number(shown.value, 'f', decimals) + QLatin1Char(' ') +
-                                                 TUnitAbbreviations::UnitAbbreviations[shown.unit]);
+    return DecimalPoint::Shown(TFixedNumber(shown.value, decimals) % QLatin1Char(' ') %
+                               TUnitAbbreviations::UnitAbbreviations[shown.unit]);
+}
+
+QString QuantityText::CloseWithDecimals(const tagShown& shown, int decimals)
+{
+    return DecimalPoint::Shown(TFixedNumber(shown.value, decimals) % TUnitAbbreviations::UnitAbbreviations[shown.unit]);
 }
 
 QString QuantityText::WithPrecisionOf(EUnitsType precisionUnit, const tagShown& shown, int precision,

@@ -10,6 +10,9 @@ namespace QuantityText {
 /// With a given number of decimals.
 QString WithDecimals(const tagShown& shown, int decimals);
 
+/// The same without the blank.
+QString CloseWithDecimals(const tagShown& shown, int decimals);
+
 /// With the decimals that the threshold rule, the precision asked for, or else the default of @p precisionUnit give.
 QString WithPrecisionOf(EUnitsType precisionUnit, const tagShown& shown, int precision,
                         const TUnits::tagThresholdSpec* spec);

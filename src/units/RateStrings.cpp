@@ -1,7 +1,9 @@
 // Application rates: amounts per area, or per travelled distance.
 
+#include "units/DecimalPoint.h"
 #include "units/QuantityText.h"
 #include "units/Routes.h"
+#include "units/TFixedNumber.h"
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
 #include "units/UnitSystem.h"
@@ -133,8 +135,8 @@ int DecimalsByMagnitude(double value)
 
 QString NumberOrDashes(double value)
 {
-    return std::isfinite(value) ? QString::number(value, 'f', DecimalsByMagnitude(value))
-                                : QString(QLatin1String("----"));
+    static const QString dashes = QLatin1String("----");
+    return std::isfinite(value) ? TFixedNumber(value, DecimalsByMagnitude(value)).Text() : dashes;
 }
 
 QString ErrorText(double percent)
@@ -150,9 +152,9 @@ QString ErrorText(double percent)
 
 QString WithRelativeError(const tagShown& rate, float percent)
 {
-    return U::InternalToDisplayableFloatStr(
-        NumberOrDashes(rate.value) + QLatin1Char(' ') + TUnitAbbreviations::GetStringFromUnitType(rate.unit, true) +
-        QLatin1String(" (") + ErrorText(static_cast<double>(percent)) + QLatin1String("%)"));
+    return DecimalPoint::Shown(NumberOrDashes(rate.value) % QLatin1Char(' ') %
+                               TUnitAbbreviations::UnitAbbreviations[rate.unit] % QLatin1String(" (") %
+                               ErrorText(static_cast<double>(percent)) % QLatin1String("%)"));
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 // A value and its unit as one text.
 
+#include "units/DecimalPoint.h"
 #include "units/NumberText.h"
+#include "units/QuantityText.h"
+#include "units/TFixedNumber.h"
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
 #include "units/UnitSystem.h"
@@ -8,7 +11,7 @@
 
 #include <QDate>
 
-#include <cmath>
+#include <utility>
 
 namespace {
 
@@ -40,10 +43,11 @@ QString DateText(double julianDay)
         .arg(date.year());
 }
 
-/// General notation with 6 digits when no precision is given.
-QString NumberOf(double value, int precision)
+/// The number, in general notation with 6 digits when no precision is given, and what stands behind it.
+template <class Text>
+QString NumberAnd(double value, int precision, const Text& text)
 {
-    return precision < 0 ? QString::number(value) : QString::number(value, 'f', precision);
+    return precision < 0 ? QString(QString::number(value) % text) : QString(TFixedNumber(value, precision) % text);
 }
 
 /// What the functions of the quantities are called with.
@@ -58,10 +62,12 @@ struct tagRequest
     float Narrow() const { return static_cast<float>(value); }
 };
 
+using TQuantityText = QString (*)(const tagRequest& request);
+
 struct tagQuantityRow
 {
     EUnitsType type;
-    QString (*text)(const tagRequest& request);
+    TQuantityText text;
 };
 
 using U = TUnits;
@@ -102,14 +108,13 @@ QString WeightPerAreaText(const R& r) { return U::GetWeightPerAreaString(r.metri
 
 QString RpmText(const R& r)
 {
-    return U::InternalToDisplayableFloatStr(QString::number(r.value, 'f', U::GetUnitPrecision(UNITS_RPM, r.precision)) +
-                                            QLatin1Char(' ') + TUnitAbbreviations::UnitAbbreviations[UNITS_RPM]);
+    return QuantityText::WithDecimals({r.value, UNITS_RPM}, U::GetUnitPrecision(UNITS_RPM, r.precision));
 }
 
 // Only the metric or base unit of a quantity has a row; its partners are shown as they are. Nitrogen per area takes the
 // way of volumes, as it always has.
 // clang-format off
-const tagQuantityRow QuantityRows[] = {
+constexpr tagQuantityRow QuantityRows[] = {
     {UNITS_METERS,            [](const R& r) { return U::GetDistanceString(r.Narrow(), false, r.precision, r.spec); }},
     {UNITS_MILLIMETERS,       [](const R& r) { return U::GetDistanceString(r.Narrow(), true, r.precision, r.spec); }},
     {UNITS_FEET,              [](const R& r) { return U::GetDistanceStringInMetricOrImperialFeet(r.Narrow(), r.precision, r.spec); }},
@@ -159,11 +164,25 @@ const tagQuantityRow QuantityRows[] = {
 };
 // clang-format on
 
+/// The rows by the number of their unit; null for a unit that has none.
+struct tagQuantityTexts
+{
+    TQuantityText of[UnitCount] = {};
+
+    constexpr tagQuantityTexts()
+    {
+        for (const tagQuantityRow& row : QuantityRows)
+            of[row.type] = row.text;
+    }
+};
+
+constexpr tagQuantityTexts QuantityTexts;
+
 void Split(const QString& text, QString& valueText, QString& unitText)
 {
-    const QLatin1Char blank(' ');
-    valueText = text.section(blank, 0, 0);
-    unitText = text.section(blank, 1, -1);
+    const auto blank = text.indexOf(QLatin1Char(' '));
+    valueText = text.left(blank);
+    unitText = blank < 0 ? QString() : text.mid(blank + 1);
 }
 
 } // namespace
@@ -176,24 +195,22 @@ QString TUnits::GetValueString(double value, const QString& unit, int precision,
     else if (unit == QLatin1String(CalendarDate))
         text = DateText(value);
     else if (precision < 0)
-        text = NumberOf(value, precision) + unit;
+        text = NumberAnd(value, precision, unit);
     else
-        text = NumberOf(value, GetThresholdPrecision(static_cast<float>(value), spec, precision)) + unit;
-    return InternalToDisplayableFloatStr(text);
+        text = NumberAnd(value, GetThresholdPrecision(static_cast<float>(value), spec, precision), unit);
+    return DecimalPoint::Shown(std::move(text));
 }
 
 QString TUnits::GetValueString(double value, EUnitsType type, int precision, const tagThresholdSpec* spec)
 {
     const tagRequest request = {value, UnitSystem::IsMetric(), UnitSystem::IsUS(), precision, spec};
-    for (const tagQuantityRow& row : QuantityRows) {
-        if (row.type == type)
-            return row.text(request);
-    }
-    const QString abbreviation = TUnitAbbreviations::GetStringFromUnitType(type, true);
-    QString text = NumberOf(value, precision);
-    if (!abbreviation.isEmpty())
-        text += QLatin1Char(' ') + abbreviation;
-    return InternalToDisplayableFloatStr(text);
+    if (!FindUnit(type))
+        return DecimalPoint::Shown(NumberAnd(value, precision, QString()));
+    if (QuantityTexts.of[type])
+        return QuantityTexts.of[type](request);
+    const QString& abbreviation = TUnitAbbreviations::UnitAbbreviations[type];
+    return DecimalPoint::Shown(abbreviation.isEmpty() ? NumberAnd(value, precision, abbreviation)
+                                                      : NumberAnd(value, precision, QLatin1Char(' ') % abbreviation));
 }
 
 void TUnits::GetValueUnitString(double value, QString& valueText, QString& unitText, const QString& unit, int precision,

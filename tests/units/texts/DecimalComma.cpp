@@ -20,6 +20,8 @@ private slots:
     void everyTextChangesAsItsPatternTells();
     void anyLengthOfTextIsConverted();
     void theArgumentIsLeftAlone();
+    void aTextThatStaysIsNotCopied();
+    void abbreviationsMayHoldNumbers();
     void positionsKeepTheirFullStopExceptAsQuantities();
 
 private:
@@ -178,6 +180,25 @@ void DecimalComma::theArgumentIsLeftAlone()
     TUnits::InternalToDisplayableFloatStr(text);
     TUnits::DisplayableToInternalFloatStr(text);
     QCOMPARE(text, QString::fromLatin1("1.5 2,5"));
+}
+
+void DecimalComma::aTextThatStaysIsNotCopied()
+{
+    for (const char* letters : {"12 kg", "Go on.", ".5 1. a.b"}) {
+        const QString text = Utf8(letters);
+        QVERIFY(TUnits::InternalToDisplayableFloatStr(text).constData() == text.constData());
+    }
+}
+
+void DecimalComma::abbreviationsMayHoldNumbers()
+{
+    TUnitAbbreviations::UnitAbbreviations[UNITS_ACRES] = Utf8(".5 2.5 .");
+    TUnitAbbreviations::UnitAbbreviations[UNITS_FEET] = Utf8("5.2");
+    TUnitAbbreviations::UnitAbbreviations[UNITS_INCHES] = Utf8(".5.5");
+    QCOMPARE(TUnits::GetValueString(12.25, UNITS_ACRES, 2, nullptr), Utf8("12,25 .5 2,5 ."));
+    QCOMPARE(TUnits::GetDistanceStringAdaptive(false, 1.7F, false, false), Utf8("55,26.5,5"));
+    QCOMPARE(TUnits::GetDistanceStringAdaptive(false, 0.5F, false, false), Utf8("19,69.5,5"));
+    TUnitAbbreviations::Initialize();
 }
 
 void DecimalComma::positionsKeepTheirFullStopExceptAsQuantities()

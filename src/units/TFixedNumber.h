@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <QStringBuilder>
+
+/// A number in fixed notation, with exactly the digits of QString::number(value, 'f', decimals). Made to be joined with
+/// other texts by %: the sum is allocated once, and the number itself not at all where it is of everyday size.
+class TFixedNumber
+{
+public:
+    TFixedNumber(double value, int decimals);
+    TFixedNumber(const TFixedNumber&) = delete;
+    TFixedNumber& operator=(const TFixedNumber&) = delete;
+
+    const QChar* Begin() const { return m_Begin; }
+    const QChar* End() const { return m_End; }
+    int Size() const { return static_cast<int>(m_End - m_Begin); }
+    QString Text() const { return QString(m_Begin, Size()); }
+
+private:
+    static constexpr int PointAt = 11; // behind a sign and the digits of 32 bits
+    static constexpr int MostDecimals = 9;
+
+    QChar m_Room[PointAt + 1 + MostDecimals];
+    QString m_Other; // a text that the room is not made for
+    const QChar* m_Begin;
+    const QChar* m_End;
+};
+
+/// What QStringBuilder asks of a part.
+template <>
+struct QConcatenable<TFixedNumber>
+{
+    using type = TFixedNumber;
+    using ConvertTo = QString;
+    enum
+    {
+        ExactSize = true
+    };
+
+    static int size(const TFixedNumber& number) { return number.Size(); }
+
+    static void appendTo(const TFixedNumber& number, QChar*& out)
+    {
+        for (const QChar* digit = number.Begin(); digit != number.End(); ++digit)
+            *out++ = *digit;
+    }
+};
