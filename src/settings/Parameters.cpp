@@ -1,7 +1,5 @@
 #include "settings/Parameters.h"
 
-#include "platform/TConfigManager.h"
-
 namespace Parameters {
 
 namespace {
@@ -9,17 +7,6 @@ namespace {
 void Write(EParamID id, const QVariant& value) { ConfigManager->SetParameter(id, value, true); }
 
 } // namespace
-
-bool Has(EParamID id) { return ConfigManager->HasParameter(id); }
-
-int ReadInt(EParamID id) { return ConfigManager->GetParameter(id).toInt(); }
-
-bool ReadBool(EParamID id) { return ConfigManager->GetParameter(id).toBool(); }
-
-QString ReadString(EParamID id) { return ConfigManager->GetParameter(id).toString(); }
-
-// value<QColor>() copies a colour out, converts what QtGui can convert (a name, say) and gives QColor() for the rest.
-QColor ReadColor(EParamID id) { return ConfigManager->GetParameter(id).value<QColor>(); }
 
 void WriteInt(EParamID id, int value) { Write(id, QVariant(value)); }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/EParamID.h"
+#include "platform/TConfigManager.h"
 
 #include <QColor>
 #include <QString>
@@ -10,19 +10,20 @@
 /// safe for calls from several threads.
 namespace Parameters {
 
-bool Has(EParamID id);
+inline bool Has(EParamID id) { return ConfigManager->HasParameter(id); }
 
 /// 0 for a parameter that is absent or not a number.
-int ReadInt(EParamID id);
+inline int ReadInt(EParamID id) { return ConfigManager->GetParameter(id).toInt(); }
 
 /// False for a parameter that is absent.
-bool ReadBool(EParamID id);
+inline bool ReadBool(EParamID id) { return ConfigManager->GetParameter(id).toBool(); }
 
 /// Empty for a parameter that is absent.
-QString ReadString(EParamID id);
+inline QString ReadString(EParamID id) { return ConfigManager->GetParameter(id).toString(); }
 
-/// Invalid, never black, for a parameter that is absent or that does not convert to a colour.
-QColor ReadColor(EParamID id);
+/// Invalid, never black, for a parameter that is absent or that does not convert to a colour: value() copies a colour
+/// out, converts what QtGui can convert (a name, say) and gives QColor() for the rest.
+inline QColor ReadColor(EParamID id) { return ConfigManager->GetParameter(id).value<QColor>(); }
 
 void WriteInt(EParamID id, int value);
 void WriteBool(EParamID id, bool value);

@@ -50,15 +50,16 @@ QString TPathSetting::GetCFFPath(const QString& prefix) const
 {
     const QString name = GetName();
 
-    // A system-settings object of its own: the active one may be locked by the very call that leads here, and the
-    // client's folder depends on stored parameters alone.
-    const QString cffPath = TSystemSettings().GetCFFPath();
+    // Not by the façade: it may be locked by the very call that leads here, and the client's folder depends on stored
+    // parameters alone.
+    const QString cffPath = TSystemSettings::ActiveCFFPath();
     if (cffPath.isEmpty())
         return QString();
 
-    const QString category = prefix + cffPath + m_Folder;
-    QDir().mkpath(category);
-    return QDir(QDir(category).absoluteFilePath(name)).absoluteFilePath(name + m_Extension);
+    const QDir category(prefix + cffPath + m_Folder);
+    if (!category.exists()) // which costs less than to make what is there
+        category.mkpath(category.absolutePath());
+    return QDir(category.absoluteFilePath(name)).absoluteFilePath(name + m_Extension);
 }
 
 void TPathSetting::SetName(const QString& name)

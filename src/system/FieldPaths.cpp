@@ -3,6 +3,7 @@
 #include "system/TSystemSettings.h"
 
 #include <QDir>
+#include <QStringBuilder>
 
 namespace {
 
@@ -12,44 +13,80 @@ const char* const FlagPointsFile = "flagpoints.ini";
 const char* const PerPointDataSuffix = "_PPD";
 const char* const ElevationSuffix = "_Elevation";
 
-/// The path behind the field's folder of a file that has a folder of its own: "Jobs/J_1/J_1.ini".
-QString ItemFile(const char* folder, const QString& item, const QString& ending)
+/// Where the files of one kind lie in a field's folder, each in a folder of its own: "Jobs/J_1/J_1.ini".
+struct tagPlace
 {
-    return QLatin1String(folder) + QLatin1Char(Separator) + item + QLatin1Char(Separator) + item + ending;
+    explicit tagPlace(const char* folderName, const QString& anEnding)
+        : folder(QLatin1String(folderName) + QLatin1Char(Separator)), ending(anEnding)
+    {}
+
+    const QString folder;
+    const QString ending;
+};
+
+QString Ending(const char* suffix, const char* extension) { return QLatin1String(suffix) + QLatin1String(extension); }
+
+bool IsField(const QString& client, const QString& farm, const QString& field)
+{
+    return !client.isEmpty() && !farm.isEmpty() && !field.isEmpty();
 }
 
-QString PerPointDataEnding(const char* suffix)
+/// The field's folder in that of the clients, with what is @p behind it, a piece of text or several of them. Composed
+/// at a stroke.
+template <class Text>
+QString FieldPath(const QString& drive, const QString& clients, const QString& client, const QString& farm,
+                  const QString& field, const Text& behind)
 {
-    return QLatin1String(suffix) + QLatin1String(TSystemSettings::PbzExtension);
+    const QLatin1Char separator(Separator);
+    return drive % clients % client % separator % farm % separator % field % separator % behind;
+}
+
+/// Empty when a name is.
+QString ItemPath(const QString& drive, const QString& clients, const QString& client, const QString& farm,
+                 const QString& field, const QString& item, const tagPlace& place)
+{
+    if (!IsField(client, farm, field) || item.isEmpty())
+        return QString();
+    return FieldPath(drive, clients, client, farm, field,
+                     place.folder % item % QLatin1Char(Separator) % item % place.ending);
 }
 
 } // namespace
 
-void TSystemSettings::SetCFFRoot(const QString& root) { m_CFFRoot = root; }
+void TSystemSettings::SetCFFRoot(const QString& root)
+{
+    const QLatin1String clients(ClientsFolder);
+    m_CFFRoot = root;
+    m_ClientsPath = (root.isEmpty() ? root : root + QLatin1Char(Separator)) + clients + QLatin1Char(Separator);
+}
 QString TSystemSettings::GetCFFRoot() const { return m_CFFRoot; }
 
 QString TSystemSettings::GetCFFPath(const QString& client, const QString& farm, const QString& field) const
 {
-    if (client.isEmpty() || farm.isEmpty() || field.isEmpty())
-        return QString();
-    const QString root = m_CFFRoot.isEmpty() ? QString() : m_CFFRoot + QLatin1Char(Separator);
-    return root + QLatin1String(ClientsFolder) + QLatin1Char(Separator) + client + QLatin1Char(Separator) + farm +
-           QLatin1Char(Separator) + field + QLatin1Char(Separator);
+    return CFFPath(client, farm, field);
 }
 
-QString TSystemSettings::GetCFFPath() const
+QString TSystemSettings::GetCFFPath() const { return ActiveCFFPath(); }
+
+QString TSystemSettings::CFFPath(const QString& client, const QString& farm, const QString& field)
+{
+    return IsField(client, farm, field) ? FieldPath(QString(), m_ClientsPath, client, farm, field, QLatin1String(""))
+                                        : QString();
+}
+
+QString TSystemSettings::ActiveCFFPath()
 {
     const QString client = Parameters::ReadString(PARAM_CLIENT);
     const QString farm = Parameters::ReadString(PARAM_FARM);
     const QString field = Parameters::ReadString(PARAM_FIELD);
-    return GetCFFPath(client, farm, field);
+    return CFFPath(client, farm, field);
 }
 
 QString TSystemSettings::GetJobFilePath(const QString& client, const QString& farm, const QString& field,
                                         const QString& job) const
 {
-    return GetInternalDrivePath() + GetCFFPath(client, farm, field) +
-           ItemFile(JobsFolder, job, QLatin1String(IniExtension));
+    return GetInternalDrivePath() + GetCFFPath(client, farm, field) + QLatin1String(JobsFolder) +
+           QLatin1Char(Separator) + job + QLatin1Char(Separator) + job + QLatin1String(IniExtension);
 }
 
 QString TSystemSettings::GetAreaCountersPath(const QString& client, const QString& farm, const QString& field,
@@ -64,39 +101,33 @@ QString TSystemSettings::GetFlagPointsFilePath(const QString& client, const QStr
     return GetInternalDrivePath() + GetCFFPath(client, farm, field) + QLatin1String(FlagPointsFile);
 }
 
+// The place of a file is put together once: coverage is recorded to such a path, and asks for it often.
+
 QString TSystemSettings::GetCoverageFilePath(const QString& client, const QString& farm, const QString& field,
                                              const QString& job) const
 {
-    const QString fieldPath = GetCFFPath(client, farm, field);
-    if (fieldPath.isEmpty() || job.isEmpty())
-        return QString();
-    return GetInternalDrivePath() + fieldPath + ItemFile(JobsFolder, job, QLatin1String(CoverageExtension));
+    static const tagPlace place(JobsFolder, Ending("", CoverageExtension));
+    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, job, place);
 }
 
 QString TSystemSettings::GetPerPointDataJobPath(const QString& client, const QString& farm, const QString& field,
                                                 const QString& job) const
 {
-    const QString fieldPath = GetCFFPath(client, farm, field);
-    if (fieldPath.isEmpty() || job.isEmpty())
-        return QString();
-    return GetInternalDrivePath() + fieldPath + ItemFile(JobsFolder, job, PerPointDataEnding(PerPointDataSuffix));
+    static const tagPlace place(JobsFolder, Ending(PerPointDataSuffix, PbzExtension));
+    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, job, place);
 }
 
 QString TSystemSettings::GetBoundaryFilePath(const QString& client, const QString& farm, const QString& field) const
 {
-    const QString fieldPath = GetCFFPath(client, farm, field);
-    if (fieldPath.isEmpty())
-        return QString();
-    return GetInternalDrivePath() + fieldPath + ItemFile(BoundariesFolder, field, QLatin1String(BoundaryExtension));
+    static const tagPlace place(BoundariesFolder, Ending("", BoundaryExtension));
+    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, field, place);
 }
 
 QString TSystemSettings::GetExclusionZoneShapefilePath(const QString& client, const QString& farm,
                                                        const QString& field) const
 {
-    const QString fieldPath = GetCFFPath(client, farm, field);
-    if (fieldPath.isEmpty())
-        return QString();
-    return GetInternalDrivePath() + fieldPath + ItemFile(ZonesFolder, field, QLatin1String(ShpExtension));
+    static const tagPlace place(ZonesFolder, Ending("", ShpExtension));
+    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, field, place);
 }
 
 QString TSystemSettings::GetActiveFieldPath() const
@@ -111,12 +142,12 @@ QString TSystemSettings::GetActiveFlagPointsFilePath() const
 
 QString TSystemSettings::GetActivePerPointDataJobPath() const
 {
-    return GetActiveJobPath().replace(QLatin1String(IniExtension), PerPointDataEnding(PerPointDataSuffix));
+    return GetActiveJobPath().replace(QLatin1String(IniExtension), Ending(PerPointDataSuffix, PbzExtension));
 }
 
 QString TSystemSettings::GetActivePerPointDataElevationPath() const
 {
-    return GetActiveFieldPath().replace(QLatin1String(IniExtension), PerPointDataEnding(ElevationSuffix));
+    return GetActiveFieldPath().replace(QLatin1String(IniExtension), Ending(ElevationSuffix, PbzExtension));
 }
 
 QString TSystemSettings::GetActiveAreaCountersPath() const

@@ -108,3 +108,4 @@ const QString TSystemSettings::TaskDataXml = QLatin1String("TASKDATA.xml");
 const QString TSystemSettings::TaskDataCffParentDir = TaskDataDir + QLatin1Char('_') + QLatin1String(ClientsFolder);
 
 QString TSystemSettings::m_CFFRoot;
+QString TSystemSettings::m_ClientsPath = QLatin1String(ClientsFolder) + QLatin1Char('/');

@@ -17,6 +17,31 @@ namespace {
 
 const float LoadScale = 1.0f / (1 << SI_LOAD_SHIFT); // loads[] of sysinfo(2) are fixed-point with 16 binary places
 
+/// Whether a path begins at the root and has no part to take out: nothing doubled, no dots behind a separator. Says no
+/// to a hidden folder too, which the long way then leaves as it is.
+bool IsAbsoluteAndClean(const QString& path)
+{
+    const QLatin1Char separator('/');
+    if (!path.startsWith(separator))
+        return false;
+    const QChar* const last = path.constEnd() - 1;
+    for (const QChar* c = path.constBegin(); (c = std::find(c, last, separator)) != last;) {
+        ++c;
+        if (*c == separator || *c == QLatin1Char('.'))
+            return false;
+    }
+    return true;
+}
+
+/// The absolute path of a drive. Most calls ask for one, and on a display it is stored so already.
+QString DrivePath(EParamID drive)
+{
+    QString path = Parameters::ReadString(drive);
+    if (!IsAbsoluteAndClean(path))
+        path = QFileInfo(path).absoluteFilePath();
+    return path;
+}
+
 template <class T>
 T Saturated(fsblkcnt_t count)
 {
@@ -26,7 +51,7 @@ T Saturated(fsblkcnt_t count)
 } // namespace
 
 QFileInfo TSystemSettings::GetInternalDrive() const { return QFileInfo(Parameters::ReadString(PARAM_INTERNAL_DRIVE)); }
-QString TSystemSettings::GetInternalDrivePath() const { return GetInternalDrive().absoluteFilePath(); }
+QString TSystemSettings::GetInternalDrivePath() const { return DrivePath(PARAM_INTERNAL_DRIVE); }
 
 bool TSystemSettings::GetExternalDrive(QFileInfo& drive) const
 {
@@ -36,7 +61,7 @@ bool TSystemSettings::GetExternalDrive(QFileInfo& drive) const
 
 bool TSystemSettings::GetExternalDrivePath(QString& path) const
 {
-    path = QFileInfo(Parameters::ReadString(PARAM_EXTERNAL_DRIVE)).absoluteFilePath();
+    path = DrivePath(PARAM_EXTERNAL_DRIVE);
     return IsMountingPoint(path.toUtf8().constData());
 }
 
@@ -85,7 +110,7 @@ int TSystemSettings::GetFileSystemInfo(unsigned* total, unsigned* free) const
 
 int TSystemSettings::GetUSBMemoryInfo(int* total, int* free) const
 {
-    const QByteArray path = QFileInfo(Parameters::ReadString(PARAM_EXTERNAL_DRIVE)).absoluteFilePath().toUtf8();
+    const QByteArray path = DrivePath(PARAM_EXTERNAL_DRIVE).toUtf8();
     const int isMounted = IsMountingPointWErr(path.constData());
     if (isMounted == 0)
         return 0;

@@ -360,12 +360,17 @@ public:
     QString GetTempGuidanceCurveFilePath() const;
 
 private:
+    friend class TPathSetting;
+
+    static QString CFFPath(const QString& client, const QString& farm, const QString& field);
+    static QString ActiveCFFPath();
     QString OffsetLinesShapeFilePath(char side) const;
     QString FolderPath(const char* folder) const;
     QString UpdateFilename(const char* extension) const;
     bool GetUpdateFilePath(QString& path, const QString& fileName) const;
 
     static QString m_CFFRoot;
+    static QString m_ClientsPath; ///< folder of the clients under the root, ending in "/"
 
     TPathSetting m_Job;
     TPathSetting m_Boundary;

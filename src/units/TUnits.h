@@ -2,6 +2,7 @@
 
 #include "platform/Export.h"
 #include "units/EUnitsType.h"
+#include "units/UnitFactors.h"
 
 #include <QChar>
 #include <QDate>
@@ -31,7 +32,8 @@ public:
     // ---- Factors --------------------------------------------------------------------------------------------------
 
     // From the unit named first to the unit named second. The argument is a 32-bit float, and so is every constant; the
-    // result is computed in extended precision from those. A result is given for every argument.
+    // result is computed in extended precision from those. A result is given for every argument. Inline, and exported
+    // too.
 
     // Lengths
     static double ConvertMillimetersToInches(float x);
@@ -509,3 +511,5 @@ public:
     /// "Mar 3, 2014" or "3 Mar, 2014"; no month name for an invalid date.
     static QString GetDateString(bool monthFirst, const QDate& date);
 };
+
+#include "units/UnitConversions.h"

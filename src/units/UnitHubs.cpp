@@ -5,380 +5,397 @@
 
 #include "units/Routes.h"
 #include "units/UnitSystem.h"
+#include "units/UnitTable.h"
+
+#include <cstddef>
 
 namespace {
 
+using namespace UnitFactors;
 using Routes::By;
 using Routes::TConversion;
+using Routes::Unchanged;
 
-/// Conversions of one unit. Those for English measures are there when "gallon" and "fluid ounce" leave open which one
-/// is meant: the others are then for US measures.
+/// By a factor where one is all it takes, so that most conversions are data; by a function otherwise.
+struct tagConversion
+{
+    constexpr tagConversion(tagFactor aFactor) : factor(aFactor) {}
+    constexpr tagConversion(TConversion aRoute = Unchanged, bool onlyImperial = false)
+        : route(aRoute), isImperial(onlyImperial)
+    {}
+
+    double operator()(double value) const
+    {
+        if (route)
+            return route(value);
+        // Products in extended precision too: which of the two it is comes as a surprise to the processor, and dearer.
+        return Narrow(Wide(static_cast<float>(value)) * factor.times / factor.over);
+    }
+
+    tagFactor factor = Times(1.0f);
+    TConversion route = nullptr;
+    bool isImperial = false; ///< the metric system has no such unit, and leaves the value alone
+};
+
+template <TConversion US, TConversion English>
+double ByMeasures(double value)
+{
+    if (UnitSystem::IsMetric())
+        return value;
+    return UnitSystem::IsUS() ? US(value) : English(value);
+}
+
+/// Gallons and fluid ounces leave open whose they are: the measures in use tell.
+template <TConversion US, TConversion English>
+constexpr tagConversion Imperial = {ByMeasures<US, English>, true};
+
 struct tagHubRow
 {
     EUnitsType unit;
-    TConversion out;
-    TConversion in;
-    TConversion outEnglish = nullptr;
-    TConversion inEnglish = nullptr;
+    tagConversion out;
+    tagConversion in;
 };
 
 // Ways that no factor function goes. Their divisors are those of recorded data: two of them shorter than the factors of
 // the way out.
-double KilometersToMeters(double value) { return static_cast<double>(static_cast<long double>(value) / 0.001f); }
+double KilometersToMeters(double value) { return Narrow(Wide(value) / KilometersPerMeter); }
 double KphToMetersPerSecond(double value) { return value / 3.6; }
-double MphToMetersPerSecond(double value) { return static_cast<double>(static_cast<long double>(value) / 2.2369363f); }
+double MphToMetersPerSecond(double value) { return Narrow(Wide(value) / MphPerMeterPerSecond); }
 double PsiToKilopascals(double value) { return value / 0.14504; }
 
 using U = TUnits;
 
 // clang-format off
 constexpr tagHubRow MeterRows[] = {
-    {UNITS_KILOMETERS,  By<U::ConvertMetersToKilometers>,  KilometersToMeters},
-    {UNITS_CENTIMETERS, By<U::ConvertMetersToCentimeters>, By<U::ConvertCentimetersToMeters>},
-    {UNITS_MILLIMETERS, By<U::ConvertMetersToMillimeters>, By<U::ConvertMillimetersToMeters>},
-    {UNITS_FEET,        By<U::ConvertMetersToFeet>,        By<U::ConvertFeetToMeters>},
-    {UNITS_MILES,       By<U::ConvertMetersToMiles>,       By<U::ConvertMilesToMeters>},
-    {UNITS_INCHES,      By<U::ConvertMetersToInches>,      By<U::ConvertInchesToMeters>},
+    {UNITS_KILOMETERS,  MetersToKilometers,  {KilometersToMeters}},
+    {UNITS_CENTIMETERS, MetersToCentimeters, CentimetersToMeters},
+    {UNITS_MILLIMETERS, MetersToMillimeters, MillimetersToMeters},
+    {UNITS_FEET,        MetersToFeet,        FeetToMeters},
+    {UNITS_MILES,       MetersToMiles,       MilesToMeters},
+    {UNITS_INCHES,      MetersToInches,      InchesToMeters},
 };
 
 constexpr tagHubRow HectareRows[] = {
-    {UNITS_ACRES, By<U::ConvertHectaresToAcres>, By<U::ConvertAcresToHectares>},
+    {UNITS_ACRES, HectaresToAcres, AcresToHectares},
 };
 
 constexpr tagHubRow MetersPerMinRows[] = {
-    {UNITS_FEET_PER_MIN, By<U::ConvertMetersToFeet>, By<U::ConvertFeetToMeters>},
+    {UNITS_FEET_PER_MIN, MetersToFeet, FeetToMeters},
 };
 
 constexpr tagHubRow MetersPerSecondRows[] = {
-    {UNITS_KPH, By<U::ConvertMetersPerSecondToKilometersPerHour>, KphToMetersPerSecond},
-    {UNITS_MPH, By<U::ConvertMetersPerSecondToMilesPerHour>,      MphToMetersPerSecond},
+    {UNITS_KPH, MetersPerSecondToKilometersPerHour, {KphToMetersPerSecond}},
+    {UNITS_MPH, MetersPerSecondToMilesPerHour,      {MphToMetersPerSecond}},
 };
 
 constexpr tagHubRow PulsesPerKilometerPerHourRows[] = {
-    {UNITS_HZ_PER_MPH, By<U::ConvertPulsesPerKPHToPulsesPerMPH>, By<U::ConvertPulsesPerMPHToPulsesPerKPH>},
+    {UNITS_HZ_PER_MPH, PulsesPerKPHToPulsesPerMPH, PulsesPerMPHToPulsesPerKPH},
 };
 
 constexpr tagHubRow LiterRows[] = {
-    {UNITS_GALLONS,      By<U::ConvertLitersToUSGallons>,          By<U::ConvertUSGallonsToLiters>,
-                         By<U::ConvertLitersToEnglishGallons>,     By<U::ConvertEnglishGallonsToLiters>},
-    {UNITS_MILLILITERS,  By<U::ConvertLitersToMilliLiters>,        By<U::ConvertMilliLitersToLiters>},
-    {UNITS_FLUID_OUNCES, By<U::ConvertLitersToUSFluidOunces>,      By<U::ConvertUSFluidOuncesToLiters>,
-                         By<U::ConvertLitersToEnglishFluidOunces>, By<U::ConvertEnglishFluidOuncesToLiters>},
-    {UNITS_CUBIC_METERS, By<U::ConvertLitersToCubicMeters>,        By<U::ConvertCubicMetersToLiters>},
-    {UNITS_CUBIC_FEET,   By<U::ConvertLitersToCubicFeet>,          By<U::ConvertCubicFeetToLiters>},
-    {UNITS_TONNES,       By<U::ConvertLitersToTonnes>,             By<U::ConvertTonnesToLiters>},
-    {UNITS_US_BUSHELS,   By<U::ConvertLitersToUSBushels>,          By<U::ConvertUSBushelsToLiters>},
-    {UNITS_UK_BUSHELS,   By<U::ConvertLitersToUKBushels>,          By<U::ConvertUKBushelsToLiters>},
-    {UNITS_LB,           By<U::ConvertLitersToPounds>,             By<U::ConvertPoundsToLiters>},
+    {UNITS_GALLONS,      Imperial<By<U::ConvertLitersToUSGallons>, By<U::ConvertLitersToEnglishGallons>>,
+                         Imperial<By<U::ConvertUSGallonsToLiters>, By<U::ConvertEnglishGallonsToLiters>>},
+    {UNITS_MILLILITERS,  LitersToMilliLiters,            MilliLitersToLiters},
+    {UNITS_FLUID_OUNCES, Imperial<By<U::ConvertLitersToUSFluidOunces>, By<U::ConvertLitersToEnglishFluidOunces>>,
+                         Imperial<By<U::ConvertUSFluidOuncesToLiters>, By<U::ConvertEnglishFluidOuncesToLiters>>},
+    {UNITS_CUBIC_METERS, LitersToCubicMeters,            CubicMetersToLiters},
+    {UNITS_CUBIC_FEET,   LitersToCubicFeet,              CubicFeetToLiters},
+    {UNITS_TONNES,       LitersToTonnes,                 TonnesToLiters},
+    {UNITS_US_BUSHELS,   LitersToUSBushels,              USBushelsToLiters},
+    {UNITS_UK_BUSHELS,   LitersToUKBushels,              UKBushelsToLiters},
+    {UNITS_LB,           {By<U::ConvertLitersToPounds>}, {By<U::ConvertPoundsToLiters>}},
 };
 
 constexpr tagHubRow LitersPerHectareRows[] = {
-    {UNITS_L_PER_AC,         By<U::ConvertPerHectareToPerAcre>,                         By<U::ConvertPerAcreToPerHectare>},
-    {UNITS_ML_PER_HA,        By<U::ConvertLitersToMilliLiters>,                         By<U::ConvertMilliLitersToLiters>},
-    {UNITS_ML_PER_AC,        By<U::ConvertLitersPerHectareToMilliLitersPerAcre>,        By<U::ConvertMilliLitersPerAcreToLitersPerHectare>},
-    {UNITS_GAL_PER_HA,       By<U::ConvertLitersToUSGallons>,                           By<U::ConvertUSGallonsToLiters>,
-                             By<U::ConvertLitersToEnglishGallons>,                      By<U::ConvertEnglishGallonsToLiters>},
-    {UNITS_GAL_PER_AC,       By<U::ConvertLitersPerHectareToUSGallonsPerAcre>,          By<U::ConvertUSGallonsPerAcreToLitersPerHectare>,
-                             By<U::ConvertLitersPerHectareToEnglishGallonsPerAcre>,     By<U::ConvertEnglishGallonsPerAcreToLitersPerHectare>},
-    {UNITS_US_GAL_PER_HA,    By<U::ConvertLitersToUSGallons>,                           By<U::ConvertUSGallonsToLiters>},
-    {UNITS_US_GAL_PER_AC,    By<U::ConvertLitersPerHectareToUSGallonsPerAcre>,          By<U::ConvertUSGallonsPerAcreToLitersPerHectare>},
-    {UNITS_FLOZ_PER_AC,      By<U::ConvertLitersPerHectareToUSFluidOuncesPerAcre>,      By<U::ConvertUSFluidOuncesPerAcreToLitersPerHectare>,
-                             By<U::ConvertLitersPerHectareToEnglishFluidOuncesPerAcre>, By<U::ConvertEnglishFluidOuncesPerAcreToLitersPerHectare>},
-    {UNITS_FLOZ_PER_HA,      By<U::ConvertLitersToUSFluidOunces>,                       By<U::ConvertUSFluidOuncesToLiters>,
-                             By<U::ConvertLitersToEnglishFluidOunces>,                  By<U::ConvertEnglishFluidOuncesToLiters>},
-    {UNITS_US_FLOZ_PER_AC,   By<U::ConvertLitersPerHectareToUSFluidOuncesPerAcre>,      By<U::ConvertUSFluidOuncesPerAcreToLitersPerHectare>},
-    {UNITS_US_FLOZ_PER_HA,   By<U::ConvertLitersToUSFluidOunces>,                       By<U::ConvertUSFluidOuncesToLiters>},
-    {UNITS_M3_PER_HA,        By<U::ConvertLitersPerHectareToCubicMetersPerHectare>,     By<U::ConvertCubicMetersPerHectareToLitersPerHectare>},
-    {UNITS_M3_PER_AC,        By<U::ConvertLitersPerHectareToCubicMetersPerAcre>,        By<U::ConvertCubicMetersPerAcreToLitersPerHectare>},
-    {UNITS_FT3_PER_HA,       By<U::ConvertLitersToCubicFeet>,                           By<U::ConvertCubicFeetToLiters>},
-    {UNITS_FT3_PER_AC,       By<U::ConvertLitersPerHectareToCubicFeetPerAcre>,          By<U::ConvertCubicFeetPerAcreToLitersPerHectare>},
-    {UNITS_T_PER_HA,         By<U::ConvertLitersPerHectareToTonnesPerHectare>,          By<U::ConvertTonnesPerHectareToLitersPerHectare>},
-    {UNITS_T_PER_AC,         By<U::ConvertLitersPerHectareToTonnesPerAcre>,             By<U::ConvertTonnesPerAcreToLitersPerHectare>},
-    {UNITS_GAL_PER_100YD,    By<U::ConvertLitersPerHectareToUSGallonsPer100Yards>,      By<U::ConvertUSGallonsPer100YardsToLitersPerHectare>,
-                             By<U::ConvertLitersPerHectareToEnglishGallonsPer100Yards>, By<U::ConvertEnglishGallonsPer100YardsToLitersPerHectare>},
-    {UNITS_US_GAL_PER_100YD, By<U::ConvertLitersPerHectareToUSGallonsPer100Yards>,      By<U::ConvertUSGallonsPer100YardsToLitersPerHectare>},
-    {UNITS_LB_PER_AC,        By<U::ConvertLitersPerHectareToPoundsPerAcre>,             By<U::ConvertPoundsPerAcreToTonnesPerHectare, U::ConvertTonnesPerHectareToLitersPerHectare>},
-    {UNITS_LB_PER_HA,        By<U::ConvertLitersToPounds>,                              By<U::ConvertPoundsToLiters>},
+    {UNITS_L_PER_AC,         PerHectareToPerAcre,                                    PerAcreToPerHectare},
+    {UNITS_ML_PER_HA,        LitersToMilliLiters,                                    MilliLitersToLiters},
+    {UNITS_ML_PER_AC,        {By<U::ConvertLitersPerHectareToMilliLitersPerAcre>},   MilliLitersPerAcreToLitersPerHectare},
+    {UNITS_GAL_PER_HA,       Imperial<By<U::ConvertLitersToUSGallons>, By<U::ConvertLitersToEnglishGallons>>,
+                             Imperial<By<U::ConvertUSGallonsToLiters>, By<U::ConvertEnglishGallonsToLiters>>},
+    {UNITS_GAL_PER_AC,       Imperial<By<U::ConvertLitersPerHectareToUSGallonsPerAcre>, By<U::ConvertLitersPerHectareToEnglishGallonsPerAcre>>,
+                             Imperial<By<U::ConvertUSGallonsPerAcreToLitersPerHectare>, By<U::ConvertEnglishGallonsPerAcreToLitersPerHectare>>},
+    {UNITS_US_GAL_PER_HA,    LitersToUSGallons,                                      USGallonsToLiters},
+    {UNITS_US_GAL_PER_AC,    LitersPerHectareToUSGallonsPerAcre,                     USGallonsPerAcreToLitersPerHectare},
+    {UNITS_FLOZ_PER_AC,      Imperial<By<U::ConvertLitersPerHectareToUSFluidOuncesPerAcre>, By<U::ConvertLitersPerHectareToEnglishFluidOuncesPerAcre>>,
+                             Imperial<By<U::ConvertUSFluidOuncesPerAcreToLitersPerHectare>, By<U::ConvertEnglishFluidOuncesPerAcreToLitersPerHectare>>},
+    {UNITS_FLOZ_PER_HA,      Imperial<By<U::ConvertLitersToUSFluidOunces>, By<U::ConvertLitersToEnglishFluidOunces>>,
+                             Imperial<By<U::ConvertUSFluidOuncesToLiters>, By<U::ConvertEnglishFluidOuncesToLiters>>},
+    {UNITS_US_FLOZ_PER_AC,   {By<U::ConvertLitersPerHectareToUSFluidOuncesPerAcre>},
+                             {By<U::ConvertUSFluidOuncesPerAcreToLitersPerHectare>}},
+    {UNITS_US_FLOZ_PER_HA,   LitersToUSFluidOunces,                                  USFluidOuncesToLiters},
+    {UNITS_M3_PER_HA,        LitersPerHectareToCubicMetersPerHectare,                CubicMetersPerHectareToLitersPerHectare},
+    {UNITS_M3_PER_AC,        LitersPerHectareToCubicMetersPerAcre,
+                             {By<U::ConvertCubicMetersPerAcreToLitersPerHectare>}},
+    {UNITS_FT3_PER_HA,       LitersToCubicFeet,                                      CubicFeetToLiters},
+    {UNITS_FT3_PER_AC,       {By<U::ConvertLitersPerHectareToCubicFeetPerAcre>},     CubicFeetPerAcreToLitersPerHectare},
+    {UNITS_T_PER_HA,         LitersPerHectareToTonnesPerHectare,                     TonnesPerHectareToLitersPerHectare},
+    {UNITS_T_PER_AC,         LitersPerHectareToTonnesPerAcre,
+                             {By<U::ConvertTonnesPerAcreToLitersPerHectare>}},
+    {UNITS_GAL_PER_100YD,    Imperial<By<U::ConvertLitersPerHectareToUSGallonsPer100Yards>, By<U::ConvertLitersPerHectareToEnglishGallonsPer100Yards>>,
+                             Imperial<By<U::ConvertUSGallonsPer100YardsToLitersPerHectare>, By<U::ConvertEnglishGallonsPer100YardsToLitersPerHectare>>},
+    {UNITS_US_GAL_PER_100YD, LitersPerHectareToUSGallonsPer100Yards,                 USGallonsPer100YardsToLitersPerHectare},
+    {UNITS_LB_PER_AC,        {By<U::ConvertLitersPerHectareToPoundsPerAcre>},
+                             {By<U::ConvertPoundsPerAcreToTonnesPerHectare, U::ConvertTonnesPerHectareToLitersPerHectare>}},
+    {UNITS_LB_PER_HA,        {By<U::ConvertLitersToPounds>},                         {By<U::ConvertPoundsToLiters>}},
 };
 
 constexpr tagHubRow LitersPerMinuteRows[] = {
-    {UNITS_GAL_PER_MIN,  By<U::ConvertLitersToUSGallons>,          By<U::ConvertUSGallonsToLiters>,
-                         By<U::ConvertLitersToEnglishGallons>,     By<U::ConvertEnglishGallonsToLiters>},
-    {UNITS_ML_PER_MIN,   By<U::ConvertLitersToMilliLiters>,        By<U::ConvertMilliLitersToLiters>},
-    {UNITS_FLOZ_PER_MIN, By<U::ConvertLitersToUSFluidOunces>,      By<U::ConvertUSFluidOuncesToLiters>,
-                         By<U::ConvertLitersToEnglishFluidOunces>, By<U::ConvertEnglishFluidOuncesToLiters>},
-    {UNITS_M3_PER_MIN,   By<U::ConvertLitersToCubicMeters>,        By<U::ConvertCubicMetersToLiters>},
-    {UNITS_FT3_PER_MIN,  By<U::ConvertLitersToCubicFeet>,          By<U::ConvertCubicFeetToLiters>},
-    {UNITS_T_PER_MIN,    By<U::ConvertLitersToTonnes>,             By<U::ConvertTonnesToLiters>},
+    {UNITS_GAL_PER_MIN,  Imperial<By<U::ConvertLitersToUSGallons>, By<U::ConvertLitersToEnglishGallons>>,
+                         Imperial<By<U::ConvertUSGallonsToLiters>, By<U::ConvertEnglishGallonsToLiters>>},
+    {UNITS_ML_PER_MIN,   LitersToMilliLiters, MilliLitersToLiters},
+    {UNITS_FLOZ_PER_MIN, Imperial<By<U::ConvertLitersToUSFluidOunces>, By<U::ConvertLitersToEnglishFluidOunces>>,
+                         Imperial<By<U::ConvertUSFluidOuncesToLiters>, By<U::ConvertEnglishFluidOuncesToLiters>>},
+    {UNITS_M3_PER_MIN,   LitersToCubicMeters, CubicMetersToLiters},
+    {UNITS_FT3_PER_MIN,  LitersToCubicFeet,   CubicFeetToLiters},
+    {UNITS_T_PER_MIN,    LitersToTonnes,      TonnesToLiters},
 };
 
 constexpr tagHubRow LitersPerRevRows[] = {
-    {UNITS_GAL_PER_REV, By<U::ConvertLitersToUSGallons>,      By<U::ConvertUSGallonsToLiters>,
-                        By<U::ConvertLitersToEnglishGallons>, By<U::ConvertEnglishGallonsToLiters>},
+    {UNITS_GAL_PER_REV, Imperial<By<U::ConvertLitersToUSGallons>, By<U::ConvertLitersToEnglishGallons>>,
+                        Imperial<By<U::ConvertUSGallonsToLiters>, By<U::ConvertEnglishGallonsToLiters>>},
 };
 
 constexpr tagHubRow KiloPascalsRows[] = {
-    {UNITS_PSI, By<U::ConvertKilopascalsToPoundsPerSquareInch>, PsiToKilopascals},
-    {UNITS_BAR, By<U::ConvertKilopascalsToBar>,                 By<U::ConvertBarToKilopascals>},
+    {UNITS_PSI, KilopascalsToPoundsPerSquareInch, {PsiToKilopascals}},
+    {UNITS_BAR, KilopascalsToBar,                 BarToKilopascals},
 };
 
 constexpr tagHubRow MetersPerPulseRows[] = {
-    {UNITS_FT_PER_PULSE, By<U::ConvertMetersToFeet>, By<U::ConvertFeetToMeters>},
+    {UNITS_FT_PER_PULSE, MetersToFeet, FeetToMeters},
 };
 
 constexpr tagHubRow PulsesPerLiterRows[] = {
-    {UNITS_PULSES_PER_GAL,  By<U::ConvertPulsesPerLiterToPulsesPerUSGallon>,      By<U::ConvertPulsesPerUSGallonToPulsesPerLiter>,
-                            By<U::ConvertPulsesPerLiterToPulsesPerEnglishGallon>, By<U::ConvertPulsesPerEnglishGallonToPulsesPerLiter>},
-    {UNITS_PULSES_PER_ML,   By<U::ConvertPerLiterToPerMilliLiter>,                By<U::ConvertPerMilliLiterToPerLiter>},
-    {UNITS_PULSES_PER_FLOZ, By<U::ConvertPerLiterToPerUSFluidOunce>,              By<U::ConvertPerUSFluidOunceToPerLiter>,
-                            By<U::ConvertPerLiterToPerEnglishFluidOunce>,         By<U::ConvertPerEnglishFluidOunceToPerLiter>},
-    {UNITS_PULSES_PER_M3,   By<U::ConvertPulsesPerLiterToPulsesPerCubicMeter>,    By<U::ConvertPulsesPerCubicMeterToPulsesPerLiter>},
-    {UNITS_PULSES_PER_FT3,  By<U::ConvertPulsesPerLiterToPulsesPerCubicMeter, U::ConvertPulsesPerCubicMeterToPulsesPerCubicFeet>,
-                            By<U::ConvertPulsesPerCubicFootToPulsesPerCubicMeter, U::ConvertPulsesPerCubicMeterToPulsesPerLiter>},
-    {UNITS_PULSES_PER_T,    By<U::ConvertPulsesPerLiterToPulsesPerTonne>,         By<U::ConvertPulsesPerTonneToPulsesPerLiter>},
-    {UNITS_PULSES_PER_LB,   By<U::ConvertPulsesPerLiterToPulsesPerTonne, U::ConvertPulsesPerTonneToPulsesPerPound>,
-                            By<U::ConvertPulsesPerPoundToPulsesPerTonne, U::ConvertPulsesPerTonneToPulsesPerLiter>},
+    {UNITS_PULSES_PER_GAL,  Imperial<By<U::ConvertPulsesPerLiterToPulsesPerUSGallon>, By<U::ConvertPulsesPerLiterToPulsesPerEnglishGallon>>,
+                            Imperial<By<U::ConvertPulsesPerUSGallonToPulsesPerLiter>, By<U::ConvertPulsesPerEnglishGallonToPulsesPerLiter>>},
+    {UNITS_PULSES_PER_ML,   PerLiterToPerMilliLiter,             PerMilliLiterToPerLiter},
+    {UNITS_PULSES_PER_FLOZ, Imperial<By<U::ConvertPerLiterToPerUSFluidOunce>, By<U::ConvertPerLiterToPerEnglishFluidOunce>>,
+                            Imperial<By<U::ConvertPerUSFluidOunceToPerLiter>, By<U::ConvertPerEnglishFluidOunceToPerLiter>>},
+    {UNITS_PULSES_PER_M3,   PulsesPerLiterToPulsesPerCubicMeter, PulsesPerCubicMeterToPulsesPerLiter},
+    {UNITS_PULSES_PER_FT3,  {By<U::ConvertPulsesPerLiterToPulsesPerCubicMeter, U::ConvertPulsesPerCubicMeterToPulsesPerCubicFeet>},
+                            {By<U::ConvertPulsesPerCubicFootToPulsesPerCubicMeter, U::ConvertPulsesPerCubicMeterToPulsesPerLiter>}},
+    {UNITS_PULSES_PER_T,    PulsesPerLiterToPulsesPerTonne,      PulsesPerTonneToPulsesPerLiter},
+    {UNITS_PULSES_PER_LB,   {By<U::ConvertPulsesPerLiterToPulsesPerTonne, U::ConvertPulsesPerTonneToPulsesPerPound>},
+                            {By<U::ConvertPulsesPerPoundToPulsesPerTonne, U::ConvertPulsesPerTonneToPulsesPerLiter>}},
 };
 
 constexpr tagHubRow KilogramRows[] = {
-    {UNITS_LB,           By<U::ConvertKilogramsToPounds>, By<U::ConvertPoundsToKilograms>},
-    {UNITS_LB_N,         By<U::ConvertKilogramsToPounds>, By<U::ConvertPoundsToKilograms>},
-    {UNITS_LB_PER_MIN,   By<U::ConvertKilogramsToPounds>, By<U::ConvertPoundsToKilograms>},
-    {UNITS_LB_N_PER_MIN, By<U::ConvertKilogramsToPounds>, By<U::ConvertPoundsToKilograms>},
-    {UNITS_LB_PER_REV,   By<U::ConvertKilogramsToPounds>, By<U::ConvertPoundsToKilograms>},
+    {UNITS_LB,           KilogramsToPounds, PoundsToKilograms},
+    {UNITS_LB_N,         KilogramsToPounds, PoundsToKilograms},
+    {UNITS_LB_PER_MIN,   KilogramsToPounds, PoundsToKilograms},
+    {UNITS_LB_N_PER_MIN, KilogramsToPounds, PoundsToKilograms},
+    {UNITS_LB_PER_REV,   KilogramsToPounds, PoundsToKilograms},
 };
 
 constexpr tagHubRow KilogramsPerHectareRows[] = {
-    {UNITS_KG_PER_AC,     By<U::ConvertPerHectareToPerAcre>,                By<U::ConvertPerAcreToPerHectare>},
-    {UNITS_KG_N_PER_AC,   By<U::ConvertPerHectareToPerAcre>,                By<U::ConvertPerAcreToPerHectare>},
-    {UNITS_KSEEDS_PER_AC, By<U::ConvertPerHectareToPerAcre>,                By<U::ConvertPerAcreToPerHectare>},
-    {UNITS_LB_PER_HA,     By<U::ConvertKilogramsToPounds>,                  By<U::ConvertPoundsToKilograms>},
-    {UNITS_LB_N_PER_HA,   By<U::ConvertKilogramsToPounds>,                  By<U::ConvertPoundsToKilograms>},
-    {UNITS_LB_PER_AC,     By<U::ConvertKilogramsPerHectareToPoundsPerAcre>, By<U::ConvertPoundsPerAcreToKilogramsPerHectare>},
-    {UNITS_LB_N_PER_AC,   By<U::ConvertKilogramsPerHectareToPoundsPerAcre>, By<U::ConvertPoundsPerAcreToKilogramsPerHectare>},
+    {UNITS_KG_PER_AC,     PerHectareToPerAcre,                PerAcreToPerHectare},
+    {UNITS_KG_N_PER_AC,   PerHectareToPerAcre,                PerAcreToPerHectare},
+    {UNITS_KSEEDS_PER_AC, PerHectareToPerAcre,                PerAcreToPerHectare},
+    {UNITS_LB_PER_HA,     KilogramsToPounds,                  PoundsToKilograms},
+    {UNITS_LB_N_PER_HA,   KilogramsToPounds,                  PoundsToKilograms},
+    {UNITS_LB_PER_AC,     KilogramsPerHectareToPoundsPerAcre, PoundsPerAcreToKilogramsPerHectare},
+    {UNITS_LB_N_PER_AC,   KilogramsPerHectareToPoundsPerAcre, PoundsPerAcreToKilogramsPerHectare},
 };
 
 constexpr tagHubRow KilogramsPerLiterRows[] = {
-    {UNITS_LB_PER_GAL,   By<U::ConvertKilogramsPerLiterToPoundsPerUSGallon>,     By<U::ConvertPoundsPerUSGallonToKilogramsPerLiter>,
-                         By<U::ConvertKilogramsPerLiterToPoundsPerGallon>,       By<U::ConvertPoundsPerGallonToKilogramsPerLiter>},
-    {UNITS_KG_PER_M3,    By<U::ConvertKilogramsPerLiterToKilogramsPerCubicMeter>, By<U::ConvertKilogramsPerCubicMeterToKilogramsPerLiter>},
-    {UNITS_LB_PER_FT3,   By<U::ConvertKilogramsPerLiterToPoundsPerCubicFoot>,    By<U::ConvertPoundsPerCubicFootToKilogramsPerCubicMeter, U::ConvertKilogramsPerCubicMeterToKilogramsPerLiter>},
-    {UNITS_KG_PER_US_BU, By<U::ConvertKilogramsPerLiterToKilogramsPerUSBushel>,  By<U::ConvertKilogramsPerUSBushelToKilogramsPerLiter>},
-    {UNITS_KG_PER_UK_BU, By<U::ConvertKilogramsPerLiterToKilogramsPerUKBushel>,  By<U::ConvertKilogramsPerUKBushelToKilogramsPerLiter>},
-    {UNITS_LB_PER_US_BU, By<U::ConvertKilogramsPerLiterToPoundsPerUSBushel>,     By<U::ConvertPoundsToKilograms, U::ConvertKilogramsPerUSBushelToKilogramsPerLiter>},
-    {UNITS_LB_PER_UK_BU, By<U::ConvertKilogramsPerLiterToPoundsPerUKBushel>,     By<U::ConvertPoundsToKilograms, U::ConvertKilogramsPerUKBushelToKilogramsPerLiter>},
+    {UNITS_LB_PER_GAL,   Imperial<By<U::ConvertKilogramsPerLiterToPoundsPerUSGallon>, By<U::ConvertKilogramsPerLiterToPoundsPerGallon>>,
+                         Imperial<By<U::ConvertPoundsPerUSGallonToKilogramsPerLiter>, By<U::ConvertPoundsPerGallonToKilogramsPerLiter>>},
+    {UNITS_KG_PER_M3,    KilogramsPerLiterToKilogramsPerCubicMeter,            KilogramsPerCubicMeterToKilogramsPerLiter},
+    {UNITS_LB_PER_FT3,   KilogramsPerLiterToPoundsPerCubicFoot,
+                         {By<U::ConvertPoundsPerCubicFootToKilogramsPerCubicMeter, U::ConvertKilogramsPerCubicMeterToKilogramsPerLiter>}},
+    {UNITS_KG_PER_US_BU, KilogramsPerLiterToKilogramsPerUSBushel,              KilogramsPerUSBushelToKilogramsPerLiter},
+    {UNITS_KG_PER_UK_BU, KilogramsPerLiterToKilogramsPerUKBushel,              KilogramsPerUKBushelToKilogramsPerLiter},
+    {UNITS_LB_PER_US_BU, {By<U::ConvertKilogramsPerLiterToPoundsPerUSBushel>},
+                         {By<U::ConvertPoundsToKilograms, U::ConvertKilogramsPerUSBushelToKilogramsPerLiter>}},
+    {UNITS_LB_PER_UK_BU, {By<U::ConvertKilogramsPerLiterToPoundsPerUKBushel>},
+                         {By<U::ConvertPoundsToKilograms, U::ConvertKilogramsPerUKBushelToKilogramsPerLiter>}},
 };
 
 /// Counts per weight: the smaller the weight, the smaller the count.
 constexpr tagHubRow PulsesPerKilogramNitrogenRows[] = {
-    {UNITS_PULSES_PER_LB_N, By<U::ConvertPoundsToKilograms>, By<U::ConvertKilogramsToPounds>},
+    {UNITS_PULSES_PER_LB_N, PoundsToKilograms, KilogramsToPounds},
 };
 // clang-format on
 
-/// The row's conversion in the direction of @p us and @p english, as the measures in use resolve the unit; null when
-/// they leave the value alone.
-TConversion Resolve(const tagHubRow& row, TConversion us, TConversion english)
+constexpr std::size_t MostHubs = 5;
+
+/// Quantities that convert in the same way, each with a hub of its own.
+struct tagQuantity
 {
-    if (!row.outEnglish)
-        return us;
-    if (UnitSystem::IsMetric())
-        return nullptr; // no gallons in the metric system
-    return UnitSystem::IsUS() ? us : english;
+    const tagHubRow* rows;
+    std::size_t rowCount;
+    EUnitsType hubs[MostHubs]; ///< up to UNITS_NONE
+};
+
+template <std::size_t Count, class... Hub>
+constexpr tagQuantity Quantity(const tagHubRow (&rows)[Count], Hub... hubs)
+{
+    return {rows, Count, {hubs...}};
 }
 
-template <std::size_t Count>
-const tagHubRow* Find(const tagHubRow (&rows)[Count], EUnitsType unit)
+// Areas per hour are not among them: they have never been converted, and recorded productivities rely on it.
+constexpr tagQuantity Quantities[] = {
+    Quantity(MeterRows, UNITS_METERS),
+    Quantity(HectareRows, UNITS_HECTARES),
+    Quantity(MetersPerMinRows, UNITS_METERS_PER_MIN),
+    Quantity(MetersPerSecondRows, UNITS_METERS_PER_SECOND),
+    Quantity(PulsesPerKilometerPerHourRows, UNITS_HZ_PER_KPH),
+    Quantity(LiterRows, UNITS_LITERS),
+    Quantity(LitersPerHectareRows, UNITS_L_PER_HA),
+    Quantity(LitersPerMinuteRows, UNITS_L_PER_MIN),
+    Quantity(LitersPerRevRows, UNITS_L_PER_REV),
+    Quantity(KiloPascalsRows, UNITS_KPA),
+    Quantity(MetersPerPulseRows, UNITS_M_PER_PULSE),
+    Quantity(PulsesPerLiterRows, UNITS_PULSES_PER_L),
+    Quantity(KilogramRows, UNITS_KG, UNITS_KG_N, UNITS_KG_PER_MIN, UNITS_KG_N_PER_MIN, UNITS_KG_PER_REV),
+    Quantity(KilogramsPerHectareRows, UNITS_KG_PER_HA, UNITS_KG_N_PER_HA, UNITS_KSEEDS_PER_HA),
+    Quantity(KilogramsPerLiterRows, UNITS_KG_PER_L),
+    Quantity(PulsesPerKilogramNitrogenRows, UNITS_PULSES_PER_KG_N),
+};
+
+constexpr std::size_t CountConversions()
 {
-    for (const tagHubRow& row : rows) {
-        if (row.unit == unit)
-            return &row;
+    std::size_t count = 1;
+    for (const tagQuantity& quantity : Quantities)
+        count += 2 * quantity.rowCount;
+    return count;
+}
+
+static_assert(CountConversions() <= 256, "the ways are numbered by a byte");
+
+/// The tables above, laid out by pairs of units so that the way from one to another is found at once.
+class TMap
+{
+public:
+    constexpr TMap()
+    {
+        std::size_t next = 1; // the first one leaves the value as it is
+        for (const tagQuantity& quantity : Quantities) {
+            for (std::size_t i = 0; i < quantity.rowCount; ++i) {
+                const tagHubRow& row = quantity.rows[i];
+                m_Conversions[next] = row.out;
+                m_Conversions[next + 1] = row.in;
+                for (const EUnitsType hub : quantity.hubs) {
+                    if (hub == UNITS_NONE)
+                        break;
+                    m_Ways[hub][row.unit] = static_cast<unsigned char>(next);
+                    m_Ways[row.unit][hub] = static_cast<unsigned char>(next + 1);
+                }
+                next += 2;
+            }
+        }
     }
-    return nullptr;
-}
 
-template <std::size_t Count>
-double Out(const tagHubRow (&rows)[Count], double value, EUnitsType to)
-{
-    const tagHubRow* const row = Find(rows, to);
-    const TConversion conversion = row ? Resolve(*row, row->out, row->outEnglish) : nullptr;
-    return conversion ? conversion(value) : value;
-}
+    /// Leaves the value as it is where there is no way, and for numbers that are no unit.
+    constexpr const tagConversion& operator()(EUnitsType from, EUnitsType to) const
+    {
+        const bool areUnits = FindUnit(from) && FindUnit(to);
+        return m_Conversions[areUnits ? m_Ways[from][to] : 0];
+    }
 
-template <std::size_t Count>
-double In(const tagHubRow (&rows)[Count], double value, EUnitsType from)
-{
-    const tagHubRow* const row = Find(rows, from);
-    const TConversion conversion = row ? Resolve(*row, row->in, row->inEnglish) : nullptr;
-    return conversion ? conversion(value) : value;
-}
+private:
+    tagConversion m_Conversions[CountConversions()] = {};
+    unsigned char m_Ways[UnitCount][UnitCount] = {}; ///< from, to; an index into the conversions
+};
+
+constexpr TMap Conversion;
+
+double Convert(double value, EUnitsType from, EUnitsType to) { return Conversion(from, to)(value); }
 
 } // namespace
 
-double TUnits::ConvertFromMeter(double value, EUnitsType to) { return Out(MeterRows, value, to); }
-double TUnits::ConvertToMeter(double value, EUnitsType from) { return In(MeterRows, value, from); }
+double TUnits::ConvertFromMeter(double value, EUnitsType to) { return Convert(value, UNITS_METERS, to); }
+double TUnits::ConvertToMeter(double value, EUnitsType from) { return Convert(value, from, UNITS_METERS); }
 
-double TUnits::ConvertFromHectare(double value, EUnitsType to) { return Out(HectareRows, value, to); }
-double TUnits::ConvertToHectare(double value, EUnitsType from) { return In(HectareRows, value, from); }
+double TUnits::ConvertFromHectare(double value, EUnitsType to) { return Convert(value, UNITS_HECTARES, to); }
+double TUnits::ConvertToHectare(double value, EUnitsType from) { return Convert(value, from, UNITS_HECTARES); }
 
-double TUnits::ConvertFromMetersPerMin(double value, EUnitsType to) { return Out(MetersPerMinRows, value, to); }
-double TUnits::ConvertToMetersPerMin(double value, EUnitsType from) { return In(MetersPerMinRows, value, from); }
+double TUnits::ConvertFromMetersPerMin(double value, EUnitsType to) { return Convert(value, UNITS_METERS_PER_MIN, to); }
+double TUnits::ConvertToMetersPerMin(double value, EUnitsType from)
+{
+    return Convert(value, from, UNITS_METERS_PER_MIN);
+}
 
-double TUnits::ConvertFromMetersPerSecond(double value, EUnitsType to) { return Out(MetersPerSecondRows, value, to); }
-double TUnits::ConvertToMetersPerSecond(double value, EUnitsType from) { return In(MetersPerSecondRows, value, from); }
+double TUnits::ConvertFromMetersPerSecond(double value, EUnitsType to)
+{
+    return Convert(value, UNITS_METERS_PER_SECOND, to);
+}
+double TUnits::ConvertToMetersPerSecond(double value, EUnitsType from)
+{
+    return Convert(value, from, UNITS_METERS_PER_SECOND);
+}
 
 double TUnits::ConvertFromPulsesPerKilometerPerHour(double value, EUnitsType to)
 {
-    return Out(PulsesPerKilometerPerHourRows, value, to);
+    return Convert(value, UNITS_HZ_PER_KPH, to);
 }
 double TUnits::ConvertToPulsesPerKilometerPerHour(double value, EUnitsType from)
 {
-    return In(PulsesPerKilometerPerHourRows, value, from);
+    return Convert(value, from, UNITS_HZ_PER_KPH);
 }
 
-double TUnits::ConvertFromLiter(double value, EUnitsType to) { return Out(LiterRows, value, to); }
-double TUnits::ConvertToLiter(double value, EUnitsType from) { return In(LiterRows, value, from); }
+double TUnits::ConvertFromLiter(double value, EUnitsType to) { return Convert(value, UNITS_LITERS, to); }
+double TUnits::ConvertToLiter(double value, EUnitsType from) { return Convert(value, from, UNITS_LITERS); }
 
-double TUnits::ConvertFromLitersPerHectare(double value, EUnitsType to) { return Out(LitersPerHectareRows, value, to); }
-double TUnits::ConvertToLitersPerHectare(double value, EUnitsType from)
+double TUnits::ConvertFromLitersPerHectare(double value, EUnitsType to) { return Convert(value, UNITS_L_PER_HA, to); }
+double TUnits::ConvertToLitersPerHectare(double value, EUnitsType from) { return Convert(value, from, UNITS_L_PER_HA); }
+
+double TUnits::ConvertFromLitersPerMinute(double value, EUnitsType to) { return Convert(value, UNITS_L_PER_MIN, to); }
+double TUnits::ConvertToLitersPerMinute(double value, EUnitsType from) { return Convert(value, from, UNITS_L_PER_MIN); }
+
+double TUnits::ConvertFromLitersPerRev(double value, EUnitsType to) { return Convert(value, UNITS_L_PER_REV, to); }
+double TUnits::ConvertToLitersPerRev(double value, EUnitsType from) { return Convert(value, from, UNITS_L_PER_REV); }
+
+double TUnits::ConvertFromKiloPascals(double value, EUnitsType to) { return Convert(value, UNITS_KPA, to); }
+double TUnits::ConvertToKiloPascals(double value, EUnitsType from) { return Convert(value, from, UNITS_KPA); }
+
+double TUnits::ConvertFromMetersPerPulse(double value, EUnitsType to) { return Convert(value, UNITS_M_PER_PULSE, to); }
+double TUnits::ConvertToMetersPerPulse(double value, EUnitsType from)
 {
-    return In(LitersPerHectareRows, value, from);
+    return Convert(value, from, UNITS_M_PER_PULSE);
 }
 
-double TUnits::ConvertFromLitersPerMinute(double value, EUnitsType to) { return Out(LitersPerMinuteRows, value, to); }
-double TUnits::ConvertToLitersPerMinute(double value, EUnitsType from) { return In(LitersPerMinuteRows, value, from); }
+double TUnits::ConvertFromPulsesPerLiter(double value, EUnitsType to) { return Convert(value, UNITS_PULSES_PER_L, to); }
+double TUnits::ConvertToPulsesPerLiter(double value, EUnitsType from)
+{
+    return Convert(value, from, UNITS_PULSES_PER_L);
+}
 
-double TUnits::ConvertFromLitersPerRev(double value, EUnitsType to) { return Out(LitersPerRevRows, value, to); }
-double TUnits::ConvertToLitersPerRev(double value, EUnitsType from) { return In(LitersPerRevRows, value, from); }
-
-double TUnits::ConvertFromKiloPascals(double value, EUnitsType to) { return Out(KiloPascalsRows, value, to); }
-double TUnits::ConvertToKiloPascals(double value, EUnitsType from) { return In(KiloPascalsRows, value, from); }
-
-double TUnits::ConvertFromMetersPerPulse(double value, EUnitsType to) { return Out(MetersPerPulseRows, value, to); }
-double TUnits::ConvertToMetersPerPulse(double value, EUnitsType from) { return In(MetersPerPulseRows, value, from); }
-
-double TUnits::ConvertFromPulsesPerLiter(double value, EUnitsType to) { return Out(PulsesPerLiterRows, value, to); }
-double TUnits::ConvertToPulsesPerLiter(double value, EUnitsType from) { return In(PulsesPerLiterRows, value, from); }
-
-double TUnits::ConvertFromKilogram(double value, EUnitsType to) { return Out(KilogramRows, value, to); }
-double TUnits::ConvertToKilogram(double value, EUnitsType from) { return In(KilogramRows, value, from); }
+double TUnits::ConvertFromKilogram(double value, EUnitsType to) { return Convert(value, UNITS_KG, to); }
+double TUnits::ConvertToKilogram(double value, EUnitsType from) { return Convert(value, from, UNITS_KG); }
 
 double TUnits::ConvertFromKilogramsPerHectare(double value, EUnitsType to)
 {
-    return Out(KilogramsPerHectareRows, value, to);
+    return Convert(value, UNITS_KG_PER_HA, to);
 }
 double TUnits::ConvertToKilogramsPerHectare(double value, EUnitsType from)
 {
-    return In(KilogramsPerHectareRows, value, from);
+    return Convert(value, from, UNITS_KG_PER_HA);
 }
 
-double TUnits::ConvertFromKilogramsPerLiter(double value, EUnitsType to)
-{
-    return Out(KilogramsPerLiterRows, value, to);
-}
+double TUnits::ConvertFromKilogramsPerLiter(double value, EUnitsType to) { return Convert(value, UNITS_KG_PER_L, to); }
 double TUnits::ConvertToKilogramsPerLiter(double value, EUnitsType from)
 {
-    return In(KilogramsPerLiterRows, value, from);
+    return Convert(value, from, UNITS_KG_PER_L);
 }
 
 double TUnits::ConvertFromPulsesPerKilogramNitrogen(double value, EUnitsType to)
 {
-    return Out(PulsesPerKilogramNitrogenRows, value, to);
+    return Convert(value, UNITS_PULSES_PER_KG_N, to);
 }
 double TUnits::ConvertToPulsesPerKilogramNitrogen(double value, EUnitsType from)
 {
-    return In(PulsesPerKilogramNitrogenRows, value, from);
+    return Convert(value, from, UNITS_PULSES_PER_KG_N);
 }
 
-// Areas per hour have never been converted here, and recorded productivities rely on it.
 double TUnits::ConvertFromHectaresPerHour(double value, EUnitsType) { return value; }
 double TUnits::ConvertToHectaresPerHour(double value, EUnitsType) { return value; }
 
-namespace {
-
-using THubConversion = double (*)(double value, EUnitsType unit);
-
-struct tagHub
-{
-    EUnitsType hub;
-    THubConversion from;
-    THubConversion to;
-    const tagHubRow* rows;
-    std::size_t rowCount;
-};
-
-template <std::size_t Count>
-constexpr tagHub Hub(EUnitsType hub, THubConversion from, THubConversion to, const tagHubRow (&rows)[Count])
-{
-    return {hub, from, to, rows, Count};
-}
-
-// clang-format off
-constexpr tagHub Hubs[] = {
-    Hub(UNITS_METERS,             U::ConvertFromMeter,                     U::ConvertToMeter,                     MeterRows),
-    Hub(UNITS_HECTARES,           U::ConvertFromHectare,                   U::ConvertToHectare,                   HectareRows),
-    Hub(UNITS_METERS_PER_MIN,     U::ConvertFromMetersPerMin,              U::ConvertToMetersPerMin,              MetersPerMinRows),
-    Hub(UNITS_METERS_PER_SECOND,  U::ConvertFromMetersPerSecond,           U::ConvertToMetersPerSecond,           MetersPerSecondRows),
-    Hub(UNITS_HZ_PER_KPH,         U::ConvertFromPulsesPerKilometerPerHour, U::ConvertToPulsesPerKilometerPerHour, PulsesPerKilometerPerHourRows),
-    {UNITS_HECTARES_PER_HOUR,      U::ConvertFromHectaresPerHour,       U::ConvertToHectaresPerHour,       nullptr, 0},
-    Hub(UNITS_LITERS,             U::ConvertFromLiter,                     U::ConvertToLiter,                     LiterRows),
-    Hub(UNITS_L_PER_HA,           U::ConvertFromLitersPerHectare,          U::ConvertToLitersPerHectare,          LitersPerHectareRows),
-    Hub(UNITS_L_PER_MIN,          U::ConvertFromLitersPerMinute,           U::ConvertToLitersPerMinute,           LitersPerMinuteRows),
-    Hub(UNITS_L_PER_REV,          U::ConvertFromLitersPerRev,              U::ConvertToLitersPerRev,              LitersPerRevRows),
-    Hub(UNITS_KPA,                U::ConvertFromKiloPascals,               U::ConvertToKiloPascals,               KiloPascalsRows),
-    Hub(UNITS_M_PER_PULSE,        U::ConvertFromMetersPerPulse,            U::ConvertToMetersPerPulse,            MetersPerPulseRows),
-    Hub(UNITS_PULSES_PER_L,       U::ConvertFromPulsesPerLiter,            U::ConvertToPulsesPerLiter,            PulsesPerLiterRows),
-    Hub(UNITS_KG,                 U::ConvertFromKilogram,                  U::ConvertToKilogram,                  KilogramRows),
-    Hub(UNITS_KG_N,               U::ConvertFromKilogram,                  U::ConvertToKilogram,                  KilogramRows),
-    Hub(UNITS_KG_PER_MIN,         U::ConvertFromKilogram,                  U::ConvertToKilogram,                  KilogramRows),
-    Hub(UNITS_KG_N_PER_MIN,       U::ConvertFromKilogram,                  U::ConvertToKilogram,                  KilogramRows),
-    Hub(UNITS_KG_PER_REV,         U::ConvertFromKilogram,                  U::ConvertToKilogram,                  KilogramRows),
-    Hub(UNITS_KG_PER_HA,          U::ConvertFromKilogramsPerHectare,       U::ConvertToKilogramsPerHectare,       KilogramsPerHectareRows),
-    Hub(UNITS_KG_N_PER_HA,        U::ConvertFromKilogramsPerHectare,       U::ConvertToKilogramsPerHectare,       KilogramsPerHectareRows),
-    Hub(UNITS_KSEEDS_PER_HA,      U::ConvertFromKilogramsPerHectare,       U::ConvertToKilogramsPerHectare,       KilogramsPerHectareRows),
-    Hub(UNITS_KG_PER_L,           U::ConvertFromKilogramsPerLiter,         U::ConvertToKilogramsPerLiter,         KilogramsPerLiterRows),
-    Hub(UNITS_PULSES_PER_KG_N,    U::ConvertFromPulsesPerKilogramNitrogen, U::ConvertToPulsesPerKilogramNitrogen, PulsesPerKilogramNitrogenRows),
-};
-// clang-format on
-
-const tagHub* FindHub(EUnitsType unit)
-{
-    for (const tagHub& hub : Hubs) {
-        if (hub.hub == unit)
-            return &hub;
-    }
-    return nullptr;
-}
-
-/// Whether the hub converts @p unit under the measures in use.
-bool Converts(const tagHub& hub, EUnitsType unit)
-{
-    for (std::size_t i = 0; i < hub.rowCount; ++i) {
-        const tagHubRow& row = hub.rows[i];
-        if (row.unit == unit)
-            return Resolve(row, row.out, row.outEnglish) != nullptr;
-    }
-    return false;
-}
-
-} // namespace
-
-double TUnits::ConvertUnit(double value, EUnitsType from, EUnitsType to)
-{
-    if (from == to)
-        return value;
-    if (const tagHub* const hub = FindHub(from))
-        return hub->from(value, to);
-    if (const tagHub* const hub = FindHub(to))
-        return hub->to(value, from);
-    return value;
-}
+double TUnits::ConvertUnit(double value, EUnitsType from, EUnitsType to) { return Convert(value, from, to); }
 
 bool TUnits::CanConvert(EUnitsType from, EUnitsType to)
 {
     if (from == to)
         return true;
-    if (const tagHub* const hub = FindHub(from))
-        return Converts(*hub, to);
-    const tagHub* const hub = FindHub(to);
-    return hub && Converts(*hub, from);
+    const tagConversion& conversion = Conversion(from, to);
+    return conversion.route != Unchanged && !(conversion.isImperial && UnitSystem::IsMetric());
 }
