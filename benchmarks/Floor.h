@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+/// What the interfaces demand of a call and no more: a call into a shared library, reads of the store, a lock.
+namespace Floor {
+
+int OneRead();
+bool TwoReads();
+QString ReadUnderLock();
+QColor TwoReadsOfAColor();
+
+} // namespace Floor
