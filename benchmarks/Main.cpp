@@ -11,7 +11,6 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
-#include <QTextStream>
 
 #include <cstdio>
 #include <cstdlib>
@@ -64,30 +63,6 @@ void Measure(const QStringList& groups, int repetitions, TReport& report)
     }
 }
 
-/// Lines of a name and a number.
-bool PrintFigures(const QString& fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    std::printf("\n| Counted beside the bench | Figure | Target | |\n|---|---:|---:|---|\n");
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const tagFigure& figure : Figures) {
-        for (const QByteArray& line : lines) {
-            const QList<QByteArray> words = line.split(' ');
-            if (words.size() != 2 || words.at(0) != figure.name)
-                continue;
-            const double value = words.at(1).toDouble();
-            std::printf("| %s | %g | ", figure.meaning, value);
-            if (figure.most > 0)
-                std::printf("%g | %s |\n", figure.most, value <= figure.most ? "met" : "**missed**");
-            else
-                std::printf("| |\n");
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -133,9 +108,14 @@ int main(int argc, char** argv)
 
     TReport report;
     Measure(asked, count, report);
-    report.PrintGroups();
-    report.PrintTargets();
-    if (parser.isSet(figures) && !PrintFigures(parser.value(figures)))
-        return Fail(QString::fromLatin1("cannot read %1").arg(parser.value(figures)));
+    report.PrintGroups(stdout);
+    std::FILE* const targetsFile = parser.isSet(targets)
+                                       ? std::fopen(QFile::encodeName(parser.value(targets)).constData(), "w")
+                                       : stdout;
+    if (!targetsFile)
+        return Fail(QString::fromLatin1("cannot write %1").arg(parser.value(targets)));
+    report.PrintTargets(targetsFile);
+    if (targetsFile != stdout)
+        std::fclose(targetsFile);
     return report.IsComplete() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

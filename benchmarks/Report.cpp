@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -87,37 +86,37 @@ double TReport::Ratio(const tagRow& row, const tagRow& against) const
     return Find(row)->Median() / Find(against)->Median();
 }
 
-void TReport::PrintRow(const tagRow& row, const tagMeasured& measured) const
+void TReport::PrintRow(std::FILE* to, const tagRow& row, const tagMeasured& measured) const
 {
-    std::printf("| %s | %s | %.1f | %.1f | %.1f | %.1f | %g |", KindText(row.kind), row.name, measured.Median(),
+    std::fprintf(to, "| %s | %s | %.1f | %.1f | %.1f | %.1f | %g |", KindText(row.kind), row.name, measured.Median(),
                 measured.At(0), measured.At(0.99), measured.At(1), measured.allocations);
     for (const EKind kind : {ROW_LIMIT, ROW_FLOOR, ROW_PEER}) {
         const tagRow* const against = row.kind == ROW_OURS ? Best(row.group, kind) : nullptr;
-        std::printf(" %s |", against ? RatioText(Ratio(row, *against)).c_str() : "");
+        std::fprintf(to, " %s |", against ? RatioText(Ratio(row, *against)).c_str() : "");
     }
-    std::printf("\n");
+    std::fprintf(to, "\n");
 }
 
-void TReport::PrintGroups() const
+void TReport::PrintGroups(std::FILE* to) const
 {
     for (const tagGroup& group : Groups) {
         if (!Best(group.name, ROW_OURS))
             continue;
-        std::printf("### %s: %s\n\n", group.name, group.work);
-        std::printf(
+        std::fprintf(to, "### %s: %s\n\n", group.name, group.work);
+        std::fprintf(to, 
             "| Kind | Row | Median ns | Least ns | 99 %% ns | Greatest ns | Allocations | of limit | of floor | "
             "of best peer |\n|---|---|---:|---:|---:|---:|---:|---:|---:|---:|\n");
         for (const EKind kind : {ROW_LIMIT, ROW_FLOOR, ROW_OURS, ROW_PEER}) {
             for (const tagRow& row : TRows::All()) {
                 if (row.kind == kind && IsSame(row.group, group.name) && Find(row))
-                    PrintRow(row, *Find(row));
+                    PrintRow(to, row, *Find(row));
             }
         }
-        std::printf("\n");
+        std::fprintf(to, "\n");
     }
 }
 
-void TReport::PrintTargets() const
+void TReport::PrintTargets(std::FILE* to) const
 {
     for (const tagTarget& target : Targets) {
         const tagRow* const ours = Named(target.group, target.ours);
@@ -127,12 +126,12 @@ void TReport::PrintTargets() const
             *target.against ? Named(target.group, target.against) : Best(target.group, ROW_PEER);
         const char* const name = against ? against->name : target.against;
         if (!against) {
-            std::printf("| %s | %s | %s | not built | %s | |\n", target.group, target.ours, name,
+            std::fprintf(to, "| %s | %s | %s | not built | %s | |\n", target.group, target.ours, name,
                         RatioText(target.most).c_str());
             continue;
         }
         const double ratio = Ratio(*ours, *against);
-        std::printf("| %s | %s | %s | %s | %s | %s |\n", target.group, target.ours, name, RatioText(ratio).c_str(),
+        std::fprintf(to, "| %s | %s | %s | %s | %s | %s |\n", target.group, target.ours, name, RatioText(ratio).c_str(),
                     RatioText(target.most).c_str(), ratio <= target.most ? "met" : "**missed**");
     }
 }

@@ -2,6 +2,7 @@
 
 #include "Rows.h"
 
+#include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
@@ -17,10 +18,10 @@ public:
     static std::string NameOf(const tagRow& row);
 
     /// A table for each group that was measured.
-    void PrintGroups() const;
+    void PrintGroups(std::FILE* to) const;
 
     /// Each target with what was measured, for the groups that were measured.
-    void PrintTargets() const;
+    void PrintTargets(std::FILE* to) const;
 
     /// False when a row failed.
     bool IsComplete() const { return m_IsComplete; }
@@ -39,7 +40,7 @@ private:
     const tagRow* Best(const char* group, EKind kind) const;
     const tagRow* Named(const char* group, const char* name) const;
     double Ratio(const tagRow& row, const tagRow& against) const;
-    void PrintRow(const tagRow& row, const tagMeasured& measured) const;
+    void PrintRow(std::FILE* to, const tagRow& row, const tagMeasured& measured) const;
 
     std::map<std::string, tagMeasured> m_Measured;
     bool m_IsComplete = true;

@@ -68,26 +68,3 @@ constexpr tagTarget Targets[] = {
     {"serial.list", "TBinarySerializer", "QDataStream", 0.2},
     {"serial.record", "TBinarySerializer", "QDataStream", 0.6},
 };
-
-/// What is counted beside the bench and handed to it under these names.
-struct tagFigure
-{
-    const char* name;
-    const char* meaning;
-    double most; ///< 0 for what is only named
-};
-
-constexpr tagFigure Figures[] = {
-    {"syscalls.log.flush", "system calls for a flushed line", 1},
-    {"syscalls.log.stamp", "system calls for a line with date and time", 1},
-    {"syscalls.log.staged", "system calls for an NMEA line", 0.07},
-    {"syscalls.log.rotate", "system calls for a rotation, 4 files in the folder", 0},
-    {"syscalls.log.rotate-full", "system calls for a rotation, and 1,000 foreign files", 0},
-    {"syscalls.path.active", "system calls for the path of the active coverage file", 0},
-    {"syscalls.start.empty", "system calls for a start on an empty store", 0},
-    {"syscalls.start.full", "system calls for a start on a full store", 0},
-    {"load", "milliseconds to load the library where Qt is loaded, median", 2},
-    {"relocations", "relocations of the library", 0},
-    {"size", "bytes of libcabsettings.so, stripped", 400000},
-    {"pages", "pages of the library touched by a text with its conversion", 0},
-};

@@ -359,11 +359,11 @@ CABSETTINGS_FACTOR double TUnits::ConvertPoundsPerCubicFootToKilogramsPerCubicMe
 }
 CABSETTINGS_FACTOR double TUnits::ConvertKilogramsPerLiterToPoundsPerUSBushel(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::PoundsPerKilogram * UnitFactors::LitersPerUSBushel);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::PoundsPerKilogram * UnitFactors::LitersPerUSBushel);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertKilogramsPerLiterToPoundsPerUKBushel(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::PoundsPerKilogram * UnitFactors::LitersPerUKBushel);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::PoundsPerKilogram * UnitFactors::LitersPerUKBushel);
 }
 
 // Seeds
@@ -381,12 +381,12 @@ CABSETTINGS_FACTOR double TUnits::ConvertKiloseedsPerAcreToKiloseedsPerHectare(f
 
 CABSETTINGS_FACTOR double TUnits::ConvertCelsiusToFahrenheit(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) / UnitFactors::CelsiusPerFahrenheit +
+    return UnitFactors::Narrow(UnitFactors::Widen(x) / UnitFactors::CelsiusPerFahrenheit +
                                UnitFactors::FreezingPointFahrenheit);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertFahrenheitToCelsius(float x)
 {
-    return UnitFactors::Narrow((UnitFactors::Wide(x) - UnitFactors::FreezingPointFahrenheit) *
+    return UnitFactors::Narrow((UnitFactors::Widen(x) - UnitFactors::FreezingPointFahrenheit) *
                                UnitFactors::CelsiusPerFahrenheit);
 }
 
@@ -394,11 +394,11 @@ CABSETTINGS_FACTOR double TUnits::ConvertFahrenheitToCelsius(float x)
 
 CABSETTINGS_FACTOR double TUnits::ConvertLitersToPounds(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) / UnitFactors::Thousand * UnitFactors::PoundsPerTonne);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) / UnitFactors::Thousand * UnitFactors::PoundsPerTonne);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertPoundsToLiters(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) / UnitFactors::PoundsPerTonne * UnitFactors::Thousand);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) / UnitFactors::PoundsPerTonne * UnitFactors::Thousand);
 }
 
 // Rates per area, across quantities
@@ -445,11 +445,11 @@ CABSETTINGS_FACTOR double TUnits::ConvertMilliLitersPerAcreToLitersPerHectare(fl
 }
 CABSETTINGS_FACTOR double TUnits::ConvertCubicMetersPerAcreToLitersPerHectare(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::AcresPerHectare * UnitFactors::Thousand);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::AcresPerHectare * UnitFactors::Thousand);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertTonnesPerAcreToLitersPerHectare(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::AcresPerHectare * UnitFactors::Thousand);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::AcresPerHectare * UnitFactors::Thousand);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertLitersPerHectareToCubicMetersPerAcre(float x)
 {
@@ -461,16 +461,16 @@ CABSETTINGS_FACTOR double TUnits::ConvertLitersPerHectareToTonnesPerAcre(float x
 }
 CABSETTINGS_FACTOR double TUnits::ConvertLitersPerHectareToCubicFeetPerAcre(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::HectaresPerAcre * UnitFactors::CubicFeetPerLiter);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::HectaresPerAcre * UnitFactors::CubicFeetPerLiter);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertLitersPerHectareToPoundsPerAcre(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::HectaresPerAcre / UnitFactors::Thousand *
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::HectaresPerAcre / UnitFactors::Thousand *
                                UnitFactors::PoundsPerTonne);
 }
 CABSETTINGS_FACTOR double TUnits::ConvertLitersPerHectareToMilliLitersPerAcre(float x)
 {
-    return UnitFactors::Narrow(UnitFactors::Wide(x) * UnitFactors::HectaresPerAcre * UnitFactors::Thousand);
+    return UnitFactors::Narrow(UnitFactors::Widen(x) * UnitFactors::HectaresPerAcre * UnitFactors::Thousand);
 }
 
 // Rates per travelled distance

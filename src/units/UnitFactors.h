@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cfloat>
+
 /// What the factor functions of TUnits multiply by and divide by.
 ///
 /// Each constant is a 32-bit float, and each result is what extended precision gives from those floats: recorded data
@@ -10,6 +12,16 @@ using Wide = long double;
 
 constexpr double Narrow(Wide value) { return static_cast<double>(value); }
 
+/// The float that an argument is. Some processors calculate with more digits than it has, and an inline function would
+/// get them all.
+inline Wide Widen(float x)
+{
+    if constexpr (FLT_EVAL_METHOD == 0)
+        return x;
+    const volatile float stored = x;
+    return stored;
+}
+
 /// From one unit to another.
 struct tagFactor
 {
@@ -19,9 +31,10 @@ struct tagFactor
     /// A quotient has bits without end: it is rounded twice, to extended precision and then to a double, and once in
     /// 4,096 that gives another last bit than rounding it at once. A product of two floats has 48 bits, which a double
     /// holds as they are.
-    constexpr double operator()(float x) const
+    double operator()(float x) const
     {
-        return over == 1.0f ? static_cast<double>(x) * static_cast<double>(times) : Narrow(Wide(x) * times / over);
+        const Wide wide = Widen(x);
+        return over == 1.0f ? Narrow(wide) * static_cast<double>(times) : Narrow(wide * times / over);
     }
 };
 

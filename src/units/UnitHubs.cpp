@@ -29,7 +29,7 @@ struct tagConversion
         if (route)
             return route(value);
         // Products in extended precision too: which of the two it is comes as a surprise to the processor, and dearer.
-        return Narrow(Wide(static_cast<float>(value)) * factor.times / factor.over);
+        return Narrow(Widen(static_cast<float>(value)) * factor.times / factor.over);
     }
 
     tagFactor factor = Times(1.0f);
