@@ -77,10 +77,10 @@ int main(int argc, char** argv)
                                    QLatin1String("the groups of a display with decimal commas"));
     const QCommandLineOption repetitions(QLatin1String("repetitions"), QLatin1String("of each row (101)"),
                                          QLatin1String("number"), QLatin1String("101"));
-    const QCommandLineOption targets(QLatin1String("targets"), QLatin1String("print the targets alone"));
-    const QCommandLineOption figures(QLatin1String("figures"),
-                                     QLatin1String("what was counted elsewhere, to print too"), QLatin1String("file"));
-    parser.addOptions({comma, repetitions, targets, figures});
+    const QCommandLineOption targets(QLatin1String("targets"),
+                                     QLatin1String("print the targets into this file, instead of behind the groups"),
+                                     QLatin1String("file"));
+    parser.addOptions({comma, repetitions, targets});
     parser.addPositionalArgument(QLatin1String("group"), QLatin1String("all when none is named"),
                                  QLatin1String("[group...]"));
     parser.process(application);
@@ -109,9 +109,8 @@ int main(int argc, char** argv)
     TReport report;
     Measure(asked, count, report);
     report.PrintGroups(stdout);
-    std::FILE* const targetsFile = parser.isSet(targets)
-                                       ? std::fopen(QFile::encodeName(parser.value(targets)).constData(), "w")
-                                       : stdout;
+    std::FILE* const targetsFile =
+        parser.isSet(targets) ? std::fopen(QFile::encodeName(parser.value(targets)).constData(), "w") : stdout;
     if (!targetsFile)
         return Fail(QString::fromLatin1("cannot write %1").arg(parser.value(targets)));
     report.PrintTargets(targetsFile);

@@ -89,7 +89,7 @@ double TReport::Ratio(const tagRow& row, const tagRow& against) const
 void TReport::PrintRow(std::FILE* to, const tagRow& row, const tagMeasured& measured) const
 {
     std::fprintf(to, "| %s | %s | %.1f | %.1f | %.1f | %.1f | %g |", KindText(row.kind), row.name, measured.Median(),
-                measured.At(0), measured.At(0.99), measured.At(1), measured.allocations);
+                 measured.At(0), measured.At(0.99), measured.At(1), measured.allocations);
     for (const EKind kind : {ROW_LIMIT, ROW_FLOOR, ROW_PEER}) {
         const tagRow* const against = row.kind == ROW_OURS ? Best(row.group, kind) : nullptr;
         std::fprintf(to, " %s |", against ? RatioText(Ratio(row, *against)).c_str() : "");
@@ -103,9 +103,9 @@ void TReport::PrintGroups(std::FILE* to) const
         if (!Best(group.name, ROW_OURS))
             continue;
         std::fprintf(to, "### %s: %s\n\n", group.name, group.work);
-        std::fprintf(to, 
-            "| Kind | Row | Median ns | Least ns | 99 %% ns | Greatest ns | Allocations | of limit | of floor | "
-            "of best peer |\n|---|---|---:|---:|---:|---:|---:|---:|---:|---:|\n");
+        std::fprintf(
+            to, "| Kind | Row | Median ns | Least ns | 99 %% ns | Greatest ns | Allocations | of limit | of floor | "
+                "of best peer |\n|---|---|---:|---:|---:|---:|---:|---:|---:|---:|\n");
         for (const EKind kind : {ROW_LIMIT, ROW_FLOOR, ROW_OURS, ROW_PEER}) {
             for (const tagRow& row : TRows::All()) {
                 if (row.kind == kind && IsSame(row.group, group.name) && Find(row))
@@ -127,11 +127,11 @@ void TReport::PrintTargets(std::FILE* to) const
         const char* const name = against ? against->name : target.against;
         if (!against) {
             std::fprintf(to, "| %s | %s | %s | not built | %s | |\n", target.group, target.ours, name,
-                        RatioText(target.most).c_str());
+                         RatioText(target.most).c_str());
             continue;
         }
         const double ratio = Ratio(*ours, *against);
         std::fprintf(to, "| %s | %s | %s | %s | %s | %s |\n", target.group, target.ours, name, RatioText(ratio).c_str(),
-                    RatioText(target.most).c_str(), ratio <= target.most ? "met" : "**missed**");
+                     RatioText(target.most).c_str(), ratio <= target.most ? "met" : "**missed**");
     }
 }

@@ -13,7 +13,6 @@
 
 #include <dirent.h>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -185,7 +184,7 @@ char* PutLatin1(char* to, const QString& text)
 } // namespace
 
 TDiagnosticLog::TDiagnosticLog(int stagingSize, long long maxFileSize, int maxFileCount, EParamID iterationParam)
-    : m_Staging(static_cast<std::size_t>(std::max(stagingSize, 0)))
+    : m_Staging(2 * static_cast<std::size_t>(std::max(stagingSize, 0)))
     , m_StagingFill(0)
     , m_IsOpen(false)
     , m_StagingSize(stagingSize)
@@ -255,9 +254,9 @@ bool TDiagnosticLog::LogDiagnostic(const char* data, int length)
         m_StagingFill += length;
         return true;
     }
-    if (m_StagingFill > 0 && m_FileLength + m_StagingFill <= m_MaxFileSize)
+    if (m_StagingFill > 0 && length <= m_StagingSize && m_FileLength + m_StagingFill <= m_MaxFileSize)
         return WriteBehindStaged(data, length);
-    FlushTempBuffer(); // what is staged ends its file, and these bytes go to the next
+    FlushTempBuffer(); // where what is staged ends its file, these bytes go to the next
     return WriteToLog(data, length);
 }
 
@@ -265,15 +264,11 @@ bool TDiagnosticLog::WriteBehindStaged(const char* data, int length)
 {
     const int staged = m_StagingFill;
     m_StagingFill = 0;
-    const iovec both[] = {{m_Staging.data(), static_cast<std::size_t>(staged)},
-                          {const_cast<char*>(data), static_cast<std::size_t>(length)}};
-    const int written = static_cast<int>(std::max<ssize_t>(writev(m_File.handle(), both, 2), 0));
-    m_FileLength += written;
-    if (written < staged) { // what still does not get there is given up
-        m_FileLength += WriteAll(m_File.handle(), m_Staging.data() + written, staged - written);
-        return WriteToLog(data, length);
-    }
-    return WriteToLog(data + (written - staged), length - (written - staged));
+    std::copy_n(data, length, m_Staging.begin() + staged);
+    const int written = Append(m_Staging.data(), staged + length);
+    if (written < staged)
+        return WriteToLog(data, length); // what is staged is given up, these bytes are not
+    return written == staged + length && GoOn();
 }
 
 bool TDiagnosticLog::FlushTempBuffer()
@@ -287,10 +282,18 @@ bool TDiagnosticLog::WriteToLog(const char* data, int length)
 {
     if (!m_IsOpen)
         return false;
+    return Append(data, length) == length && GoOn();
+}
+
+int TDiagnosticLog::Append(const char* data, int length)
+{
     const int written = WriteAll(m_File.handle(), data, length);
     m_FileLength += written;
-    if (written < length)
-        return false;
+    return written;
+}
+
+bool TDiagnosticLog::GoOn()
+{
     if (m_FileLength <= m_MaxFileSize)
         return true;
     CloseWithoutFlush();

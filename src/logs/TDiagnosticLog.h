@@ -105,7 +105,13 @@ private:
     /// Result as of WriteToLog(), for @p data alone: what is staged is dropped where it cannot be written.
     bool WriteBehindStaged(const char* data, int length);
 
-    std::vector<char> m_Staging;
+    /// Writes at the end of the open file, and tells how many bytes got there.
+    int Append(const char* data, int length);
+
+    /// Starts the next file of the series when this one has grown past its limit; false when it cannot be opened.
+    bool GoOn();
+
+    std::vector<char> m_Staging; ///< twice the size, so that a line which no longer fits can be written with the rest
     int m_StagingFill;
     QFile m_File;
     bool m_IsOpen;
