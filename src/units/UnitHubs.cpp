@@ -288,13 +288,18 @@ public:
     /// Leaves the value as it is where there is no way, and for numbers that are no unit.
     constexpr const tagConversion& operator()(EUnitsType from, EUnitsType to) const
     {
-        const bool areUnits = FindUnit(from) && FindUnit(to);
-        return m_Conversions[areUnits ? m_Ways[from][to] : 0];
+        const auto row = static_cast<unsigned>(from);
+        const auto column = static_cast<unsigned>(to);
+        return m_Conversions[(row | column) < Side ? m_Ways[row][column] : 0];
     }
 
 private:
     tagConversion m_Conversions[CountConversions()] = {};
-    unsigned char m_Ways[UnitCount][UnitCount] = {}; ///< from, to; an index into the conversions
+    /// A power of two, so that one look tells whether both numbers are below it.
+    static constexpr unsigned Side = 128;
+    static_assert(UnitCount <= Side, "each unit has its row");
+
+    unsigned char m_Ways[Side][Side] = {}; ///< from, to; an index into the conversions
 };
 
 constexpr TMap Conversion;

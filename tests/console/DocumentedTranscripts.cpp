@@ -72,8 +72,9 @@ void DocumentedTranscripts::transcriptsAreTrue()
         }
     }
     QVERIFY(!isInside);
-    // The table of parameters is tested where the commands for it are.
-    QVERIFY2(commands > 0 || document == QLatin1String("parameters.md"), "there is a document without a transcript");
+    // The table of parameters is tested where the commands for it are; how fast the library is, the bench has measured.
+    const QStringList withoutTranscript = {QLatin1String("parameters.md"), QLatin1String("performance.md")};
+    QVERIFY2(commands > 0 || withoutTranscript.contains(document), "there is a document without a transcript");
 }
 
 QTEST_GUILESS_MAIN(DocumentedTranscripts)
