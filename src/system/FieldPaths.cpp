@@ -17,10 +17,10 @@ const char* const ElevationSuffix = "_Elevation";
 struct tagPlace
 {
     explicit tagPlace(const char* folderName, const QString& anEnding)
-        : folder(QLatin1String(folderName) + QLatin1Char(Separator)), ending(anEnding)
+        : folder(QLatin1Char(Separator) + QLatin1String(folderName) + QLatin1Char(Separator)), ending(anEnding)
     {}
 
-    const QString folder;
+    const QString folder; ///< behind the field's folder and in front of the name: "/Jobs/"
     const QString ending;
 };
 
@@ -38,16 +38,16 @@ QString FieldPath(const QString& drive, const QString& clients, const QString& c
                   const QString& field, const Text& behind)
 {
     const QLatin1Char separator(Separator);
-    return drive % clients % client % separator % farm % separator % field % separator % behind;
+    return drive % clients % client % separator % farm % separator % field % behind;
 }
 
 /// Empty when a name is.
-QString ItemPath(const QString& drive, const QString& clients, const QString& client, const QString& farm,
+QString ItemPath(const TSystemSettings& system, const QString& clients, const QString& client, const QString& farm,
                  const QString& field, const QString& item, const tagPlace& place)
 {
     if (!IsField(client, farm, field) || item.isEmpty())
         return QString();
-    return FieldPath(drive, clients, client, farm, field,
+    return FieldPath(system.GetInternalDrivePath(), clients, client, farm, field,
                      place.folder % item % QLatin1Char(Separator) % item % place.ending);
 }
 
@@ -70,8 +70,9 @@ QString TSystemSettings::GetCFFPath() const { return ActiveCFFPath(); }
 
 QString TSystemSettings::CFFPath(const QString& client, const QString& farm, const QString& field)
 {
-    return IsField(client, farm, field) ? FieldPath(QString(), m_ClientsPath, client, farm, field, QLatin1String(""))
-                                        : QString();
+    return IsField(client, farm, field)
+               ? FieldPath(QString(), m_ClientsPath, client, farm, field, QLatin1Char(Separator))
+               : QString();
 }
 
 QString TSystemSettings::ActiveCFFPath()
@@ -107,27 +108,27 @@ QString TSystemSettings::GetCoverageFilePath(const QString& client, const QStrin
                                              const QString& job) const
 {
     static const tagPlace place(JobsFolder, Ending("", CoverageExtension));
-    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, job, place);
+    return ItemPath(*this, m_ClientsPath, client, farm, field, job, place);
 }
 
 QString TSystemSettings::GetPerPointDataJobPath(const QString& client, const QString& farm, const QString& field,
                                                 const QString& job) const
 {
     static const tagPlace place(JobsFolder, Ending(PerPointDataSuffix, PbzExtension));
-    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, job, place);
+    return ItemPath(*this, m_ClientsPath, client, farm, field, job, place);
 }
 
 QString TSystemSettings::GetBoundaryFilePath(const QString& client, const QString& farm, const QString& field) const
 {
     static const tagPlace place(BoundariesFolder, Ending("", BoundaryExtension));
-    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, field, place);
+    return ItemPath(*this, m_ClientsPath, client, farm, field, field, place);
 }
 
 QString TSystemSettings::GetExclusionZoneShapefilePath(const QString& client, const QString& farm,
                                                        const QString& field) const
 {
     static const tagPlace place(ZonesFolder, Ending("", ShpExtension));
-    return ItemPath(GetInternalDrivePath(), m_ClientsPath, client, farm, field, field, place);
+    return ItemPath(*this, m_ClientsPath, client, farm, field, field, place);
 }
 
 QString TSystemSettings::GetActiveFieldPath() const
