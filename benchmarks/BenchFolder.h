@@ -11,7 +11,4 @@ QString Path();
 /// The folder @p name in it, made and emptied.
 QString Fresh(const char* name);
 
-/// What kind of file system it lies on, "ext4" for instance; empty when it has a number that nobody here knows.
-const char* FileSystem();
-
 } // namespace BenchFolder
