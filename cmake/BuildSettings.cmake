@@ -16,8 +16,8 @@ add_library(CabSettings::BuildSettings ALIAS BuildSettings)
 target_compile_options(BuildSettings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual -Wcast-qual -Wformat=2 -Wundef -Werror)
-# Drives and files beyond 2 GiB on 32-bit displays; no silent narrowing of C strings to QString.
-target_compile_definitions(BuildSettings INTERFACE _FILE_OFFSET_BITS=64 QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+# Drives and files beyond 2 GiB, and times beyond 2038, on 32-bit displays; no silent narrowing of C strings to QString.
+target_compile_definitions(BuildSettings INTERFACE _FILE_OFFSET_BITS=64 _TIME_BITS=64 QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 
 if(CABSETTINGS_SANITIZE)
     target_compile_options(BuildSettings INTERFACE

@@ -96,10 +96,11 @@ std::vector<tagLogFile> FilesOldestFirst(const tagSeries& series, const QString&
 {
     // Read without Qt, which makes objects of every name: a folder may hold a thousand files of others. Compared name
     // by name rather than by a wildcard, in which a "[" of the stem would be more than a letter.
-    const std::string stem = QFile::encodeName(series.stem).constData();
-    const std::string extension = QFile::encodeName(series.extension).constData();
+    const std::string stem = QFile::encodeName(series.stem).toStdString();
+    const std::string extension = QFile::encodeName(series.extension).toStdString();
     const QByteArray path = series.folder.isEmpty() ? QByteArray(".") : QFile::encodeName(series.folder);
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(path.constData()), &closedir);
+    const bool hasName = !path.contains('\0'); // at which the system would take it for a shorter one
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(hasName ? opendir(path.constData()) : nullptr, &closedir);
 
     const QString currentName = current.startsWith(series.folder) ? current.mid(series.folder.size()) : QString();
     std::vector<tagLogFile> files;
@@ -288,7 +289,8 @@ bool TDiagnosticLog::WriteToLog(const char* data, int length)
 int TDiagnosticLog::Append(const char* data, int length)
 {
     const int written = WriteAll(m_File.handle(), data, length);
-    m_FileLength += written;
+    if (!m_File.isSequential()) // a device, which never fills
+        m_FileLength += written;
     return written;
 }
 

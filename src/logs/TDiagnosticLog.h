@@ -67,8 +67,8 @@ public:
     bool FlushTempBuffer();
 
     /// Writes past the staging buffer, and starts the next file of the series when this one has grown past its limit.
-    /// False when the log is closed, not everything was written (the file stays open), or the next file cannot be
-    /// opened.
+    /// False when the log is closed, not everything was written (the file stays open), the length is negative, or the
+    /// next file cannot be opened. What is no file but a device has no limit.
     bool WriteToLog(const char* data, int length);
 
     /// Logs one line: local date and time ("2024.05.01-13:07:09:042,"), @p text in Latin-1 (other characters become

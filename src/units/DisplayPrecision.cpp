@@ -12,7 +12,7 @@ namespace {
 
 const int NotGiven = -1;
 
-/// Whether @p value, up to 100, is shown without a first decimal. The float is widened by the decimal text that names
+/// Whether @p value, 1 to 100, is shown without a first decimal. The float is widened by the decimal text that names
 /// it: 99.95 is looked at as the 99.95 that will be printed, not as the 99.94999… that its bits are. Only a text of two
 /// decimals can do that: between a float and a longer name of it lies none of the numbers at which rounding turns.
 bool RoundsToWhole(float value)

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <cfloat>
 #include <cmath>
 #include <limits>
 
@@ -12,6 +13,8 @@ namespace NumberText {
 /// 22 of the 22.999… that is 23 on all others.
 inline double Stored(double value)
 {
+    if constexpr (FLT_EVAL_METHOD == 0)
+        return value;
     const volatile double stored = value;
     return stored;
 }

@@ -2,7 +2,7 @@
 
 #include <cfloat>
 
-/// What the factor functions of TUnits multiply by and divide by.
+/// What the factor functions of TUnits multiply by and divide by; those are the ones to call.
 ///
 /// Each constant is a 32-bit float, and each result is what extended precision gives from those floats: recorded data
 /// was computed so, and exact factors would shift it.
@@ -17,9 +17,9 @@ constexpr double Narrow(Wide value) { return static_cast<double>(value); }
 inline Wide Widen(float x)
 {
     if constexpr (FLT_EVAL_METHOD == 0)
-        return x;
+        return Wide(x);
     const volatile float stored = x;
-    return stored;
+    return Wide(stored);
 }
 
 /// From one unit to another.
@@ -34,7 +34,7 @@ struct tagFactor
     double operator()(float x) const
     {
         const Wide wide = Widen(x);
-        return over == 1.0f ? Narrow(wide) * static_cast<double>(times) : Narrow(wide * times / over);
+        return over == 1.0f ? Narrow(wide) * static_cast<double>(times) : Narrow(wide * Wide(times) / Wide(over));
     }
 };
 
@@ -227,10 +227,6 @@ inline constexpr tagFactor PoundsPerCubicFootToKilogramsPerCubicMeter =
 
 inline constexpr tagFactor KiloseedsPerHectareToKiloseedsPerAcre = Over(AcresPerHectare);
 inline constexpr tagFactor KiloseedsPerAcreToKiloseedsPerHectare = Times(AcresPerHectare);
-
-// Temperatures
-
-// Liquids by mass: one litre counts as one kilogram
 
 // Rates per area, across quantities
 

@@ -366,7 +366,10 @@ void ConsoleLogs::aFollowerEndsWhenItsOutputIsGone()
 void ConsoleLogs::aTerminalThatRunsIsFollowed()
 {
     const TConsole console;
-    TFollower follower(console, "log tail -n 0 --follow nmea");
+    Write(console, "NMEA00001.csv", "begin\r\n");
+    TFollower follower(console, "log tail -n 1 --follow nmea");
+    const QString begin = Utf8("begin\n");
+    QTRY_COMPARE_WITH_TIMEOUT(follower.Output(), begin, DeadlineMs); // what comes from here on, it sees
     QProcess terminal;
     terminal.start(QLatin1String(CABSETTINGS_PROGRAM),
                    QStringList{Utf8("--data"), console.DataFolder()} + Words("run --nmea -"));
@@ -383,8 +386,10 @@ void ConsoleLogs::aTerminalThatRunsIsFollowed()
     terminal.closeWriteChannel();
     QVERIFY(terminal.waitForFinished());
     QCOMPARE(terminal.exitCode(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(static_cast<int>(follower.Output().count(QLatin1Char('\n'))), 500 * portions, DeadlineMs);
-    QCOMPARE(follower.Output(), QString::fromLatin1(NmeaLine).remove(QLatin1Char('\r')).repeated(500 * portions));
+    QTRY_COMPARE_WITH_TIMEOUT(static_cast<int>(follower.Output().count(QLatin1Char('\n'))), 1 + 500 * portions,
+                              DeadlineMs);
+    QCOMPARE(follower.Output(),
+             begin + QString::fromLatin1(NmeaLine).remove(QLatin1Char('\r')).repeated(500 * portions));
     QCOMPARE(follower.Interrupt(), 0);
     QCOMPARE(static_cast<int>(Array(Run(console, "log list nmea --json")).size()), 3);
 }
