@@ -289,14 +289,13 @@ bool TDiagnosticLog::WriteToLog(const char* data, int length)
 int TDiagnosticLog::Append(const char* data, int length)
 {
     const int written = WriteAll(m_File.handle(), data, length);
-    if (!m_File.isSequential()) // a device, which never fills
-        m_FileLength += written;
+    m_FileLength += written;
     return written;
 }
 
 bool TDiagnosticLog::GoOn()
 {
-    if (m_FileLength <= m_MaxFileSize)
+    if (m_FileLength <= m_MaxFileSize || m_File.isSequential()) // a device never fills
         return true;
     CloseWithoutFlush();
     return Restore(m_BasePath, 0, 0, NEWEST_IS_CURRENT);

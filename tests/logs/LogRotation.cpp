@@ -59,6 +59,8 @@ private slots:
     void aMissingFolderKeepsTheLogClosed();
     void aFolderThatIsRemovedClosesTheLogAtTheNextRotation();
     void aFileThatCannotBeOpenedKeepsTheLogClosed();
+    void aDeviceNeverFills();
+    void aZeroInThePathLeavesOthersAlone();
 };
 
 void LogRotation::aFilePastItsLimitIsFollowedByTheNext_data()
@@ -673,6 +675,29 @@ void LogRotation::aFileThatCannotBeOpenedKeepsTheLogClosed()
     QVERIFY(log.Open());
     QVERIFY(Log(log, "kept"));
     QCOMPARE(room.Content(1), QByteArray("kept"));
+}
+
+void LogRotation::aDeviceNeverFills()
+{
+    const TLogRoom room;
+    QVERIFY(QFile::link(QLatin1String("/dev/null"), room.Path(QLatin1String("silent.log"))));
+    TDiagnosticLog log(0, 10, 1, room.parameter);
+    QVERIFY(log.Restore(room.Path(QLatin1String("silent.log")), 0, 0));
+    for (int line = 0; line < 3; ++line)
+        QVERIFY(log.LogDiagnostic("abcdefghijklmnop", 16));
+    log.Close();
+    QVERIFY(room.Files().isEmpty() || room.FileList() == QLatin1String("silent.log"));
+}
+
+void LogRotation::aZeroInThePathLeavesOthersAlone()
+{
+    const TLogRoom room;
+    room.MakeFile(QLatin1String("almanac.log"), 3, 0);
+    TDiagnosticLog log(0, 10, 1000, room.parameter);
+    log.Restore(room.Path(QLatin1String("a")) + QChar(0) + QLatin1String("b.log"), 0, 0);
+    log.LogDiagnostic("abc", 3);
+    log.Close();
+    QCOMPARE(room.Content(QLatin1String("almanac.log")), QByteArray("xxx"));
 }
 
 int main(int argc, char** argv) { return RunCoreTest<LogRotation>(argc, argv); }
