@@ -10,7 +10,7 @@
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 #include "region/TRegionSettingsProxy.h"
-#include "settings/TBinarySerializer.h"
+#include "serialization/TBinarySerializer.h"
 #include "settings/TSettings.h"
 #include "system/TSystemSettingsProxy.h"
 #include "units/TUnits.h"

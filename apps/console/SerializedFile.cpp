@@ -1,6 +1,6 @@
 #include "SerializedFile.h"
 
-#include "settings/TBinarySerializer.h"
+#include "serialization/TBinarySerializer.h"
 
 #include <QBuffer>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #include "colors/TColorSettings.h"
 
-#include "settings/Parameters.h"
+#include "access/Parameters.h"
 
 // clang-format off
 const EParamID TColorSettings::TextColorKey[2]               = {PARAM_TEXT_COLOR_DAY,                 PARAM_TEXT_COLOR_NIGHT};

@@ -1,10 +1,11 @@
 #include "colors/TColorSettingsProxy.h"
 
-#include "settings/TSettings.h"
+#include "access/SettingsMembers.h"
+#include "colors/TColorSettings.h"
 
 using Proxy = TColorSettingsProxy;
 
-Proxy::TColorSettingsProxy() : m_Target(&Settings->m_ColorSettings) {}
+Proxy::TColorSettingsProxy() : m_Target(&SettingsMembers::Colors()) {}
 Proxy::~TColorSettingsProxy() = default;
 
 void Proxy::Restore() { m_Target->Restore(); }

@@ -1,8 +1,8 @@
 #include "logs/TDiagnosticLog.h"
 
+#include "access/Parameters.h"
 #include "platform/TFileSystemHelper.h"
 #include "platform/TLocalTime.h"
-#include "settings/Parameters.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "access/TLockedTarget.h"
 #include "logs/TDiagnosticLog.h"
 #include "platform/Export.h"
-#include "settings/TLockedTarget.h"
 
 #include <QString>
 

@@ -1,12 +1,12 @@
 #include "logs/TNEMADiagnosticLogProxy.h"
 
-#include "settings/TSettings.h"
+#include "access/SettingsMembers.h"
 
 using Proxy = TNEMADiagnosticLogProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TNEMADiagnosticLogProxy() : TDiagnosticLogProxy(Settings->m_NEMALog) {}
+Proxy::TNEMADiagnosticLogProxy() : TDiagnosticLogProxy(SettingsMembers::NMEALog()) {}
 Proxy::~TNEMADiagnosticLogProxy() = default;
 
 void Proxy::Lock() { Mutex.lock(); }

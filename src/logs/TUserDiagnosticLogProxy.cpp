@@ -1,7 +1,7 @@
 #include "logs/TUserDiagnosticLogProxy.h"
 
+#include "access/SettingsMembers.h"
 #include "platform/TConfigManager.h"
-#include "settings/TSettings.h"
 
 #include <QStringBuilder>
 #include <QStringList>
@@ -10,7 +10,7 @@ using Proxy = TUserDiagnosticLogProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TUserDiagnosticLogProxy() : TDiagnosticLogProxy(Settings->m_UserLog) {}
+Proxy::TUserDiagnosticLogProxy() : TDiagnosticLogProxy(SettingsMembers::UserLog()) {}
 Proxy::~TUserDiagnosticLogProxy() = default;
 
 void Proxy::Lock() { Mutex.lock(); }

@@ -1,6 +1,6 @@
+#include "access/Parameters.h"
 #include "platform/TLocalTime.h"
 #include "region/TRegionSettings.h"
-#include "settings/Parameters.h"
 
 namespace {
 

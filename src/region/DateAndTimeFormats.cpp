@@ -1,7 +1,7 @@
 #include "region/TRegionSettings.h"
 
+#include "access/Parameters.h"
 #include "platform/QtCompat.h"
-#include "settings/Parameters.h"
 
 namespace {
 

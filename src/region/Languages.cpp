@@ -1,5 +1,5 @@
+#include "access/Parameters.h"
 #include "region/TRegionSettings.h"
-#include "settings/Parameters.h"
 
 QString TRegionSettings::Languages[LanguageCount];
 QString TRegionSettings::LanguageExtensions[LanguageCount];

@@ -1,12 +1,13 @@
 #include "region/TRegionSettingsProxy.h"
 
-#include "settings/TSettings.h"
+#include "access/SettingsMembers.h"
+#include "region/TRegionSettings.h"
 
 using Proxy = TRegionSettingsProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TRegionSettingsProxy() : m_Target(Settings->m_RegionSettings) {}
+Proxy::TRegionSettingsProxy() : m_Target(SettingsMembers::Region()) {}
 Proxy::~TRegionSettingsProxy() = default;
 
 void Proxy::Lock() const { Mutex.lock(); }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "access/TLockedTarget.h"
 #include "platform/Export.h"
-#include "settings/TLockedTarget.h"
 
 #include <QDate>
 #include <QDateTime>

@@ -1,5 +1,6 @@
 #include "settings/TSettings.h"
 
+#include "access/SettingsMembers.h"
 #include "colors/TColorSettingsProxy.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
@@ -32,3 +33,9 @@ void TSettings::Restore()
     userLog.Restore(system.GetInternalUserLogPath(), 0, 0);
     nmeaLog.Restore(system.GetInternalNemaLogPath(), 0, 0);
 }
+
+TColorSettings& SettingsMembers::Colors() { return Settings->m_ColorSettings; }
+TRegionSettings& SettingsMembers::Region() { return Settings->m_RegionSettings; }
+TSystemSettings& SettingsMembers::System() { return Settings->m_SystemSettings; }
+TDiagnosticLog& SettingsMembers::UserLog() { return Settings->m_UserLog; }
+TDiagnosticLog& SettingsMembers::NMEALog() { return Settings->m_NEMALog; }

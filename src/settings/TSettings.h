@@ -32,11 +32,7 @@ public:
     void Restore();
 
 private:
-    friend class TColorSettingsProxy;
-    friend class TRegionSettingsProxy;
-    friend class TSystemSettingsProxy;
-    friend class TUserDiagnosticLogProxy;
-    friend class TNEMADiagnosticLogProxy;
+    friend class SettingsMembers;
 
     TColorSettings m_ColorSettings;
     TRegionSettings m_RegionSettings;

@@ -1,5 +1,5 @@
+#include "access/Parameters.h"
 #include "region/TRegionSettings.h"
-#include "settings/Parameters.h"
 #include "system/TSystemSettings.h"
 
 #include <QDir>

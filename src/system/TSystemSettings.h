@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Export.h"
-#include "settings/TImplementPathSetting.h"
-#include "settings/TPathSetting.h"
+#include "system/TImplementPathSetting.h"
+#include "system/TPathSetting.h"
 
 #include <QFileInfo>
 #include <QObject>

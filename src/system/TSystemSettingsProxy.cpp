@@ -1,6 +1,7 @@
 #include "system/TSystemSettingsProxy.h"
 
-#include "settings/TSettings.h"
+#include "access/SettingsMembers.h"
+#include "system/TSystemSettings.h"
 
 #include <utility>
 
@@ -8,7 +9,7 @@ using Proxy = TSystemSettingsProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TSystemSettingsProxy() : m_Target(Settings->m_SystemSettings) {}
+Proxy::TSystemSettingsProxy() : m_Target(SettingsMembers::System()) {}
 Proxy::~TSystemSettingsProxy() = default;
 
 void Proxy::Lock() const { Mutex.lock(); }

@@ -1,6 +1,6 @@
 #include "units/DecimalPoint.h"
 
-#include "settings/Parameters.h"
+#include "access/Parameters.h"
 #include "units/TUnits.h"
 
 #include <algorithm>

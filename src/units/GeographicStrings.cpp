@@ -1,7 +1,7 @@
 // Positions, durations and dates as texts.
 
+#include "access/Parameters.h"
 #include "platform/QtCompat.h"
-#include "settings/Parameters.h"
 #include "units/NumberText.h"
 #include "units/QuantityText.h"
 #include "units/TFixedNumber.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/Parameters.h"
+#include "access/Parameters.h"
 
 /// The measures that the parameters choose, read afresh at every call.
 namespace UnitSystem {

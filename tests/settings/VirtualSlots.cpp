@@ -5,9 +5,9 @@
 #include "logs/TUserDiagnosticLogProxy.h"
 #include "logs/TUserLogAccessor.h"
 #include "region/TRegionSettingsProxy.h"
-#include "settings/TImplementPathSetting.h"
-#include "settings/TSerializer.h"
+#include "serialization/TSerializer.h"
 #include "settings/TSettings.h"
+#include "system/TImplementPathSetting.h"
 #include "system/TSystemSettingsProxy.h"
 
 #include <QtTest>

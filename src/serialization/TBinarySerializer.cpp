@@ -1,4 +1,4 @@
-#include "settings/TBinarySerializer.h"
+#include "serialization/TBinarySerializer.h"
 
 #include <QtEndian>
 

@@ -4,8 +4,8 @@
 #include "TTemporaryFolder.h"
 
 #include "region/TRegionSettingsProxy.h"
-#include "settings/TPathSetting.h"
 #include "settings/TSettings.h"
+#include "system/TPathSetting.h"
 #include "system/TSystemSettings.h"
 
 #include <QScopedPointer>

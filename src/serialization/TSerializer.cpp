@@ -1,4 +1,4 @@
-#include "settings/TSerializer.h"
+#include "serialization/TSerializer.h"
 
 namespace {
 

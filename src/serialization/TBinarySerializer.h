@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/TSerializer.h"
+#include "serialization/TSerializer.h"
 
 #include <QDataStream>
 

@@ -1,4 +1,4 @@
-#include "settings/Parameters.h"
+#include "access/Parameters.h"
 
 namespace Parameters {
 

@@ -1,7 +1,7 @@
-#include "settings/TPathSetting.h"
+#include "system/TPathSetting.h"
 
+#include "access/Parameters.h"
 #include "region/TRegionSettingsProxy.h"
-#include "settings/Parameters.h"
 #include "system/TSystemSettings.h"
 
 const char* const TPathSetting::NoName = "This string intentionally left blank!";

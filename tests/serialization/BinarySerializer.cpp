@@ -1,6 +1,6 @@
 #include "CoreTest.h"
 
-#include "settings/TBinarySerializer.h"
+#include "serialization/TBinarySerializer.h"
 
 #include <QBuffer>
 #include <QDataStream>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Export.h"
-#include "settings/TPathSetting.h"
+#include "system/TPathSetting.h"
 
 /// The active implement, whose file may live in the folder of the vehicle of the same name instead: a self-propelled
 /// sprayer is vehicle and implement in one.

@@ -1,6 +1,6 @@
-#include "settings/TImplementPathSetting.h"
+#include "system/TImplementPathSetting.h"
 
-#include "settings/Parameters.h"
+#include "access/Parameters.h"
 #include "system/TSystemSettings.h"
 
 namespace {

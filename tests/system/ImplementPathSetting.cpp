@@ -3,7 +3,7 @@
 #include "TJournal.h"
 #include "TTemporaryFolder.h"
 
-#include "settings/TImplementPathSetting.h"
+#include "system/TImplementPathSetting.h"
 #include "system/TSystemSettings.h"
 
 #include <QScopedPointer>
