@@ -1,6 +1,14 @@
 #pragma once
 
+#include "platform/EAreaUnit.h"
+#include "platform/EDecimalPoint.h"
+#include "platform/EDryDensityUnit.h"
+#include "platform/EDryVolumeUnit.h"
+#include "platform/ELiquidUnit.h"
 #include "platform/EParamID.h"
+#include "platform/EPressureUnit.h"
+#include "platform/EShortDistanceUnit.h"
+#include "platform/ESprayerRateBasis.h"
 #include "region/ELanguage.h"
 
 #include <QRgb>
@@ -102,15 +110,24 @@ inline constexpr tagSwitch Switches[] = {
     {{PARAM_DAY_MODE, "display.day", "the colours of the day; else those of the night", "every colour"}, true},
 };
 
-inline constexpr tagChoice RateBases[] = {{0, "travel"}, {1, "area"}};
-inline constexpr tagChoice PressureUnits[] = {{0, "kPa"}, {1, "psi"}, {2, "bar"}};
-inline constexpr tagChoice AreaUnits[] = {{0, "hectare"}, {1, "acre"}};
-inline constexpr tagChoice ShortDistanceUnits[] = {{0, "metric"}, {1, "inch"}, {2, "foot"}};
-inline constexpr tagChoice DryVolumeUnits[] = {
-    {0, "litre"}, {1, "kilogram"}, {2, "cubic-metre"}, {3, "us-bushel"}, {4, "uk-bushel"}};
-inline constexpr tagChoice DryDensityUnits[] = {{0, "kg/L"}, {1, "kg/m3"}, {2, "kg/us-bushel"}, {3, "kg/uk-bushel"}};
-inline constexpr tagChoice LiquidUnits[] = {{0, "litre"}, {1, "cubic-metre"}, {2, "tonne"}};
-inline constexpr tagChoice DecimalPoints[] = {{0, "point"}, {1, "comma"}};
+inline constexpr tagChoice RateBases[] = {{SPRAYER_RATE_BASIS_TRAVEL, "travel"}, {SPRAYER_RATE_BASIS_AREA, "area"}};
+inline constexpr tagChoice PressureUnits[] = {
+    {PRESSURE_UNIT_KPA, "kPa"}, {PRESSURE_UNIT_PSI, "psi"}, {PRESSURE_UNIT_BAR, "bar"}};
+inline constexpr tagChoice AreaUnits[] = {{AREA_UNIT_HECTARE, "hectare"}, {AREA_UNIT_ACRE, "acre"}};
+inline constexpr tagChoice ShortDistanceUnits[] = {
+    {SHORT_DISTANCE_UNIT_METRIC, "metric"}, {SHORT_DISTANCE_UNIT_INCH, "inch"}, {SHORT_DISTANCE_UNIT_FOOT, "foot"}};
+inline constexpr tagChoice DryVolumeUnits[] = {{DRY_VOLUME_UNIT_LITRE, "litre"},
+                                               {DRY_VOLUME_UNIT_KILOGRAM, "kilogram"},
+                                               {DRY_VOLUME_UNIT_CUBIC_METRE, "cubic-metre"},
+                                               {DRY_VOLUME_UNIT_US_BUSHEL, "us-bushel"},
+                                               {DRY_VOLUME_UNIT_UK_BUSHEL, "uk-bushel"}};
+inline constexpr tagChoice DryDensityUnits[] = {{DRY_DENSITY_UNIT_KG_PER_LITRE, "kg/L"},
+                                                {DRY_DENSITY_UNIT_KG_PER_CUBIC_METRE, "kg/m3"},
+                                                {DRY_DENSITY_UNIT_KG_PER_US_BUSHEL, "kg/us-bushel"},
+                                                {DRY_DENSITY_UNIT_KG_PER_UK_BUSHEL, "kg/uk-bushel"}};
+inline constexpr tagChoice LiquidUnits[] = {
+    {LIQUID_UNIT_LITRE, "litre"}, {LIQUID_UNIT_CUBIC_METRE, "cubic-metre"}, {LIQUID_UNIT_TONNE, "tonne"}};
+inline constexpr tagChoice DecimalPoints[] = {{DECIMAL_POINT_FULL_STOP, "point"}, {DECIMAL_POINT_COMMA, "comma"}};
 inline constexpr tagChoice Languages[] = {
     {LANGUAGE_ENGLISH, "en"},    {LANGUAGE_GERMAN, "de"},     {LANGUAGE_FRENCH, "fr"},    {LANGUAGE_SPANISH, "es"},
     {LANGUAGE_ITALIAN, "it"},    {LANGUAGE_PORTUGUESE, "pt"}, {LANGUAGE_RUSSIAN, "ru"},   {LANGUAGE_DUTCH, "nl"},
@@ -125,27 +142,27 @@ inline constexpr tagSelection Selections[] = {
     Selection({PARAM_SPRAYER_RATE_BASIS, "rates.basis",
                "what the sprayer's rates may be related to: with travel, units.rate-per-travel decides",
                "liquid application rates"},
-              RateBases, 1),
+              RateBases, SPRAYER_RATE_BASIS_AREA),
     Selection({PARAM_PRESSURE_UNIT, "units.pressure", "unit of pressures", "texts and conversions of pressures"},
-              PressureUnits, 0),
+              PressureUnits, PRESSURE_UNIT_KPA),
     Selection({PARAM_AREA_UNIT, "units.area", "unit of areas, and of rates per area",
                "texts and conversions of areas, productivity and rates per area"},
-              AreaUnits, 0),
+              AreaUnits, AREA_UNIT_HECTARE),
     Selection({PARAM_SHORT_DISTANCE_UNIT, "units.short-distance", "unit of short distances: widths, offsets",
                "texts and conversions of short distances"},
-              ShortDistanceUnits, 0),
+              ShortDistanceUnits, SHORT_DISTANCE_UNIT_METRIC),
     Selection({PARAM_DRY_VOLUME_UNIT, "units.dry-volume", "unit of granular volumes", "granular products"},
-              DryVolumeUnits, 0),
+              DryVolumeUnits, DRY_VOLUME_UNIT_LITRE),
     Selection({PARAM_DRY_DENSITY_UNIT, "units.dry-density", "unit of granular densities", "granular products"},
-              DryDensityUnits, 0),
+              DryDensityUnits, DRY_DENSITY_UNIT_KG_PER_LITRE),
     Selection({PARAM_LIQUID_UNIT, "units.liquid", "unit of liquid volumes, flows and rates", "liquid products"},
-              LiquidUnits, 0),
+              LiquidUnits, LIQUID_UNIT_LITRE),
     Selection({PARAM_LANGUAGE, "region.language", "language of the display's texts; after a restart",
                "texts, and the suffix of language files"},
               Languages, LANGUAGE_ENGLISH),
     Selection({PARAM_DECIMAL_POINT, "region.decimal-point", "what stands before the decimals; after a restart",
                "every number shown or typed"},
-              DecimalPoints, 0),
+              DecimalPoints, DECIMAL_POINT_FULL_STOP),
 };
 
 inline constexpr int AnyLeast = std::numeric_limits<int>::min();

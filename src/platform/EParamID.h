@@ -6,7 +6,7 @@
 /// parameter that the store does not hold reads as 0, false, an empty string or an invalid colour.
 enum EParamID : int
 {
-    PARAM_SPRAYER_RATE_BASIS = 1929, ///< int; 0 permits rates per travelled distance (with PARAM_RATE_PER_TRAVEL)
+    PARAM_SPRAYER_RATE_BASIS = 1929, ///< int; an ESprayerRateBasis
 
     PARAM_INTERNAL_DRIVE = 8910, ///< string; path of the internal drive, ending in "/"
     PARAM_EXTERNAL_DRIVE = 8911, ///< string; mount point of the removable drive
@@ -36,16 +36,16 @@ enum EParamID : int
     PARAM_METRIC = 8953,                  ///< bool
     PARAM_US_MEASURES = 8954,             ///< bool; US rather than English measures when not metric
     PARAM_DEGREES_MINUTES_SECONDS = 8955, ///< bool; positions in degrees, minutes and seconds, else decimal degrees
-    PARAM_PRESSURE_UNIT = 8957,           ///< int; 0 kPa, 1 psi, 2 bar
-    PARAM_AREA_UNIT = 8960,               ///< int; 0 hectare, 1 acre
-    PARAM_SHORT_DISTANCE_UNIT = 8961,     ///< int; 0 metric, 1 inches, 2 feet
-    PARAM_DRY_VOLUME_UNIT = 8962,         ///< int; choice 0 to 4
-    PARAM_DRY_DENSITY_UNIT = 8963,        ///< int; choice 0 to 3
-    PARAM_LIQUID_UNIT = 8964,             ///< int; 0 litres, 1 cubic metres, 2 tonnes
+    PARAM_PRESSURE_UNIT = 8957,           ///< int; an EPressureUnit
+    PARAM_AREA_UNIT = 8960,               ///< int; an EAreaUnit
+    PARAM_SHORT_DISTANCE_UNIT = 8961,     ///< int; an EShortDistanceUnit
+    PARAM_DRY_VOLUME_UNIT = 8962,         ///< int; an EDryVolumeUnit
+    PARAM_DRY_DENSITY_UNIT = 8963,        ///< int; an EDryDensityUnit
+    PARAM_LIQUID_UNIT = 8964,             ///< int; an ELiquidUnit
     PARAM_RATE_PER_TRAVEL = 8966,         ///< bool; liquid rates per 100 m or 100 yd of travel
 
     PARAM_LANGUAGE = 9009,      ///< int; an ELanguage
-    PARAM_DECIMAL_POINT = 9010, ///< int; 1 shows a comma, any other value a full stop
+    PARAM_DECIMAL_POINT = 9010, ///< int; an EDecimalPoint
     PARAM_24_HOUR_CLOCK = 9011, ///< bool; false shows am and pm
     PARAM_MONTH_FIRST = 9012,   ///< bool; false shows the day before the month
 
@@ -87,7 +87,7 @@ enum EParamID : int
     PARAM_CROSS_HAIRS_COLOR_NIGHT = 9094,         ///< colour
     PARAM_BACKGROUND_NUMBER_NIGHT = 9095,         ///< int; number of the background picture
 
-    PARAM_IMPLEMENT_FOLDER_CHOICE = 9103, ///< int; 4 keeps implements in the folder of their vehicle
+    PARAM_IMPLEMENT_FOLDER_CHOICE = 9103, ///< int; an EImplementFolder
 
     PARAM_NMEA_LOG_FILE_NUMBER = 10471, ///< int; number of the next file of the NMEA log
     PARAM_USER_LOG_FILE_NUMBER = 10472, ///< int; number of the next file of the user log

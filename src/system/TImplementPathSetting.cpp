@@ -1,13 +1,8 @@
 #include "system/TImplementPathSetting.h"
 
 #include "access/Parameters.h"
+#include "platform/EImplementFolder.h"
 #include "system/TSystemSettings.h"
-
-namespace {
-
-const int ImplementsInVehicleFolder = 4; // of PARAM_IMPLEMENT_FOLDER_CHOICE
-
-} // namespace
 
 QString TImplementPathSetting::GetFolderPath(const QDir& root) const { return GetFolderPath(root, GetName()); }
 
@@ -26,7 +21,7 @@ QString TImplementPathSetting::GetImplementFolder(const QString& name) const
 bool TImplementPathSetting::UsesVehicleFolder(const QDir& root, const QString& name) const
 {
     return root.exists(GetVehicleFolder(name) + QLatin1Char('/') + TSystemSettings::SPSprayerImplementFileName) ||
-           Parameters::ReadInt(PARAM_IMPLEMENT_FOLDER_CHOICE) == ImplementsInVehicleFolder;
+           Parameters::ReadInt(PARAM_IMPLEMENT_FOLDER_CHOICE) == IMPLEMENT_FOLDER_OF_VEHICLE;
 }
 
 QString TImplementPathSetting::GetFileNameForName(const QDir& root, const QString& name) const

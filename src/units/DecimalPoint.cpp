@@ -1,15 +1,14 @@
 #include "units/DecimalPoint.h"
 
 #include "access/Parameters.h"
+#include "platform/EDecimalPoint.h"
 #include "units/TUnits.h"
 
 #include <algorithm>
 
 namespace {
 
-const int CommaChosen = 1; // of PARAM_DECIMAL_POINT
-
-bool ShowsComma() { return Parameters::ReadInt(PARAM_DECIMAL_POINT) == CommaChosen; }
+bool ShowsComma() { return Parameters::ReadInt(PARAM_DECIMAL_POINT) == DECIMAL_POINT_COMMA; }
 
 bool IsDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
 
