@@ -1,6 +1,6 @@
-#include "Command.h"
-#include "Manual.h"
-#include "Output.h"
+#include "console/line/Command.h"
+#include "console/line/Manual.h"
+#include "console/line/Output.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>

@@ -1,0 +1,272 @@
+// clock: what the display's clock shows, and the two ways to set it.
+
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/terminal/Session.h"
+
+#include "region/TRegionSettingsProxy.h"
+#include "stores/TPersistenceHold.h"
+
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <cstdlib>
+#include <functional>
+#include <limits>
+#include <optional>
+
+namespace {
+
+const char* const JsonOption = "json";
+
+const int SecondsPerHour = 60 * 60;
+const int SecondsPerMinute = 60;
+
+/// The store holds the distance between the display's clock and the machine's in seconds; a day is left for the offset
+/// from UTC.
+const qint64 GreatestDistance = std::numeric_limits<int>::max() - 24 * SecondsPerHour;
+
+/// What the parameters tell of where the time comes from. Nothing marks a clock that is set by hand.
+struct tagSource
+{
+    const char* name;
+    const char* words;
+    const char* offsetSetBy;
+    const char* offsetWords;
+    bool isOffsetInUse; ///< UTC is local time less the offset; else the machine's
+};
+
+constexpr tagSource ByOperator = {"gps", "GPS", "operator", "chosen by the operator", true};
+constexpr tagSource ByGps = {"gps", "GPS", "gps", "that of the clock when GPS time came first", true};
+constexpr tagSource ByMachine = {"machine", "the machine's clock and time zone; nobody has set it", "nobody", "not set",
+                                 false};
+constexpr tagSource ByHand = {"hand", "set by hand, or by GPS at no offset from UTC", "nobody", "not set", false};
+
+struct tagOffset
+{
+    int hours;
+    int minutes;
+
+    int Seconds() const { return hours * SecondsPerHour + minutes * SecondsPerMinute; }
+};
+
+tagOffset Offset(TParameterStore& store)
+{
+    return {store.GetParameter(PARAM_UTC_OFFSET_HOURS).toInt(), store.GetParameter(PARAM_UTC_OFFSET_MINUTES).toInt()};
+}
+
+/// Whether the machine's zone is that far from UTC in winter or in summer: the clock of a first start stays with the
+/// season in which it was.
+bool IsOfMachinesZone(int offset)
+{
+    const int year = QDate::currentDate().year();
+    const int january = 1;
+    const int july = 7;
+    for (const int month : {january, july}) {
+        if (QDateTime(QDate(year, month, 1), QTime(12, 0)).offsetFromUtc() == offset)
+            return true;
+    }
+    return false;
+}
+
+tagSource Source(TParameterStore& store)
+{
+    if (store.GetParameter(PARAM_UTC_OFFSET_SET_BY_USER).toBool())
+        return ByOperator;
+    if (Offset(store).Seconds() != 0)
+        return ByGps;
+    return IsOfMachinesZone(store.GetParameter(PARAM_CLOCK_OFFSET).toInt()) ? ByMachine : ByHand;
+}
+
+/// "+05:30"
+QString OffsetText(const tagOffset& offset)
+{
+    const int minutes = std::abs(offset.Seconds()) / SecondsPerMinute;
+    return QString::fromLatin1("%1%2:%3")
+        .arg(QLatin1Char(offset.Seconds() < 0 ? '-' : '+'))
+        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+int RunShowClock(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("clock show"), QString(),
+                      QLatin1String("Prints the display's date and time, UTC, the offset between them, where the time "
+                                    "comes from and who has set the offset, as far as the settings tell."),
+                      QLatin1String("cabsettings clock"));
+    line.AddOption(
+        QLatin1String(JsonOption),
+        QLatin1String("Prints an object: date and time as the display shows them, local, utc, utcFrom (offset "
+                      "or machine), source (machine, hand, gps), offsetHours, offsetMinutes, offsetSetBy "
+                      "(operator, gps, nobody), machineOffset (the clock less the machine's, in seconds)."));
+    if (const auto status = line.Read(arguments, 0, 0))
+        return *status;
+
+    TSession session;
+    if (!session.Open(context))
+        return STATUS_FAILED;
+    TParameterStore& store = session.Store();
+    const TRegionSettingsProxy region;
+    const tagOffset offset = Offset(store);
+    const tagSource source = Source(store);
+    const QDateTime local = region.GetDateTime();
+    const QDateTime utc = source.isOffsetInUse ? local.addSecs(-offset.Seconds()) : QDateTime::currentDateTimeUtc();
+    const QString localText = local.toString(QLatin1String("yyyy-MM-dd'T'HH:mm:ss"));
+    const QString utcText = utc.toString(Qt::ISODate);
+    if (line.IsSet(QLatin1String(JsonOption))) {
+        const QJsonObject object{
+            {QLatin1String("date"), region.GetDateString()},
+            {QLatin1String("time"), region.GetTimeString()},
+            {QLatin1String("local"), localText},
+            {QLatin1String("utc"), utcText},
+            {QLatin1String("utcFrom"), QLatin1String(source.isOffsetInUse ? "offset" : "machine")},
+            {QLatin1String("source"), QLatin1String(source.name)},
+            {QLatin1String("offsetHours"), offset.hours},
+            {QLatin1String("offsetMinutes"), offset.minutes},
+            {QLatin1String("offsetSetBy"), QLatin1String(source.offsetSetBy)},
+            {QLatin1String("machineOffset"), store.GetParameter(PARAM_CLOCK_OFFSET).toInt()},
+        };
+        PrintBytes(QJsonDocument(object).toJson());
+        return STATUS_DONE;
+    }
+    PrintTable({
+        {QLatin1String("local"), region.GetDateString() + QLatin1Char(' ') + region.GetTimeString()},
+        {QLatin1String("UTC"),
+         QString::fromLatin1("%1 (%2)").arg(
+             utcText, QLatin1String(source.isOffsetInUse ? "local less the offset" : "the machine's clock"))},
+        {QLatin1String("offset"),
+         QString::fromLatin1("%1 (%2)").arg(OffsetText(offset), QLatin1String(source.offsetWords))},
+        {QLatin1String("source"), QLatin1String(source.words)},
+    });
+    return STATUS_DONE;
+}
+
+const char* const DateShape = "^\\d{4}-\\d{2}-\\d{2}$";
+const char* const TimeShape = "^\\d{2}:\\d{2}(:\\d{2})?$";
+
+bool HasShape(const QString& text, const char* shape)
+{
+    return QRegularExpression(QLatin1String(shape)).match(text).hasMatch();
+}
+
+/// Invalid, which is said, when the text is no date of the calendar, or no time of the day.
+QDate ReadDate(const QString& text, const TCommandLine& line)
+{
+    const QDate date = HasShape(text, DateShape) ? QDate::fromString(text, QLatin1String("yyyy-MM-dd")) : QDate();
+    if (!date.isValid())
+        line.Misused(QString::fromLatin1("\"%1\" is no date; YYYY-MM-DD is accepted, such as 2026-02-28").arg(text));
+    return date;
+}
+
+QTime ReadTime(const QString& text, const TCommandLine& line)
+{
+    // Not by Qt's ISO form, which takes 24:00 for 00:00.
+    const QString format = QLatin1String(text.count(QLatin1Char(':')) == 1 ? "HH:mm" : "HH:mm:ss");
+    const QTime time = HasShape(text, TimeShape) ? QTime::fromString(text, format) : QTime();
+    if (!time.isValid())
+        line.Misused(
+            QString::fromLatin1("\"%1\" is no time; HH:MM or HH:MM:SS is accepted, from 00:00 to 23:59:59").arg(text));
+    return time;
+}
+
+/// Whether the display's clock can stand so far from the machine's; says so when it cannot.
+bool IsInReach(const QDateTime& wanted, const TCommandLine& line)
+{
+    const qint64 distance = QDateTime::currentDateTimeUtc().secsTo(wanted);
+    if (std::abs(distance) <= GreatestDistance)
+        return true;
+    line.Misused(
+        QString::fromLatin1("\"%1\" is more than 68 years from the machine's clock; no clock is accepted there")
+            .arg(wanted.date().toString(Qt::ISODate)));
+    return false;
+}
+
+/// Sets the clock of a terminal on the data folder.
+int SetClock(const tagContext& context, const std::function<void(TRegionSettingsProxy& region)>& set)
+{
+    TSession session;
+    if (!session.Open(context))
+        return STATUS_FAILED;
+    // The façade tells nobody whether the clock has reached the disk; the end of a hold does.
+    TPersistenceHold hold(session.Store());
+    TRegionSettingsProxy region;
+    set(region);
+    return hold.Release() ? STATUS_DONE : Fail(QLatin1String("the clock could not be stored"));
+}
+
+int RunSetByHand(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(
+        QLatin1String("clock set"), QLatin1String("[DATE] [TIME]"),
+        QLatin1String("Sets the display's clock by hand, as the operator does before GPS time comes: DATE "
+                      "is YYYY-MM-DD, TIME is HH:MM or HH:MM:SS, of local time. The offset from UTC "
+                      "becomes 0 until GPS tells it; set clock.offset-hours and clock.offset-by-operator "
+                      "choose one instead. A terminal that runs meanwhile keeps its own clock."),
+        QLatin1String("cabsettings clock set 2026-03-05 14:05"));
+    if (const auto status = line.Read(arguments, 1, 2))
+        return *status;
+    const QStringList words = line.Words().join(QLatin1Char('T')).split(QLatin1Char('T'));
+    if (words.size() > 2)
+        return line.Misused(QString::fromLatin1("\"%1\" is too much; expected: [DATE] [TIME]").arg(words.at(2)));
+    const bool hasTime = words.size() == 2 || words.first().contains(QLatin1Char(':'));
+    const bool hasDate = words.size() == 2 || !hasTime;
+    const QDate date = hasDate ? ReadDate(words.first(), line) : QDate();
+    if (hasDate && (!date.isValid() || !IsInReach(QDateTime(date, QTime(0, 0), Qt::UTC), line)))
+        return STATUS_MISUSED;
+    const QTime time = hasTime ? ReadTime(words.last(), line) : QTime();
+    if (hasTime && !time.isValid())
+        return STATUS_MISUSED;
+
+    return SetClock(context, [&](TRegionSettingsProxy& region) {
+        if (hasDate && hasTime)
+            region.SetUserDateTime(date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second());
+        else if (hasDate)
+            region.SetUserDate(date.year(), date.month(), date.day());
+        else
+            region.SetUserTime(time.hour(), time.minute(), time.second());
+    });
+}
+
+int RunSetUtc(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(
+        QLatin1String("clock utc"), QLatin1String("DATETIME"),
+        QLatin1String("Sets the display's clock from UTC, as a GPS receiver does: DATETIME is "
+                      "YYYY-MM-DDTHH:MM:SSZ. Unless the operator has chosen an offset, it becomes the one "
+                      "between the clock as it stands and UTC. A terminal that runs meanwhile keeps its "
+                      "own clock."),
+        QLatin1String("cabsettings clock utc 2026-03-05T13:05:09Z"));
+    if (const auto status = line.Read(arguments, 1, 1))
+        return *status;
+    const QString text = line.Words().first();
+    const QStringList parts = text.left(text.size() - 1).split(QLatin1Char('T'));
+    if (!text.endsWith(QLatin1Char('Z')) || parts.size() != 2)
+        return line.Misused(
+            QString::fromLatin1("\"%1\" is no UTC; YYYY-MM-DDTHH:MM:SSZ is accepted, with its Z").arg(text));
+    QDate date = ReadDate(parts.first(), line);
+    if (!date.isValid())
+        return STATUS_MISUSED;
+    QTime time = ReadTime(parts.last(), line);
+    if (!time.isValid() || !IsInReach(QDateTime(date, time, Qt::UTC), line))
+        return STATUS_MISUSED;
+    return SetClock(context, [&](TRegionSettingsProxy& region) { region.SetUTCTimeAndDate(time, date, true); });
+}
+
+const tagCommand Commands[] = {
+    {"show", "Prints the clock; so does clock alone.", RunShowClock},
+    {"set", "Sets the clock by hand.", RunSetByHand},
+    {"utc", "Sets the clock as a GPS receiver does.", RunSetUtc},
+};
+
+} // namespace
+
+int RunClock(const tagContext& context, const QStringList& arguments)
+{
+    const QString word = arguments.value(1);
+    if (word.isEmpty() || word == QLatin1String("--") + QLatin1String(JsonOption))
+        return RunShowClock(context, arguments);
+    return Dispatch(QLatin1String("cabsettings clock"), Commands, context, arguments.mid(1));
+}

@@ -1,0 +1,222 @@
+// colors: the two schemes of the display.
+
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/terminal/Store.h"
+
+#include "parameters/ParameterText.h"
+#include "parameters/TParameterCatalogue.h"
+#include "terminal/FirstStartValues.h"
+
+#include <QColor>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <unistd.h>
+
+namespace {
+
+const char* const ColorOption = "color";
+const char* const JsonOption = "json";
+
+const char* const Day = "day";
+const char* const Night = "night";
+const QString Levels = QLatin1String("display.night-");
+
+const int ValueWidth = 9; // "#aarrggbb"
+const int Gap = 2;
+const char* const Unpainted = "    ";
+
+/// What the catalogue has for both schemes under one name.
+struct tagElement
+{
+    QString name;
+    EParameterType type;
+};
+
+QString ParameterName(const QString& mode, const QString& element)
+{
+    return QLatin1String("colors.") + mode + QLatin1Char('.') + element;
+}
+
+QList<tagElement> Elements()
+{
+    const QString group = ParameterName(QLatin1String(Day), QString());
+    QList<tagElement> elements;
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        if (parameter.name.startsWith(group))
+            elements.append({parameter.name.mid(group.size()), parameter.type});
+    }
+    return elements;
+}
+
+QVariant Value(TParameterStore& store, const QString& mode, const tagElement& element)
+{
+    return store.GetParameter(TParameterCatalogue::Find(ParameterName(mode, element.name))->id);
+}
+
+/// As the display reads it: what is no colour is an invalid one.
+QColor Color(TParameterStore& store, const QString& mode, const tagElement& element)
+{
+    return Value(store, mode, element).value<QColor>();
+}
+
+QString Text(TParameterStore& store, const QString& mode, const tagElement& element)
+{
+    return ParameterText::FromValue(element.type == PARAMETER_COLOR ? QVariant(Color(store, mode, element))
+                                                                    : Value(store, mode, element));
+}
+
+/// The cell of a table: a patch of the colour, where it is to be painted, and the value.
+QString Cell(TParameterStore& store, const QString& mode, const tagElement& element, bool isPainted)
+{
+    QString text = Text(store, mode, element).leftJustified(ValueWidth + Gap);
+    if (!isPainted)
+        return text;
+    const QColor color = element.type == PARAMETER_COLOR ? Color(store, mode, element) : QColor();
+    if (!color.isValid())
+        return QLatin1String(Unpainted) + QLatin1Char(' ') + text;
+    return QString::fromLatin1("\033[48;2;%1;%2;%3m%4\033[0m %5")
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue())
+        .arg(QLatin1String(Unpainted), text);
+}
+
+void PrintLine(QString line)
+{
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    Print(line + QLatin1Char('\n'));
+}
+
+void PrintElements(TParameterStore& store, const QStringList& modes, bool isPainted)
+{
+    const QList<tagElement> elements = Elements();
+    int width = 0;
+    for (const tagElement& element : elements)
+        width = qMax(width, static_cast<int>(element.name.size()) + Gap);
+
+    QString titles = QString(width, QLatin1Char(' '));
+    for (const QString& mode : modes) {
+        titles += isPainted ? QLatin1String(Unpainted) + QLatin1Char(' ') : QString();
+        titles += mode.leftJustified(ValueWidth + Gap);
+    }
+    PrintLine(titles);
+    for (const tagElement& element : elements) {
+        QString line = element.name.leftJustified(width);
+        for (const QString& mode : modes)
+            line += Cell(store, mode, element, isPainted);
+        PrintLine(line);
+    }
+}
+
+QList<const tagParameter*> LevelParameters()
+{
+    QList<const tagParameter*> levels;
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        if (parameter.name.startsWith(Levels))
+            levels.append(&parameter);
+    }
+    return levels;
+}
+
+void PrintLevels(TParameterStore& store)
+{
+    QList<QStringList> rows;
+    const QList<const tagParameter*> levels = LevelParameters();
+    for (const tagParameter* level : levels) {
+        rows.append({level->name.mid(Levels.size()), TParameterCatalogue::Text(*level, store.GetParameter(level->id)) +
+                                                         QLatin1Char(' ') + level->unit});
+    }
+    Print(QLatin1String("\nLevels by night:\n"));
+    PrintTable(rows);
+}
+
+QJsonObject Json(TParameterStore& store, const QString& active, const QStringList& modes)
+{
+    QJsonArray colors;
+    QJsonArray numbers;
+    const QList<tagElement> elements = Elements();
+    for (const tagElement& element : elements) {
+        const bool isColor = element.type == PARAMETER_COLOR;
+        QJsonObject object{{QLatin1String("name"), element.name}};
+        for (const QString& mode : modes)
+            object.insert(mode, isColor ? QJsonValue(Text(store, mode, element))
+                                        : QJsonValue(Value(store, mode, element).toInt()));
+        (isColor ? colors : numbers).append(object);
+    }
+    QJsonArray levels;
+    if (modes.contains(QLatin1String(Night))) {
+        const QList<const tagParameter*> parameters = LevelParameters();
+        for (const tagParameter* level : parameters) {
+            levels.append(QJsonObject{{QLatin1String("name"), level->name.mid(Levels.size())},
+                                      {QLatin1String("value"), store.GetParameter(level->id).toInt()},
+                                      {QLatin1String("unit"), level->unit}});
+        }
+    }
+    return {{QLatin1String("mode"), active},
+            {QLatin1String("colors"), colors},
+            {QLatin1String("numbers"), numbers},
+            {QLatin1String("levels"), levels}};
+}
+
+/// Whether standard output shows colours, and whoever looks at it wants any.
+bool CanPaint()
+{
+    const QByteArray terminal = qgetenv("TERM");
+    return isatty(STDOUT_FILENO) && !terminal.isEmpty() && terminal != "dumb" &&
+           qEnvironmentVariableIsEmpty("NO_COLOR");
+}
+
+} // namespace
+
+int RunColors(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(
+        QLatin1String("colors"), QLatin1String("[day|night]"),
+        QLatin1String("Prints the colours of the map and the controls, by day, by night or both, as "
+                      "#rrggbb (#aarrggbb where translucent), the numbers of the background pictures, the "
+                      "levels by night, and which scheme is active. `cabsettings set display.day false` "
+                      "switches to the night."),
+        QLatin1String("cabsettings colors night"));
+    line.AddOption(
+        QLatin1String(ColorOption),
+        QLatin1String("Paints a patch of each colour: always, never, or auto: on a terminal that can, unless "
+                      "NO_COLOR is set."),
+        QLatin1String("WHEN"), QLatin1String("auto"));
+    line.AddOption(
+        QLatin1String(JsonOption),
+        QLatin1String("Prints an object: mode, colors (name, day, night), numbers (name, day, night), levels "
+                      "(name, value, unit)."));
+    if (const auto status = line.Read(arguments, 0, 1))
+        return *status;
+    QStringList modes = {QLatin1String(Day), QLatin1String(Night)};
+    const QString wanted = line.Words().value(0);
+    if (!line.Words().isEmpty()) {
+        if (!modes.contains(wanted))
+            return line.Misused(
+                QString::fromLatin1("there is no scheme \"%1\"; day and night are accepted").arg(wanted));
+        modes = QStringList{wanted};
+    }
+    const QString when = line.Value(QLatin1String(ColorOption));
+    if (!QStringList{QLatin1String("always"), QLatin1String("never"), QLatin1String("auto")}.contains(when))
+        return line.Misused(QString::fromLatin1("--color takes always, never or auto, not \"%1\"").arg(when));
+
+    const auto store = OpenStore(context);
+    if (!store)
+        return STATUS_FAILED;
+    SetFirstStartValues(*store);
+    const QString active = QLatin1String(store->GetParameter(PARAM_DAY_MODE).toBool() ? Day : Night);
+    if (line.IsSet(QLatin1String(JsonOption))) {
+        PrintBytes(QJsonDocument(Json(*store, active, modes)).toJson());
+        return STATUS_DONE;
+    }
+    Print(QString::fromLatin1("Active: %1\n\n").arg(active));
+    PrintElements(*store, modes, when == QLatin1String("always") || (when == QLatin1String("auto") && CanPaint()));
+    if (modes.contains(QLatin1String(Night)))
+        PrintLevels(*store);
+    return STATUS_DONE;
+}

@@ -1,0 +1,159 @@
+// list and describe: the catalogue of parameters, with the values that they have.
+
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/terminal/ParameterArgument.h"
+#include "console/terminal/Store.h"
+
+#include "parameters/ParameterText.h"
+#include "terminal/FirstStartValues.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+
+namespace {
+
+const char* const JsonOption = "json";
+const char* const MarkdownOption = "markdown";
+const char* const NotSet = "(not set)";
+
+/// All parameters that have a value or are in the catalogue, in the order of their numbers; absent values are invalid.
+QMap<int, QVariant> ListedValues(const TParameterStore& store)
+{
+    QMap<int, QVariant> values = store.Values();
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        if (!values.contains(parameter.id))
+            values.insert(parameter.id, QVariant());
+    }
+    return values;
+}
+
+/// Whether a pattern, which may hold * and ?, fits a parameter's number, or its name or a part of it.
+bool Fits(const QString& pattern, int number)
+{
+    const tagParameter* const known = TParameterCatalogue::Find(number);
+    const QRegularExpression expression(QRegularExpression::wildcardToRegularExpression(pattern),
+                                        QRegularExpression::CaseInsensitiveOption);
+    if (expression.match(QString::number(number)).hasMatch())
+        return true;
+    return known && (expression.match(known->name).hasMatch() || known->name.contains(pattern, Qt::CaseInsensitive));
+}
+
+QString TextOrNotSet(const tagParameter* known, const QVariant& value)
+{
+    return value.isValid() ? ValueText(known, value) : QLatin1String(NotSet);
+}
+
+QStringList Row(int number, const QVariant& value)
+{
+    const tagParameter* const known = TParameterCatalogue::Find(number);
+    return {QString::number(number), known ? known->name : QLatin1String("-"),
+            known ? TParameterCatalogue::TypeName(known->type) : ParameterText::TypeName(value),
+            TextOrNotSet(known, value)};
+}
+
+/// The table of the documentation.
+void PrintMarkdown()
+{
+    Print(QLatin1String("| Number | Name | Type | Default | Accepts | Unit | Meaning | Changes |\n"
+                        "|---|---|---|---|---|---|---|---|\n"));
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        Print(QString::fromLatin1("| %1 | `%2` | %3 | %4 | %5 | %6 | %7 | %8 |\n")
+                  .arg(QString::number(parameter.id), parameter.name, TParameterCatalogue::TypeName(parameter.type),
+                       parameter.firstValue.isValid() ? TParameterCatalogue::Text(parameter, parameter.firstValue)
+                                                      : QString(),
+                       parameter.accepts, parameter.unit, parameter.meaning, parameter.readers));
+    }
+}
+
+QString WithUnit(const tagParameter& parameter, const QString& text)
+{
+    return parameter.unit.isEmpty() ? text : text + QLatin1Char(' ') + parameter.unit;
+}
+
+void PrintDescription(const tagParameter& parameter, const QVariant& value)
+{
+    const QVariant first = TParameterCatalogue::FirstValue(parameter);
+    Print(QString::fromLatin1("%1 (%2): %3\n\n")
+              .arg(parameter.name)
+              .arg(static_cast<int>(parameter.id))
+              .arg(parameter.meaning));
+    PrintTable({{QLatin1String("  Type"), TParameterCatalogue::TypeName(parameter.type)},
+                {QLatin1String("  Value"),
+                 value.isValid() ? WithUnit(parameter, ValueText(&parameter, value)) : QLatin1String(NotSet)},
+                {QLatin1String("  Default"), first.isValid() ? WithUnit(parameter, ValueText(&parameter, first))
+                                                             : QLatin1String("found by the terminal itself")},
+                {QLatin1String("  Accepts"), parameter.accepts},
+                {QLatin1String("  Changes"), parameter.readers}});
+}
+
+} // namespace
+
+int RunList(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(
+        QLatin1String("list"), QLatin1String("[PATTERN]"),
+        QLatin1String("Lists the parameters: number, name, type and value. PATTERN is a part of the name, "
+                      "or a number or name with * and ?."),
+        QLatin1String("cabsettings list units"));
+    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an array of objects."));
+    line.AddOption(QLatin1String(MarkdownOption), QLatin1String("Prints the table of the documentation: every "
+                                                                "parameter, and no values."));
+    if (const auto status = line.Read(arguments, 0, 1))
+        return *status;
+    if (line.IsSet(QLatin1String(MarkdownOption))) {
+        PrintMarkdown();
+        return STATUS_DONE;
+    }
+    const QString pattern = line.Words().value(0);
+    const auto store = OpenStore(context);
+    if (!store)
+        return STATUS_FAILED;
+    SetFirstStartValues(*store);
+
+    const QMap<int, QVariant> values = ListedValues(*store);
+    QList<QStringList> rows;
+    QJsonArray array;
+    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
+        if (!pattern.isEmpty() && !Fits(pattern, it.key()))
+            continue;
+        rows.append(Row(it.key(), it.value()));
+        array.append(ParameterJson(it.key(), it.value()));
+    }
+    if (line.IsSet(QLatin1String(JsonOption)))
+        PrintBytes(QJsonDocument(array).toJson());
+    else
+        PrintTable(rows);
+    return rows.isEmpty() ? Fail(QString::fromLatin1("no parameter fits \"%1\"").arg(pattern)) : STATUS_DONE;
+}
+
+int RunDescribe(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("describe"), QLatin1String("PARAMETER"),
+                      QLatin1String("Explains a parameter, given by name or number: what it means, what it accepts, "
+                                    "what changes with it."),
+                      QLatin1String("cabsettings describe units.area"));
+    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an object."));
+    if (const auto status = line.Read(arguments, 1, 1))
+        return *status;
+    const auto parameter = ReadParameter(line.Words().first(), line);
+    if (!parameter)
+        return STATUS_MISUSED;
+    const auto store = OpenStore(context);
+    if (!store)
+        return STATUS_FAILED;
+    SetFirstStartValues(*store);
+
+    const QVariant value = store->GetParameter(parameter->id);
+    if (!parameter->known && !value.isValid())
+        return Fail(QString::fromLatin1("%1 is not set, and the library does not use it").arg(parameter->Name()));
+    if (line.IsSet(QLatin1String(JsonOption)))
+        PrintBytes(QJsonDocument(ParameterJson(parameter->id, value)).toJson());
+    else if (parameter->known)
+        PrintDescription(*parameter->known, value);
+    else
+        Print(QString::fromLatin1("%1: the host's own; the library does not use it\n").arg(parameter->Name()));
+    return STATUS_DONE;
+}

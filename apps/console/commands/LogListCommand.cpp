@@ -1,0 +1,69 @@
+// log list: the files of the logs.
+
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/logs/LogArgument.h"
+#include "console/logs/LogFiles.h"
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+const char* const JsonOption = "json";
+
+} // namespace
+
+int RunLogList(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(
+        QLatin1String("log list"), QLatin1String("[LOG]"),
+        QString::fromLatin1("Lists the files of both logs, or of one (%1), the oldest first: number, size "
+                            "in bytes, when it was written to last, in UTC; \"newest\" is the one to "
+                            "which the log goes on.")
+            .arg(LogNames().join(QLatin1String(", "))),
+        QLatin1String("cabsettings log list"));
+    line.AddOption(QLatin1String(JsonOption),
+                   QLatin1String("Prints an array of objects: log, file, path, number (null in a name without one), "
+                                 "size, modified, newest."));
+    if (const auto status = line.Read(arguments, 0, 1))
+        return *status;
+    const QStringList wanted = line.Words().isEmpty() ? LogNames() : line.Words();
+    if (!IsLog(wanted.first(), line))
+        return STATUS_MISUSED;
+
+    const auto drive = FindLogDrive(context);
+    if (!drive)
+        return STATUS_FAILED;
+    QJsonArray array;
+    QList<QStringList> rows = {{QLatin1String("log"), QLatin1String("file"), QLatin1String("number"),
+                                QLatin1String("size"), QLatin1String("modified")}};
+    for (const QString& log : wanted) {
+        const QString basePath = LogBasePath(log, *drive);
+        const QFileInfoList files = LogFiles(basePath);
+        for (const QFileInfo& file : files) {
+            const bool isNewest = file == files.last();
+            const auto number = LogFileNumber(basePath, file);
+            const QString modified = file.lastModified().toUTC().toString(Qt::ISODate);
+            array.append(QJsonObject{{QLatin1String("log"), log},
+                                     {QLatin1String("file"), file.fileName()},
+                                     {QLatin1String("path"), file.filePath()},
+                                     {QLatin1String("number"), number ? QJsonValue(*number) : QJsonValue()},
+                                     {QLatin1String("size"), file.size()},
+                                     {QLatin1String("modified"), modified},
+                                     {QLatin1String("newest"), isNewest}});
+            rows.append({log, file.fileName(), number ? QString::number(*number) : QString(QLatin1Char('-')),
+                         QString::number(file.size()), modified});
+            if (isNewest)
+                rows.last().append(QLatin1String("newest"));
+        }
+    }
+    if (line.IsSet(QLatin1String(JsonOption)))
+        PrintBytes(QJsonDocument(array).toJson());
+    else
+        PrintTable(rows);
+    return STATUS_DONE;
+}

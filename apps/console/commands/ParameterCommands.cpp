@@ -1,0 +1,135 @@
+// get, set and reset: one parameter, by name or number.
+
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/terminal/ParameterArgument.h"
+#include "console/terminal/Store.h"
+
+#include "parameters/ParameterText.h"
+#include "terminal/FirstStartValues.h"
+
+#include <QJsonDocument>
+
+namespace {
+
+const char* const TypeOption = "type";
+const char* const JsonOption = "json";
+
+/// The store of the data folder as a terminal would find it.
+std::unique_ptr<TSqliteStore> OpenStartedStore(const tagContext& context)
+{
+    std::unique_ptr<TSqliteStore> store = OpenStore(context);
+    if (store)
+        SetFirstStartValues(*store);
+    return store;
+}
+
+int Store(TSqliteStore& store, const tagParameterArgument& parameter, const QVariant& value)
+{
+    return store.SetParameter(parameter.id, value, true)
+               ? STATUS_DONE
+               : Fail(QString::fromLatin1("%1 could not be stored").arg(parameter.Name()));
+}
+
+/// What was typed, as a value of a number that only the host knows: of the type that is asked for, or that it has.
+QVariant ReadHostValue(TSqliteStore& store, const tagParameterArgument& parameter, const QString& typeAsked,
+                       const QString& text, QString* error)
+{
+    if (typeAsked.isEmpty() && !store.HasParameter(parameter.id)) {
+        *error = QString::fromLatin1("has no value yet; say its type with --type: %1")
+                     .arg(ParameterText::TypeNames().join(QLatin1String(", ")));
+        return QVariant();
+    }
+    const QString type = typeAsked.isEmpty() ? ParameterText::TypeName(store.GetParameter(parameter.id)) : typeAsked;
+    return ParameterText::ToValue(type, text, error);
+}
+
+} // namespace
+
+int RunGet(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("get"), QLatin1String("PARAMETER"),
+                      QLatin1String("Prints the value of a parameter, given by name or number. By name, a choice is "
+                                    "printed as its name; by number, as its number."),
+                      QLatin1String("cabsettings get units.metric"));
+    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an object with all that is known about it."));
+    if (const auto status = line.Read(arguments, 1, 1))
+        return *status;
+    const auto parameter = ReadParameter(line.Words().first(), line);
+    if (!parameter)
+        return STATUS_MISUSED;
+
+    const auto store = OpenStartedStore(context);
+    if (!store)
+        return STATUS_FAILED;
+    if (!store->HasParameter(parameter->id))
+        return Fail(QString::fromLatin1("%1 is not set").arg(parameter->Name()));
+    const QVariant value = store->GetParameter(parameter->id);
+    if (line.IsSet(QLatin1String(JsonOption)))
+        PrintBytes(QJsonDocument(ParameterJson(parameter->id, value)).toJson());
+    else
+        Print(ValueText(parameter->isByNumber ? nullptr : parameter->known, value) + QLatin1Char('\n'));
+    return STATUS_DONE;
+}
+
+int RunSet(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("set"), QLatin1String("PARAMETER VALUE"),
+                      QLatin1String("Sets a parameter, given by name or number. `cabsettings describe` tells what it "
+                                    "accepts. A number that only the host uses takes what its type allows; one "
+                                    "without a value yet needs --type."),
+                      QLatin1String("cabsettings set units.area acre"));
+    line.AddOption(
+        QLatin1String(TypeOption),
+        QString::fromLatin1("Type of the value: %1.").arg(ParameterText::TypeNames().join(QLatin1String(", "))),
+        QLatin1String("TYPE"));
+    if (const auto status = line.Read(arguments, 2, 2))
+        return *status;
+    const auto parameter = ReadParameter(line.Words().at(0), line);
+    if (!parameter)
+        return STATUS_MISUSED;
+    const QString type = line.Value(QLatin1String(TypeOption));
+    if (!type.isEmpty() && parameter->known && type != TParameterCatalogue::TypeName(parameter->known->type)) {
+        return line.Misused(QString::fromLatin1("%1 is of type %2")
+                                .arg(parameter->Name(), TParameterCatalogue::TypeName(parameter->known->type)));
+    }
+
+    const QString text = line.Words().at(1);
+    QString error;
+    if (parameter->known) {
+        // Before the store is touched: a wrong value leaves no trace.
+        const QVariant value = TParameterCatalogue::Read(*parameter->known, text, &error);
+        if (!value.isValid())
+            return line.Misused(error);
+        const auto store = OpenStartedStore(context);
+        return store ? Store(*store, *parameter, value) : STATUS_FAILED;
+    }
+    const auto store = OpenStartedStore(context);
+    if (!store)
+        return STATUS_FAILED;
+    const QVariant value = ReadHostValue(*store, *parameter, type, text, &error);
+    if (!value.isValid())
+        return line.Misused(QString::fromLatin1("%1: %2").arg(parameter->Name(), error));
+    return Store(*store, *parameter, value);
+}
+
+int RunReset(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("reset"), QLatin1String("PARAMETER"),
+                      QLatin1String("Gives a parameter the value of a first start, or none where the terminal finds it "
+                                    "itself."),
+                      QLatin1String("cabsettings reset colors.night.map"));
+    if (const auto status = line.Read(arguments, 1, 1))
+        return *status;
+    const auto parameter = ReadParameter(line.Words().first(), line);
+    if (!parameter)
+        return STATUS_MISUSED;
+    if (!parameter->known) {
+        return line.Misused(
+            QString::fromLatin1("%1 is the host's own, and has no value of a first start").arg(parameter->Name()));
+    }
+
+    const auto store = OpenStartedStore(context);
+    return store ? Store(*store, *parameter, TParameterCatalogue::FirstValue(*parameter->known)) : STATUS_FAILED;
+}

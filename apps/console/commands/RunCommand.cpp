@@ -1,0 +1,102 @@
+// run: the terminal on an NMEA stream.
+
+#include "console/commands/RunProgress.h"
+#include "console/commands/RunSummary.h"
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/line/QuitOnSignal.h"
+#include "console/terminal/Session.h"
+
+#include "nmea/NmeaAddress.h"
+#include "nmea/TNmeaInput.h"
+#include "nmea/TNmeaReceiver.h"
+
+#include <QCoreApplication>
+
+#include <optional>
+#include <variant>
+
+namespace {
+
+const double GreatestSpeed = 1000;
+
+/// Feeds the stream to the receiver until its end, or until a signal asks for it. Empty when the stream was read to its
+/// end, else what went wrong.
+QString Receive(const QString& source, const NmeaAddress& address, double speed, TNmeaReceiver& receiver)
+{
+    QString problem;
+    TRunProgress progress(receiver);
+    TNmeaInput input(address, speed);
+    QObject::connect(&input, &TNmeaInput::LineReceived,
+                     [&receiver](const QByteArray& line) { receiver.Receive(line); });
+    QObject::connect(&input, &TNmeaInput::Finished, [&problem](bool, const QString& error) {
+        problem = error;
+        QCoreApplication::quit();
+    });
+    QObject::connect(&input, &TNmeaInput::SourceLost, [&progress, &source](const QString& reason) {
+        progress.Say(QString::fromLatin1("%1: %2; trying again").arg(source, reason));
+    });
+    QObject::connect(&input, &TNmeaInput::SourceRegained,
+                     [&progress, &source] { progress.Say(QString::fromLatin1("%1: connected").arg(source)); });
+    input.Start();
+    QCoreApplication::exec();
+    input.Stop();
+    receiver.Finish();
+    return problem;
+}
+
+} // namespace
+
+int RunRun(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("run"), QString(),
+                      QLatin1String("Starts the terminal and feeds it an NMEA stream: the clock is set, the stream is "
+                                    "logged. Ends with the stream, or on an interrupt, with a summary. A server or a "
+                                    "serial device that is not there, or no longer, is waited for."),
+                      QLatin1String("cabsettings run --nmea field.nmea\n"
+                                    "  cabsettings run --nmea - <field.nmea\n"
+                                    "  cabsettings run --nmea tcp://localhost:2947\n"
+                                    "  cabsettings run --nmea 'serial:///dev/ttyUSB0?baud=9600'"));
+    line.AddOption(
+        QLatin1String("nmea"),
+        QLatin1String("The stream: a file or a pipe; - for standard input; tcp://HOST:PORT for a server that "
+                      "sends NMEA, which gpsd is asked for; serial:///dev/NAME?baud=N for a serial device, "
+                      "4800 baud when no rate is given."),
+        QLatin1String("SOURCE"));
+    line.AddOption(QLatin1String("speed"),
+                   QLatin1String("How many times as fast as it was recorded a file is played; 0 as fast as it can be "
+                                 "read. A pipe comes as fast as it is sent; servers and devices take no speed."),
+                   QLatin1String("N"), QLatin1String("0"));
+    line.AddOption(QLatin1String("json"), QLatin1String("Prints the summary as an object."));
+    if (const auto status = line.Read(arguments, 0, 0))
+        return *status;
+    const QString source = line.Value(QLatin1String("nmea"));
+    if (source.isEmpty())
+        return line.Misused(QLatin1String("--nmea is missing; it takes a file, or - for standard input, or the address "
+                                          "of a server or a serial device"));
+    QString error;
+    const auto address = ReadNmeaAddress(source, &error);
+    if (!address)
+        return line.Misused(error);
+    const auto speed = line.Number(QLatin1String("speed"), 0, GreatestSpeed);
+    if (!speed)
+        return STATUS_MISUSED;
+    if (*speed > 0 && !std::holds_alternative<tagFileAddress>(*address))
+        return line.Misused(QString::fromLatin1("--speed is for files; %1 comes as fast as it is sent").arg(source));
+
+    const TQuitOnSignal quitOnSignal; // before any thread starts, so that none takes the signal instead
+    TSession session;
+    if (!session.Open(context))
+        return STATUS_FAILED;
+    TNmeaReceiver receiver;
+    const QString problem = Receive(source, *address, *speed, receiver);
+    if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
+        return Fail(problem); // nothing to sum up
+    PrintRunSummary(session.Store(), receiver.GetStatus(), line.IsSet(QLatin1String("json")));
+    if (!problem.isEmpty())
+        return Fail(problem);
+    if (receiver.GetStatus().unloggedLines > 0)
+        return Fail(QString::fromLatin1("%1 lines could not be logged").arg(receiver.GetStatus().unloggedLines));
+    return STATUS_DONE;
+}

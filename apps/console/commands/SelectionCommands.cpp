@@ -1,0 +1,95 @@
+// select and selections: what is active on the display.
+
+#include "console/line/Command.h"
+#include "console/line/CommandLine.h"
+#include "console/line/Output.h"
+#include "console/terminal/ActiveItems.h"
+#include "console/terminal/Session.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+const char* const JsonOption = "json";
+
+QString OrNone(const QString& text) { return text.isEmpty() ? QLatin1String("(none)") : text; }
+
+QJsonObject Json(const tagParameter& item)
+{
+    const QString path = ActiveItems::Path(item);
+    return {{QLatin1String("kind"), ActiveItems::Kind(item)},
+            {QLatin1String("name"), ActiveItems::Name(item)},
+            {QLatin1String("path"), path.isEmpty() ? QJsonValue() : QJsonValue(path)}};
+}
+
+} // namespace
+
+int RunSelect(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("select"), QLatin1String("KIND [NAME]"),
+                      QString::fromLatin1("Makes an item the active one, as the operator does; an empty NAME selects "
+                                          "none. Without NAME, prints the active one. KIND is one of: %1.")
+                          .arg(ActiveItems::Kinds().join(QLatin1String(", "))),
+                      QLatin1String("cabsettings select job \"North 40\""));
+    line.AddOption(
+        QLatin1String(JsonOption),
+        QLatin1String("Prints an object: kind, name, and path, the item's file, null without one. Asking for "
+                      "the path makes its folder, as on the display."));
+    if (const auto status = line.Read(arguments, 1, 2))
+        return *status;
+    const QString kind = line.Words().first();
+    const tagParameter* const item = ActiveItems::Find(kind);
+    if (!item) {
+        return line.Misused(QString::fromLatin1("there is no kind \"%1\"; the kinds are %2")
+                                .arg(kind, ActiveItems::Kinds().join(QLatin1String(", "))));
+    }
+    const bool isGiven = line.Words().size() > 1;
+    const QString name = line.Words().value(1);
+    QString error;
+    if (isGiven && !TParameterCatalogue::Read(*item, name, &error).isValid())
+        return line.Misused(error);
+
+    TSession session;
+    if (!session.Open(context))
+        return STATUS_FAILED;
+    if (isGiven && !ActiveItems::Select(session.Store(), *item, name))
+        return Fail(QString::fromLatin1("the %1 could not be stored").arg(kind));
+    if (line.IsSet(QLatin1String(JsonOption)))
+        PrintBytes(QJsonDocument(Json(*item)).toJson());
+    else if (!isGiven)
+        Print(ActiveItems::Name(*item) + QLatin1Char('\n'));
+    return STATUS_DONE;
+}
+
+int RunSelections(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(
+        QLatin1String("selections"), QString(),
+        QLatin1String("Lists what is active, by kind, and the path of its file. Asking for the paths makes "
+                      "the items' folders, as on the display."),
+        QLatin1String("cabsettings selections"));
+    line.AddOption(QLatin1String(JsonOption),
+                   QLatin1String("Prints an array of objects: kind, name (empty when nothing is selected), path (null "
+                                 "without one)."));
+    if (const auto status = line.Read(arguments, 0, 0))
+        return *status;
+
+    TSession session;
+    if (!session.Open(context))
+        return STATUS_FAILED;
+    const QList<const tagParameter*> items = ActiveItems::All();
+    if (line.IsSet(QLatin1String(JsonOption))) {
+        QJsonArray array;
+        for (const tagParameter* item : items)
+            array.append(Json(*item));
+        PrintBytes(QJsonDocument(array).toJson());
+        return STATUS_DONE;
+    }
+    QList<QStringList> rows = {{QLatin1String("kind"), QLatin1String("name"), QLatin1String("path")}};
+    for (const tagParameter* item : items)
+        rows.append({ActiveItems::Kind(*item), OrNone(ActiveItems::Name(*item)), OrNone(ActiveItems::Path(*item))});
+    PrintTable(rows);
+    return STATUS_DONE;
+}

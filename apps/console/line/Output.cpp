@@ -1,0 +1,67 @@
+#include "console/line/Output.h"
+
+#include "console/line/Command.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+const int Gap = 2; // blanks between columns
+
+/// Behind what stands on standard output already, where both are one terminal.
+void Say(const QString& text)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "cabsettings: %s\n", text.toUtf8().constData());
+}
+
+} // namespace
+
+void Print(const QString& text) { PrintBytes(text.toUtf8()); }
+
+void PrintBytes(const QByteArray& bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+}
+
+void PrintTable(const QList<QStringList>& rows)
+{
+    QList<int> widths;
+    for (const QStringList& row : rows) {
+        for (int i = 0; i < row.size(); ++i) {
+            if (i == widths.size())
+                widths.append(0);
+            widths[i] = qMax(widths[i], static_cast<int>(row[i].size()));
+        }
+    }
+    for (const QStringList& row : rows) {
+        QString line;
+        for (int i = 0; i < row.size(); ++i)
+            line += i + 1 < row.size() ? row[i].leftJustified(widths[i] + Gap) : row[i];
+        Print(line + QLatin1Char('\n'));
+    }
+}
+
+int Fail(const QString& text)
+{
+    Say(text);
+    return STATUS_FAILED;
+}
+
+int Misuse(const QString& text)
+{
+    Say(text);
+    return STATUS_MISUSED;
+}
+
+bool OutputFailed() { return std::ferror(stdout) != 0; }
+
+bool FlushOutput()
+{
+    if (std::fflush(stdout) == 0 && !OutputFailed())
+        return true;
+    Say(QString::fromLatin1("cannot write to standard output: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
+    return false;
+}

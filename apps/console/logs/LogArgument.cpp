@@ -1,0 +1,24 @@
+#include "console/logs/LogArgument.h"
+
+#include "console/logs/LogFiles.h"
+#include "console/terminal/Store.h"
+
+#include "terminal/DataFolder.h"
+
+bool IsLog(const QString& word, const TCommandLine& line)
+{
+    if (LogNames().contains(word))
+        return true;
+    line.Misused(
+        QString::fromLatin1("there is no log \"%1\"; the logs are %2").arg(word, LogNames().join(QLatin1String(", "))));
+    return false;
+}
+
+std::optional<QString> FindLogDrive(const tagContext& context)
+{
+    const auto store = OpenStore(context);
+    if (!store)
+        return std::nullopt;
+    const QString drive = store->GetParameter(PARAM_INTERNAL_DRIVE).toString();
+    return drive.isEmpty() ? DataFolder::InternalDrive(context.dataFolder) : drive;
+}
