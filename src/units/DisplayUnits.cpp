@@ -67,6 +67,12 @@ EUnitsType TUnits::DetermineDefaultUnitFromUnitsType(EUnitsType type)
     return unit ? unit->hub : type;
 }
 
+EUnitsType TUnits::GetStoredUnit(EUnitsType type)
+{
+    const tagUnit* const unit = FindUnit(type);
+    return unit ? unit->stored : type;
+}
+
 EUnitsType TUnits::DetermineActualUnitFromUnitsType(EUnitsType type)
 {
     if (IsSpecifiedPressureUnit(type))

@@ -256,12 +256,26 @@ public:
     /// itself.
     static bool CanConvert(EUnitsType from, EUnitsType to);
 
+    /// The unit through which a value of @p type converts: litres for volumes, metres per second for speeds, kilograms
+    /// of nitrogen for nitrogen. @p type itself when it is one, and for a number that is no unit. Two units with the
+    /// same hub convert by way of it where CanConvert() accepts both steps.
+    static EUnitsType GetConversionHub(EUnitsType type);
+
     /// The factor that turns a value in the hub of @p unitType (metres per second for speeds) into the unit with that
     /// abbreviation; 1 for an unknown abbreviation, and for temperatures, which no factor converts.
     static double GetConversionFactor(int unitType, const QString& abbreviation);
 
     /// The hub of the unit's quantity (km/h for speeds); the unit itself when it is one or has none.
     static EUnitsType DetermineDefaultUnitFromUnitsType(EUnitsType type);
+
+    /// The unit of the value that GetValueString() takes for @p type: metres for millimetres and feet, metres per
+    /// second for km/h, litres for millilitres, cubic metres, tonnes and bushels, and so on. @p type itself where
+    /// GetValueString() shows the value as it is (acres, pounds, …), and for a number that is no unit.
+    static EUnitsType GetStoredUnit(EUnitsType type);
+
+    /// Whether the size of the unit depends on PARAM_US_MEASURES: true for gallons and fluid ounces, alone and in
+    /// rates, flows, densities and pulse counts. False for those marked "(US)", and for a number that is no unit.
+    static bool DependsOnUSMeasures(EUnitsType type);
 
     /// The unit in which a quantity is shown, given its hub or metric unit; UNITS_NONE when the parameter that chooses
     /// is out of its range. Never one marked "(US)".
@@ -382,8 +396,10 @@ public:
     /// "DD/MM/YYYY" a Julian day as a date.
     static QString GetValueString(double value, const QString& unit, int precision, const tagThresholdSpec* spec);
 
-    /// The stored value, in the hub or metric unit @p type of its quantity, as the operator sees it. Units that are no
-    /// hub show the value as it is. DynamicPrecision asks for the precision by value, for the rates that have one.
+    /// The text that the operator sees for @p value, which is in GetStoredUnit(@p type): litres for UNITS_CUBIC_METERS,
+    /// metres per second for UNITS_KPH. @p type chooses the quantity; the parameters choose the unit that is shown.
+    /// Units without a choice (acres, pounds, …) show the value as it is. DynamicPrecision asks for the precision by
+    /// value, for the rates that have one.
     static QString GetValueString(double value, EUnitsType type, int precision, const tagThresholdSpec* spec);
 
     /// The same, split at the first blank.

@@ -406,3 +406,32 @@ bool TUnits::CanConvert(EUnitsType from, EUnitsType to)
     const tagConversion& conversion = Conversion(from, to);
     return conversion.route != Unchanged && !(conversion.isImperial && UnitSystem::IsMetric());
 }
+
+bool TUnits::DependsOnUSMeasures(EUnitsType type)
+{
+    return Conversion(DetermineDefaultUnitFromUnitsType(type), type).isImperial;
+}
+
+EUnitsType TUnits::GetConversionHub(EUnitsType type)
+{
+    switch (type) {
+    case UNITS_KPH:
+    case UNITS_MPH:
+        return UNITS_METERS_PER_SECOND;
+    case UNITS_LB_N:
+        return UNITS_KG_N;
+    case UNITS_KG_N_PER_AC:
+    case UNITS_LB_N_PER_AC:
+    case UNITS_LB_N_PER_HA:
+        return UNITS_KG_N_PER_HA;
+    case UNITS_LB_N_PER_MIN:
+        return UNITS_KG_N_PER_MIN;
+    case UNITS_METERS_PER_SECOND:
+    case UNITS_KG_N:
+    case UNITS_KG_N_PER_HA:
+    case UNITS_KG_N_PER_MIN:
+        return type;
+    default:
+        return DetermineDefaultUnitFromUnitsType(type);
+    }
+}

@@ -32,6 +32,16 @@ const double Values[] = {
 /// Changed by every conversion there is.
 const double Telling = 123.456;
 
+/// Units whose hub is not their default unit: speeds convert by metres per second, and nitrogen is weighed apart.
+struct tagOwnHub
+{
+    int first;
+    int last;
+    int hub;
+};
+
+const tagOwnHub OwnHubs[] = {{12, 14, 12}, {73, 74, 73}, {80, 83, 80}, {86, 87, 86}};
+
 QByteArray Told(double value, int from, int to, double result, double expected)
 {
     return Digits(value) + " from " + QByteArray::number(from) + " to " + QByteArray::number(to) + " gives " +
@@ -56,6 +66,8 @@ private slots:
     void onlyUnitsOfTwoSizesReadTheMeasures();
     void singleConversionsThatSurprise_data();
     void singleConversionsThatSurprise();
+    void everyUnitNamesItsHub_data() { onlyUnitsOfTwoSizesReadTheMeasures_data(); }
+    void everyUnitNamesItsHub();
 
 private:
     static void SetMeasures(TTestStore& store, int measures);
@@ -213,6 +225,21 @@ void UnitHubs::singleConversionsThatSurprise()
     TTestStore store;
     const double actual = TUnits::ConvertUnit(value, Unit(from), Unit(to));
     QVERIFY2(AreSame(actual, result), Told(value, from, to, actual, result));
+}
+
+void UnitHubs::everyUnitNamesItsHub()
+{
+    QFETCH(int, unit);
+    int expected = TUnits::DetermineDefaultUnitFromUnitsType(Unit(unit));
+    for (const tagOwnHub& own : OwnHubs)
+        expected = unit >= own.first && unit <= own.last ? own.hub : expected;
+    const QList<int> unconverted = QList<int>() << 17 << 46 << 79;
+    const TTestStore store;
+    const EUnitsType hub = TUnits::GetConversionHub(Unit(unit));
+    QCOMPARE(static_cast<int>(hub), expected);
+    QCOMPARE(TUnits::GetConversionHub(hub), hub);
+    QCOMPARE(TUnits::CanConvert(Unit(unit), hub), !unconverted.contains(unit));
+    QCOMPARE(TUnits::GetConversionHub(Unit(-1 - unit)), Unit(-1 - unit));
 }
 
 int main(int argc, char** argv) { return RunCoreTest<UnitHubs>(argc, argv); }
