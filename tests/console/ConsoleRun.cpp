@@ -20,6 +20,8 @@ private slots:
     void standardInputIsReadToItsEnd();
     void aSecondRunGoesOnInTheSameFiles();
     void anInterruptEndsInGoodOrder();
+    void furtherSignalsLoseNothing_data();
+    void furtherSignalsLoseNothing();
     void aStreamThatCannotBeReadIsAFailure_data();
     void aStreamThatCannotBeReadIsAFailure();
 
@@ -220,6 +222,42 @@ void ConsoleRun::anInterruptEndsInGoodOrder()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QVERIFY(process.readAllStandardOutput().contains("Clock"));
+}
+
+void ConsoleRun::furtherSignalsLoseNothing_data()
+{
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("further");
+    QTest::newRow("as timeout sends") << SIGINT << SIGINT;
+    QTest::newRow("as a terminal that closes sends") << SIGINT << SIGHUP;
+    QTest::newRow("as a shut-down sends") << SIGHUP << SIGTERM;
+}
+
+void ConsoleRun::furtherSignalsLoseNothing()
+{
+    QFETCH(int, first);
+    QFETCH(int, further);
+    signal(SIGHUP, SIG_DFL); // what runs under nohup ignores it
+    for (int round = 0; round < 5; ++round) {
+        const TConsole console;
+        QProcess process;
+        process.start(QLatin1String(CABSETTINGS_PROGRAM),
+                      {QLatin1String("--data"), console.DataFolder(), QLatin1String("run"), QLatin1String("--nmea"),
+                       QLatin1String("-")});
+        process.write("received before\r\n");
+        QTRY_VERIFY(!LogNames(console, "NMEA*.csv").isEmpty());
+        const auto pid = static_cast<pid_t>(process.processId());
+        kill(pid, first);
+        // From here to the end, but not until the program takes it for one that hangs. A process that has ended keeps
+        // its number until it is waited for.
+        const QDeadlineTimer patience(2000);
+        while (!process.waitForFinished(1) && !patience.hasExpired())
+            kill(pid, further);
+        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        QVERIFY(process.readAllStandardOutput().contains("removable")); // the summary's last line
+    }
 }
 
 void ConsoleRun::aStreamThatCannotBeReadIsAFailure_data()

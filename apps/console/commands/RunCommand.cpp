@@ -52,8 +52,9 @@ int RunRun(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("run"), QString(),
                       QLatin1String("Starts the terminal and feeds it an NMEA stream: the clock is set, the stream is "
-                                    "logged. Ends with the stream, or on an interrupt, with a summary. A server or a "
-                                    "serial device that is not there, or no longer, is waited for."),
+                                    "logged. Ends with the stream or on an interrupt, and prints a summary. If that "
+                                    "end takes longer than five seconds, another interrupt stops the program at once. "
+                                    "A server or a serial device that is not there, or no longer, is waited for."),
                       QLatin1String("cabsettings run --nmea field.nmea\n"
                                     "  cabsettings run --nmea - <field.nmea\n"
                                     "  cabsettings run --nmea tcp://localhost:2947\n"
