@@ -1,131 +1,23 @@
 #include "logs/TDiagnosticLog.h"
 
 #include "access/Parameters.h"
+#include "logs/TLogSeries.h"
 #include "platform/TFileSystemHelper.h"
 #include "platform/TLocalTime.h"
 
 #include <QByteArray>
-#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QTime>
 #include <QVarLengthArray>
 
-#include <dirent.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <limits>
-#include <memory>
-#include <string>
-#include <string_view>
-#include <tuple>
 
 namespace {
-
-const int LastIteration = 99999;
-const int IterationDigits = 5;
-
-int IterationAfter(int iteration) { return iteration >= 1 && iteration < LastIteration ? iteration + 1 : 1; }
-
-/// How the files of a log are named.
-struct tagSeries
-{
-    QString folder; ///< up to and including the last "/", empty for the current folder
-    QString stem;
-    QString extension; ///< with its dot
-
-    int NumberOf(const QString& fileName, bool* isNumbered) const
-    {
-        return fileName.mid(stem.size(), fileName.size() - stem.size() - extension.size()).toInt(isNumbered);
-    }
-};
-
-tagSeries SeriesOf(const QString& basePath)
-{
-    const auto fileStart = basePath.lastIndexOf(QLatin1Char('/')) + 1;
-    const QString file = basePath.mid(fileStart);
-    const auto dot = file.lastIndexOf(QLatin1Char('.'));
-    return {basePath.left(fileStart), file.left(dot), dot < 0 ? QString() : file.mid(dot)};
-}
-
-bool IsMissing(const tagSeries& series) { return !QDir(series.folder).exists(); }
-
-/// A file of a series with what orders it, read once.
-struct tagLogFile
-{
-    QString name;
-    qint64 size;
-    qint64 modified; ///< ms since 1970
-    bool isCurrent;  ///< the file this log wrote last
-    qint64 rank;     ///< greater for a later number, 00001 following 99999; -1 for a name without a number
-};
-
-/// Files written within one tick of the file system's clock have one modification time; then what was written last,
-/// and the numbers, tell the order.
-bool IsOlder(const tagLogFile& a, const tagLogFile& b)
-{
-    return std::tie(a.modified, a.isCurrent, a.rank) < std::tie(b.modified, b.isCurrent, b.rank);
-}
-
-/// Ranks numbers that are far below the greatest one after it: the series has gone round.
-void RankRound(std::vector<tagLogFile>& files)
-{
-    qint64 greatest = -1;
-    for (const tagLogFile& file : files)
-        greatest = std::max(greatest, file.rank);
-    for (tagLogFile& file : files) {
-        if (file.rank >= 0 && greatest - file.rank > LastIteration / 2)
-            file.rank += LastIteration;
-    }
-}
-
-bool IsOf(std::string_view stem, std::string_view extension, std::string_view name)
-{
-    return name.size() >= stem.size() + extension.size() && name.substr(0, stem.size()) == stem &&
-           name.substr(name.size() - extension.size()) == extension;
-}
-
-/// None when the folder does not exist.
-/// @param current path of the file this log wrote last
-/// @param isCurrentNewest takes that file for the newest, whatever its time
-std::vector<tagLogFile> FilesOldestFirst(const tagSeries& series, const QString& current, bool isCurrentNewest)
-{
-    // Read without Qt, which makes objects of every name: a folder may hold a thousand files of others. Compared name
-    // by name rather than by a wildcard, in which a "[" of the stem would be more than a letter.
-    const std::string stem = QFile::encodeName(series.stem).toStdString();
-    const std::string extension = QFile::encodeName(series.extension).toStdString();
-    const QByteArray path = series.folder.isEmpty() ? QByteArray(".") : QFile::encodeName(series.folder);
-    const bool hasName = !path.contains('\0'); // at which the system would take it for a shorter one
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(hasName ? opendir(path.constData()) : nullptr, &closedir);
-
-    const QString currentName = current.startsWith(series.folder) ? current.mid(series.folder.size()) : QString();
-    std::vector<tagLogFile> files;
-    while (const dirent* const entry = folder ? readdir(folder.get()) : nullptr) {
-        if (!IsOf(stem, extension, entry->d_name))
-            continue;
-        struct stat status = {};
-        if (fstatat(dirfd(folder.get()), entry->d_name, &status, 0) != 0 || !S_ISREG(status.st_mode))
-            continue;
-        const QString name = QFile::decodeName(entry->d_name);
-        if (QFile::encodeName(name) != entry->d_name)
-            continue; // no name that Qt could open
-        bool isNumbered = false;
-        const int number = series.NumberOf(name, &isNumbered);
-        const bool isCurrent = name == currentName;
-        const qint64 modified = isCurrent && isCurrentNewest ? std::numeric_limits<qint64>::max()
-                                                             : static_cast<qint64>(status.st_mtim.tv_sec) * 1000 +
-                                                                   status.st_mtim.tv_nsec / 1000000;
-        files.push_back({name, status.st_size, modified, isCurrent, isNumbered ? number : -1});
-    }
-
-    RankRound(files);
-    std::sort(files.begin(), files.end(), IsOlder);
-    return files;
-}
 
 /// How much got there: less than @p length only when the system takes no more.
 int WriteAll(int file, const char* data, int length)
@@ -330,15 +222,15 @@ TDiagnosticLog::tagExportResult TDiagnosticLog::ExportFile(const QString& target
     tagExportResult result = {0, 0, false};
     if (m_BasePath.isEmpty())
         return result;
-    const tagSeries series = SeriesOf(m_BasePath);
-    const std::vector<tagLogFile> files = FilesOldestFirst(series, m_FileName, false);
-    if (files.empty() && IsMissing(series))
+    const TLogSeries series(m_BasePath);
+    const std::vector<TLogSeries::tagFile> files = series.GetFiles(m_FileName);
+    if (files.empty() && !series.HasFolder())
         return result;
 
     result.filesFound = static_cast<int>(files.size());
     result.allCopied = true;
-    for (const tagLogFile& file : files) {
-        const QString source = QFileInfo(series.folder + file.name).absoluteFilePath();
+    for (const TLogSeries::tagFile& file : files) {
+        const QString source = QFileInfo(series.GetPath(file.name)).absoluteFilePath();
         const bool copied = TFileSystemHelper::FileCopy(source, target + QLatin1Char('/') + file.name, true);
         ++result.filesHandled;
         result.allCopied = result.allCopied && copied;
@@ -352,29 +244,34 @@ QString TDiagnosticLog::NextFileName(ENewest newestIs)
 {
     if (m_BasePath.isEmpty())
         return QString();
-    const tagSeries series = SeriesOf(m_BasePath);
-    const std::vector<tagLogFile> files = FilesOldestFirst(series, m_FileName, newestIs == NEWEST_IS_CURRENT);
-    if (files.empty() && IsMissing(series))
+    const TLogSeries series(m_BasePath);
+    std::vector<TLogSeries::tagFile> files = series.GetFiles(m_FileName);
+    if (files.empty() && !series.HasFolder())
         return QString();
+    if (newestIs == NEWEST_IS_CURRENT) {
+        std::stable_partition(files.begin(), files.end(), [this, &series](const TLogSeries::tagFile& file) {
+            return series.GetPath(file.name) != m_FileName;
+        });
+    }
 
     if (!files.empty()) {
-        const tagLogFile& newest = files.back();
-        bool isNumbered = false;
-        const int number = series.NumberOf(newest.name, &isNumbered);
-        if (isNumbered)
-            m_Iteration = IterationAfter(number); // goes on after the files even if the stored number was lost
+        const TLogSeries::tagFile& newest = files.back();
+        if (newest.number)
+            m_Iteration = TLogSeries::GetNumberAfter(*newest.number); // the stored number may have been lost
         if (newest.size < m_MaxFileSize)
-            return series.folder + newest.name;
+            return series.GetPath(newest.name);
         if (static_cast<int>(files.size()) >= m_MaxFileCount)
-            QFile::remove(series.folder + files.front().name);
+            QFile::remove(series.GetPath(files.front().name));
     }
-    return series.folder + series.stem + NextLogFileIterationNumber() + series.extension;
+    const QString path = series.GetPath(series.GetName(m_Iteration));
+    NextLogFileIterationNumber();
+    return path;
 }
 
 QString TDiagnosticLog::NextLogFileIterationNumber()
 {
-    QString number = QString::number(m_Iteration).rightJustified(IterationDigits, QLatin1Char('0'));
-    m_Iteration = IterationAfter(m_Iteration);
+    const QString number = TLogSeries::GetNumberText(m_Iteration);
+    m_Iteration = TLogSeries::GetNumberAfter(m_Iteration);
     Parameters::WriteInt(m_IterationParam, m_Iteration);
     return number;
 }

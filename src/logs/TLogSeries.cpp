@@ -1,0 +1,101 @@
+#include "logs/TLogSeries.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <tuple>
+
+namespace {
+
+const int LastNumber = 99999;
+const int NumberDigits = 5;
+
+std::string_view View(const QByteArray& bytes)
+{
+    return std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+bool IsOf(std::string_view stem, std::string_view extension, std::string_view name)
+{
+    return name.size() >= stem.size() + extension.size() && name.substr(0, stem.size()) == stem &&
+           name.substr(name.size() - extension.size()) == extension;
+}
+
+/// The order of numbers in a series whose greatest number is @p greatest: a number far below it comes after it, since
+/// the series has gone round. Less than 0 without a number.
+qint64 Rank(const std::optional<int>& number, int greatest)
+{
+    const qint64 rank = number.value_or(-1);
+    return rank >= 0 && greatest - rank > LastNumber / 2 ? rank + LastNumber : rank;
+}
+
+} // namespace
+
+TLogSeries::TLogSeries(const QString& basePath)
+{
+    const auto fileStart = basePath.lastIndexOf(QLatin1Char('/')) + 1;
+    const QString file = basePath.mid(fileStart);
+    const auto dot = file.lastIndexOf(QLatin1Char('.'));
+    m_Folder = basePath.left(fileStart);
+    m_Stem = file.left(dot);
+    m_Extension = dot < 0 ? QString() : file.mid(dot);
+}
+
+bool TLogSeries::HasFolder() const { return QDir(m_Folder).exists(); }
+
+QString TLogSeries::GetPath(const QString& name) const { return m_Folder + name; }
+
+QString TLogSeries::GetName(int number) const { return m_Stem + GetNumberText(number) + m_Extension; }
+
+std::vector<TLogSeries::tagFile> TLogSeries::GetFiles(const QString& lastWritten) const
+{
+    // Read without Qt, which makes objects of every name: a folder may hold a thousand other files. Names are compared
+    // letter by letter, since in a wildcard a "[" of the stem would stand for something else.
+    const QByteArray stem = QFile::encodeName(m_Stem);
+    const QByteArray extension = QFile::encodeName(m_Extension);
+    const QByteArray path = m_Folder.isEmpty() ? QByteArray(".") : QFile::encodeName(m_Folder);
+    const bool isPath = !path.contains('\0'); // the system would end the path at a zero and read another folder
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(isPath ? opendir(path.constData()) : nullptr, &closedir);
+
+    std::vector<tagFile> files;
+    int greatest = -1;
+    while (const dirent* const entry = folder ? readdir(folder.get()) : nullptr) {
+        if (!IsOf(View(stem), View(extension), entry->d_name))
+            continue;
+        struct stat status = {};
+        if (fstatat(dirfd(folder.get()), entry->d_name, &status, 0) != 0 || !S_ISREG(status.st_mode))
+            continue;
+        const QString name = QFile::decodeName(entry->d_name);
+        if (QFile::encodeName(name) != entry->d_name)
+            continue; // Qt could not open a file of this name
+        bool isNumbered = false;
+        const int number = name.mid(m_Stem.size(), name.size() - m_Stem.size() - m_Extension.size()).toInt(&isNumbered);
+        const qint64 modified = static_cast<qint64>(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1000000;
+        files.push_back({name, status.st_size, modified, isNumbered ? std::optional<int>(number) : std::nullopt});
+        if (isNumbered)
+            greatest = std::max(greatest, number);
+    }
+
+    // Files written within one tick of the file system's clock have the same time.
+    const QString newest = lastWritten.startsWith(m_Folder) ? lastWritten.mid(m_Folder.size()) : QString();
+    const auto key = [&newest, greatest](const tagFile& file) {
+        return std::make_tuple(file.modified, file.name == newest, Rank(file.number, greatest), file.name);
+    };
+    std::sort(files.begin(), files.end(), [&key](const tagFile& a, const tagFile& b) { return key(a) < key(b); });
+    return files;
+}
+
+QString TLogSeries::GetNumberText(int number)
+{
+    return QString::number(number).rightJustified(NumberDigits, QLatin1Char('0'));
+}
+
+int TLogSeries::GetNumberAfter(int number) { return number >= 1 && number < LastNumber ? number + 1 : 1; }

@@ -1,0 +1,151 @@
+#include "CoreTest.h"
+#include "Latin1.h"
+#include "TLogRoom.h"
+
+#include "logs/TLogSeries.h"
+
+#include <QtTest>
+
+/// What a tool learns of the files of a log: the same as the log itself goes by.
+class LogFileList : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void filesAreListedFromTheOldestToTheNewest_data();
+    void filesAreListedFromTheOldestToTheNewest();
+    void theFileWrittenLastIsTheNewestOfEqualOnes();
+    void aFileIsListedWithItsSizeTimeAndNumber();
+    void theLogGoesOnInTheLastFileOfTheList_data();
+    void theLogGoesOnInTheLastFileOfTheList();
+    void aMissingFolderHasNoFiles();
+    void aNumberIsWrittenInFiveDigits_data();
+    void aNumberIsWrittenInFiveDigits();
+};
+
+namespace {
+
+/// Makes the files of "user00001.log@5 userguide.log@7", each modified at the given second.
+void MakeFiles(const TLogRoom& room, const QString& files)
+{
+    const QStringList words = files.split(QLatin1Char(' '));
+    for (const QString& word : words)
+        room.MakeFile(word.section(QLatin1Char('@'), 0, 0), 10, word.section(QLatin1Char('@'), 1).toInt());
+}
+
+QString Names(const std::vector<TLogSeries::tagFile>& files)
+{
+    QStringList names;
+    for (const TLogSeries::tagFile& file : files)
+        names.append(file.name);
+    return names.join(Latin1(" "));
+}
+
+const struct
+{
+    const char* name;
+    const char* files;
+    const char* oldestFirst;
+} Folders[] = {
+    {"by time", "user00001.log@3 user00002.log@1 user00003.log@2", "user00002.log user00003.log user00001.log"},
+    {"by number at equal times", "user00010.log@1 user00009.log@1 user00011.log@1",
+     "user00009.log user00010.log user00011.log"},
+    {"round the last number", "user00001.log@1 user99999.log@1 user99998.log@1",
+     "user99998.log user99999.log user00001.log"},
+    {"without a number", "user00001.log@1 userguide.log@1 user.log@1", "user.log userguide.log user00001.log"},
+    {"without a number, but newer", "user00001.log@1 userguide.log@2", "user00001.log userguide.log"},
+    {"of others", "user00001.log@1 other00002.log@2 user00003.txt@3 user00004.log.bak@4", "user00001.log"},
+};
+
+} // namespace
+
+void LogFileList::filesAreListedFromTheOldestToTheNewest_data()
+{
+    QTest::addColumn<QString>("files");
+    QTest::addColumn<QString>("oldestFirst");
+    for (const auto& folder : Folders)
+        QTest::newRow(folder.name) << Latin1(folder.files) << Latin1(folder.oldestFirst);
+}
+
+void LogFileList::filesAreListedFromTheOldestToTheNewest()
+{
+    QFETCH(QString, files);
+    QFETCH(QString, oldestFirst);
+    const TLogRoom room;
+    MakeFiles(room, files);
+    QCOMPARE(Names(TLogSeries(room.Base()).GetFiles()), oldestFirst);
+}
+
+void LogFileList::theFileWrittenLastIsTheNewestOfEqualOnes()
+{
+    const TLogRoom room;
+    MakeFiles(room, Latin1("user00001.log@5 user00002.log@5 user00003.log@5"));
+    const TLogSeries series(room.Base());
+    QCOMPARE(Names(series.GetFiles(series.GetPath(room.Numbered(1)))),
+             Latin1("user00002.log user00003.log user00001.log"));
+    QCOMPARE(Names(series.GetFiles(Latin1("/elsewhere/user00001.log"))),
+             Latin1("user00001.log user00002.log user00003.log"));
+}
+
+void LogFileList::aFileIsListedWithItsSizeTimeAndNumber()
+{
+    const TLogRoom room;
+    room.MakeFile(42, 123, 7);
+    room.MakeFile(Latin1("user42a.log"), 5, 8);
+    const std::vector<TLogSeries::tagFile> files = TLogSeries(room.Base()).GetFiles();
+    QCOMPARE(static_cast<int>(files.size()), 2);
+    QCOMPARE(files[0].size, qint64(123));
+    QCOMPARE(files[0].modified, qint64(1700000007) * 1000);
+    QCOMPARE(files[0].number.value_or(-1), 42);
+    QVERIFY(!files[1].number);
+}
+
+void LogFileList::theLogGoesOnInTheLastFileOfTheList_data() { filesAreListedFromTheOldestToTheNewest_data(); }
+
+void LogFileList::theLogGoesOnInTheLastFileOfTheList()
+{
+    QFETCH(QString, files);
+    const TLogRoom room;
+    MakeFiles(room, files);
+    const TLogSeries series(room.Base());
+    const TLogSeries::tagFile newest = series.GetFiles().back();
+    TDiagnosticLog log(0, 100, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QVERIFY(Log(log, "new"));
+    QCOMPARE(room.Content(newest.name), QByteArray(10, 'x') + "new");
+}
+
+void LogFileList::aMissingFolderHasNoFiles()
+{
+    const TLogRoom room;
+    QVERIFY(TLogSeries(room.Base()).HasFolder());
+    const TLogSeries missing(room.Path(Latin1("missing/user.log")));
+    QVERIFY(!missing.HasFolder());
+    QVERIFY(missing.GetFiles().empty());
+}
+
+void LogFileList::aNumberIsWrittenInFiveDigits_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("next");
+    QTest::newRow("first") << 1 << Latin1("user00001.log") << 2;
+    QTest::newRow("last but one") << 99998 << Latin1("user99998.log") << 99999;
+    QTest::newRow("last") << 99999 << Latin1("user99999.log") << 1;
+    QTest::newRow("past the last") << 100000 << Latin1("user100000.log") << 1;
+    QTest::newRow("zero") << 0 << Latin1("user00000.log") << 1;
+    QTest::newRow("negative") << -7 << Latin1("user000-7.log") << 1;
+}
+
+void LogFileList::aNumberIsWrittenInFiveDigits()
+{
+    QFETCH(int, number);
+    QFETCH(QString, name);
+    QFETCH(int, next);
+    QCOMPARE(TLogSeries(Latin1("/logs/user.log")).GetName(number), name);
+    QCOMPARE(TLogSeries::GetNumberAfter(number), next);
+}
+
+int main(int argc, char** argv) { return RunCoreTest<LogFileList>(argc, argv); }
+
+#include "LogFileList.moc"
