@@ -1,4 +1,4 @@
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/Manual.h"
 #include "console/line/Output.h"
 

@@ -1,15 +1,15 @@
 // clock: what the display's clock shows, and the two ways to set it.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
+#include "console/terminal/UtcOffset.h"
 
 #include "region/TRegionSettingsProxy.h"
 #include "stores/TPersistenceHold.h"
 
 #include <QDateTime>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 
@@ -20,10 +20,7 @@
 
 namespace {
 
-const char* const JsonOption = "json";
-
 const int SecondsPerHour = 60 * 60;
-const int SecondsPerMinute = 60;
 
 /// The store holds the distance between the display's clock and the machine's in seconds; a day is left for the offset
 /// from UTC.
@@ -45,19 +42,6 @@ constexpr tagSource ByMachine = {"machine", "the machine's clock and time zone; 
                                  false};
 constexpr tagSource ByHand = {"hand", "set by hand, or by GPS at no offset from UTC", "nobody", "not set", false};
 
-struct tagOffset
-{
-    int hours;
-    int minutes;
-
-    int Seconds() const { return hours * SecondsPerHour + minutes * SecondsPerMinute; }
-};
-
-tagOffset Offset(TParameterStore& store)
-{
-    return {store.GetParameter(PARAM_UTC_OFFSET_HOURS).toInt(), store.GetParameter(PARAM_UTC_OFFSET_MINUTES).toInt()};
-}
-
 /// Whether the machine's zone is that far from UTC in winter or in summer: the clock of a first start stays with the
 /// season in which it was.
 bool IsOfMachinesZone(int offset)
@@ -76,19 +60,9 @@ tagSource Source(TParameterStore& store)
 {
     if (store.GetParameter(PARAM_UTC_OFFSET_SET_BY_USER).toBool())
         return ByOperator;
-    if (Offset(store).Seconds() != 0)
+    if (StoredUtcOffset(store).Seconds() != 0)
         return ByGps;
     return IsOfMachinesZone(store.GetParameter(PARAM_CLOCK_OFFSET).toInt()) ? ByMachine : ByHand;
-}
-
-/// "+05:30"
-QString OffsetText(const tagOffset& offset)
-{
-    const int minutes = std::abs(offset.Seconds()) / SecondsPerMinute;
-    return QString::fromLatin1("%1%2:%3")
-        .arg(QLatin1Char(offset.Seconds() < 0 ? '-' : '+'))
-        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
-        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 
 int RunShowClock(const tagContext& context, const QStringList& arguments)
@@ -97,8 +71,7 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
                       QLatin1String("Prints the display's date and time, UTC, the offset between them, where the time "
                                     "comes from and who has set the offset, as far as the settings tell."),
                       QLatin1String("cabsettings clock"));
-    line.AddOption(
-        QLatin1String(JsonOption),
+    line.AddJsonOption(
         QLatin1String("Prints an object: date and time as the display shows them, local, utc, utcFrom (offset "
                       "or machine), source (machine, hand, gps), offsetHours, offsetMinutes, offsetSetBy "
                       "(operator, gps, nobody), machineOffset (the clock less the machine's, in seconds)."));
@@ -106,17 +79,17 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
         return *status;
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     TParameterStore& store = session.Store();
     const TRegionSettingsProxy region;
-    const tagOffset offset = Offset(store);
+    const tagUtcOffset offset = StoredUtcOffset(store);
     const tagSource source = Source(store);
     const QDateTime local = region.GetDateTime();
     const QDateTime utc = source.isOffsetInUse ? local.addSecs(-offset.Seconds()) : QDateTime::currentDateTimeUtc();
     const QString localText = local.toString(QLatin1String("yyyy-MM-dd'T'HH:mm:ss"));
     const QString utcText = utc.toString(Qt::ISODate);
-    if (line.IsSet(QLatin1String(JsonOption))) {
+    if (line.WantsJson()) {
         const QJsonObject object{
             {QLatin1String("date"), region.GetDateString()},
             {QLatin1String("time"), region.GetTimeString()},
@@ -129,7 +102,7 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
             {QLatin1String("offsetSetBy"), QLatin1String(source.offsetSetBy)},
             {QLatin1String("machineOffset"), store.GetParameter(PARAM_CLOCK_OFFSET).toInt()},
         };
-        PrintBytes(QJsonDocument(object).toJson());
+        PrintJson(object);
         return STATUS_DONE;
     }
     PrintTable({
@@ -137,8 +110,7 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
         {QLatin1String("UTC"),
          QString::fromLatin1("%1 (%2)").arg(
              utcText, QLatin1String(source.isOffsetInUse ? "local less the offset" : "the machine's clock"))},
-        {QLatin1String("offset"),
-         QString::fromLatin1("%1 (%2)").arg(OffsetText(offset), QLatin1String(source.offsetWords))},
+        {QLatin1String("offset"), QString::fromLatin1("%1 (%2)").arg(offset.Text(), QLatin1String(source.offsetWords))},
         {QLatin1String("source"), QLatin1String(source.words)},
     });
     return STATUS_DONE;
@@ -188,7 +160,7 @@ bool IsInReach(const QDateTime& wanted, const TCommandLine& line)
 int SetClock(const tagContext& context, const std::function<void(TRegionSettingsProxy& region)>& set)
 {
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     // The façade tells nobody whether the clock has reached the disk; the end of a hold does.
     TPersistenceHold hold(session.Store());
@@ -266,7 +238,7 @@ const tagCommand Commands[] = {
 int RunClock(const tagContext& context, const QStringList& arguments)
 {
     const QString word = arguments.value(1);
-    if (word.isEmpty() || word == QLatin1String("--") + QLatin1String(JsonOption))
+    if (word.isEmpty() || word == QLatin1String("--json"))
         return RunShowClock(context, arguments);
     return Dispatch(QLatin1String("cabsettings clock"), Commands, context, arguments.mid(1));
 }

@@ -1,17 +1,15 @@
 // colors: the two schemes of the display.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
-#include "console/terminal/Store.h"
+#include "console/terminal/Session.h"
 
 #include "parameters/ParameterText.h"
 #include "parameters/TParameterCatalogue.h"
-#include "terminal/FirstStartValues.h"
 
 #include <QColor>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <unistd.h>
@@ -19,7 +17,6 @@
 namespace {
 
 const char* const ColorOption = "color";
-const char* const JsonOption = "json";
 
 const char* const Day = "day";
 const char* const Night = "night";
@@ -85,13 +82,6 @@ QString Cell(TParameterStore& store, const QString& mode, const tagElement& elem
         .arg(QLatin1String(Unpainted), text);
 }
 
-void PrintLine(QString line)
-{
-    while (line.endsWith(QLatin1Char(' ')))
-        line.chop(1);
-    Print(line + QLatin1Char('\n'));
-}
-
 void PrintElements(TParameterStore& store, const QStringList& modes, bool isPainted)
 {
     const QList<tagElement> elements = Elements();
@@ -104,12 +94,12 @@ void PrintElements(TParameterStore& store, const QStringList& modes, bool isPain
         titles += isPainted ? QLatin1String(Unpainted) + QLatin1Char(' ') : QString();
         titles += mode.leftJustified(ValueWidth + Gap);
     }
-    PrintLine(titles);
+    PrintTrimmed(titles);
     for (const tagElement& element : elements) {
         QString line = element.name.leftJustified(width);
         for (const QString& mode : modes)
             line += Cell(store, mode, element, isPainted);
-        PrintLine(line);
+        PrintTrimmed(line);
     }
 }
 
@@ -187,8 +177,7 @@ int RunColors(const tagContext& context, const QStringList& arguments)
         QLatin1String("Paints a patch of each colour: always, never, or auto: on a terminal that can, unless "
                       "NO_COLOR is set."),
         QLatin1String("WHEN"), QLatin1String("auto"));
-    line.AddOption(
-        QLatin1String(JsonOption),
+    line.AddJsonOption(
         QLatin1String("Prints an object: mode, colors (name, day, night), numbers (name, day, night), levels "
                       "(name, value, unit)."));
     if (const auto status = line.Read(arguments, 0, 1))
@@ -205,18 +194,18 @@ int RunColors(const tagContext& context, const QStringList& arguments)
     if (!QStringList{QLatin1String("always"), QLatin1String("never"), QLatin1String("auto")}.contains(when))
         return line.Misused(QString::fromLatin1("--color takes always, never or auto, not \"%1\"").arg(when));
 
-    const auto store = OpenStore(context);
-    if (!store)
+    TSession session;
+    if (!session.Open(context, SESSION_STORE))
         return STATUS_FAILED;
-    SetFirstStartValues(*store);
-    const QString active = QLatin1String(store->GetParameter(PARAM_DAY_MODE).toBool() ? Day : Night);
-    if (line.IsSet(QLatin1String(JsonOption))) {
-        PrintBytes(QJsonDocument(Json(*store, active, modes)).toJson());
+    TParameterStore& store = session.Store();
+    const QString active = QLatin1String(store.GetParameter(PARAM_DAY_MODE).toBool() ? Day : Night);
+    if (line.WantsJson()) {
+        PrintJson(Json(store, active, modes));
         return STATUS_DONE;
     }
     Print(QString::fromLatin1("Active: %1\n\n").arg(active));
-    PrintElements(*store, modes, when == QLatin1String("always") || (when == QLatin1String("auto") && CanPaint()));
+    PrintElements(store, modes, when == QLatin1String("always") || (when == QLatin1String("auto") && CanPaint()));
     if (modes.contains(QLatin1String(Night)))
-        PrintLevels(*store);
+        PrintLevels(store);
     return STATUS_DONE;
 }

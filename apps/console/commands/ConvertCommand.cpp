@@ -1,15 +1,14 @@
 // convert: a value, or a column of values, from one unit to another.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/units/Conversion.h"
 #include "console/units/CsvColumn.h"
+#include "console/units/UnitArguments.h"
 #include "console/units/UnitNames.h"
-#include "console/units/UnitSession.h"
 
 #include <QFile>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cmath>
@@ -19,7 +18,6 @@ namespace {
 
 const char* const CsvOption = "csv";
 const char* const DigitsOption = "digits";
-const char* const JsonOption = "json";
 
 /// The place of the column in a line, from 0: a number from 1, or a name that the first line must hold.
 struct tagColumn
@@ -125,7 +123,7 @@ int PrintConversion(double value, EUnitsType from, EUnitsType to, const TConvers
                                  {QLatin1String("to"), UnitNames::Name(to)},
                                  {QLatin1String("result"), result},
                                  {QLatin1String("decision"), route.Decision()}};
-        PrintBytes(QJsonDocument(object).toJson());
+        PrintJson(object);
         return STATUS_DONE;
     }
     Print(QString::fromLatin1("%1 %2 = %3 %4\n")
@@ -151,8 +149,8 @@ int RunConvert(const tagContext& context, const QStringList& arguments)
                    QLatin1String("COLUMN"));
     line.AddOption(QLatin1String(DigitsOption), QLatin1String("Significant digits of the result."), QLatin1String("N"),
                    QLatin1String("7"));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an object."));
-    TUnitSession::AddOptions(line);
+    line.AddJsonOption(QLatin1String("Prints an object."));
+    AddMeasuresOption(line);
     if (const auto status = line.Read(arguments, 2, 3))
         return *status;
 
@@ -173,8 +171,8 @@ int RunConvert(const tagContext& context, const QStringList& arguments)
     if (!value)
         return STATUS_MISUSED;
 
-    TUnitSession session;
-    if (const auto status = session.Open(context, line))
+    TSession session;
+    if (const auto status = OpenUnits(session, context, line))
         return *status;
     const auto from = ReadUnit(line, words.at(words.size() - 2));
     if (!from)
@@ -188,5 +186,5 @@ int RunConvert(const tagContext& context, const QStringList& arguments)
         return Fail(problem);
     if (isTable)
         return TCsvConverter(column, *route, *digits).Run();
-    return PrintConversion(*value, *from, *to, *route, *digits, line.IsSet(QLatin1String(JsonOption)));
+    return PrintConversion(*value, *from, *to, *route, *digits, line.WantsJson());
 }

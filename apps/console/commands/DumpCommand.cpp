@@ -1,7 +1,7 @@
 // dump: what stands in a file of serialized blocks.
 
+#include "console/commands/Commands.h"
 #include "console/commands/SerializedFile.h"
-#include "console/line/Command.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 
@@ -17,7 +17,6 @@ namespace {
 using namespace SerializedFile;
 
 const char* const ValuesOption = "values";
-const char* const JsonOption = "json";
 
 const qint64 LargestFile = 1 << 30;
 const int BytesInRow = 16;
@@ -55,9 +54,7 @@ void PrintValue(const tagValue& value)
             line += AsText(row);
         else if (i == 0)
             line += QString::fromLatin1("%1 %2").arg(value.type, -7).arg(Compact(value.value));
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
-        Print(line + QLatin1Char('\n'));
+        PrintTrimmed(line);
     }
 }
 
@@ -91,7 +88,7 @@ void PrintJson(const QList<tagBlock>& blocks)
                                  {QLatin1String("version"), static_cast<qint64>(block.version)},
                                  {QLatin1String("values"), values}});
     }
-    PrintBytes(QJsonDocument(array).toJson());
+    PrintJson(array);
 }
 
 /// "string,int" as its types; empty when one of them is unknown, which was said.
@@ -123,7 +120,7 @@ int RunDump(const tagContext&, const QStringList& arguments)
                                        "those of the next block; the last are also those of all further ones.")
                        .arg(Types().join(QLatin1String(", "))),
                    QLatin1String("TYPES"));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an array of blocks."));
+    line.AddJsonOption(QLatin1String("Prints an array of blocks."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
 
@@ -147,7 +144,7 @@ int RunDump(const tagContext&, const QStringList& arguments)
         return Fail(QString::fromLatin1("\"%1\" is larger than 1 GiB").arg(path));
 
     const tagContent content = Read(bytes, layouts);
-    if (line.IsSet(QLatin1String(JsonOption)))
+    if (line.WantsJson())
         PrintJson(content.blocks);
     else
         PrintText(content.blocks);

@@ -1,21 +1,18 @@
 // list and describe: the catalogue of parameters, with the values that they have.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/ParameterArgument.h"
-#include "console/terminal/Store.h"
+#include "console/terminal/Session.h"
 
 #include "parameters/ParameterText.h"
-#include "terminal/FirstStartValues.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QRegularExpression>
 
 namespace {
 
-const char* const JsonOption = "json";
 const char* const MarkdownOption = "markdown";
 const char* const NotSet = "(not set)";
 
@@ -98,7 +95,7 @@ int RunList(const tagContext& context, const QStringList& arguments)
         QLatin1String("Lists the parameters: number, name, type and value. PATTERN is a part of the name, "
                       "or a number or name with * and ?."),
         QLatin1String("cabsettings list units"));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an array of objects."));
+    line.AddJsonOption(QLatin1String("Prints an array of objects."));
     line.AddOption(QLatin1String(MarkdownOption), QLatin1String("Prints the table of the documentation: every "
                                                                 "parameter, and no values."));
     if (const auto status = line.Read(arguments, 0, 1))
@@ -108,12 +105,12 @@ int RunList(const tagContext& context, const QStringList& arguments)
         return STATUS_DONE;
     }
     const QString pattern = line.Words().value(0);
-    const auto store = OpenStore(context);
-    if (!store)
+    TSession session;
+    if (!session.Open(context, SESSION_STORE))
         return STATUS_FAILED;
-    SetFirstStartValues(*store);
+    TParameterStore& store = session.Store();
 
-    const QMap<int, QVariant> values = ListedValues(*store);
+    const QMap<int, QVariant> values = ListedValues(store);
     QList<QStringList> rows;
     QJsonArray array;
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
@@ -122,8 +119,8 @@ int RunList(const tagContext& context, const QStringList& arguments)
         rows.append(Row(it.key(), it.value()));
         array.append(ParameterJson(it.key(), it.value()));
     }
-    if (line.IsSet(QLatin1String(JsonOption)))
-        PrintBytes(QJsonDocument(array).toJson());
+    if (line.WantsJson())
+        PrintJson(array);
     else
         PrintTable(rows);
     return rows.isEmpty() ? Fail(QString::fromLatin1("no parameter fits \"%1\"").arg(pattern)) : STATUS_DONE;
@@ -135,22 +132,22 @@ int RunDescribe(const tagContext& context, const QStringList& arguments)
                       QLatin1String("Explains a parameter, given by name or number: what it means, what it accepts, "
                                     "what changes with it."),
                       QLatin1String("cabsettings describe units.area"));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an object."));
+    line.AddJsonOption(QLatin1String("Prints an object."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const auto parameter = ReadParameter(line.Words().first(), line);
     if (!parameter)
         return STATUS_MISUSED;
-    const auto store = OpenStore(context);
-    if (!store)
+    TSession session;
+    if (!session.Open(context, SESSION_STORE))
         return STATUS_FAILED;
-    SetFirstStartValues(*store);
+    TParameterStore& store = session.Store();
 
-    const QVariant value = store->GetParameter(parameter->id);
+    const QVariant value = store.GetParameter(parameter->id);
     if (!parameter->known && !value.isValid())
         return Fail(QString::fromLatin1("%1 is not set, and the library does not use it").arg(parameter->Name()));
-    if (line.IsSet(QLatin1String(JsonOption)))
-        PrintBytes(QJsonDocument(ParameterJson(parameter->id, value)).toJson());
+    if (line.WantsJson())
+        PrintJson(ParameterJson(parameter->id, value));
     else if (parameter->known)
         PrintDescription(*parameter->known, value);
     else

@@ -1,6 +1,6 @@
 // log: the group of its commands; log add and log export, which need a terminal that runs.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
@@ -10,14 +10,11 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <limits>
 
 namespace {
-
-const char* const JsonOption = "json";
 
 int RunAdd(const tagContext& context, const QStringList& arguments)
 {
@@ -40,7 +37,7 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
         return STATUS_MISUSED;
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     const bool isLogged = TUserDiagnosticLogProxy().AddEntry(static_cast<EDiagnosticComponent>(*component),
                                                              static_cast<EDiagnosticType>(*type), *code,
@@ -69,8 +66,7 @@ int RunExport(const tagContext& context, const QStringList& arguments)
     TCommandLine line(QLatin1String("log export"), QLatin1String("DIR"),
                       QLatin1String("Copies every file of both logs into a folder, down to the disk."),
                       QLatin1String("cabsettings log export /media/usb"));
-    line.AddOption(QLatin1String(JsonOption),
-                   QLatin1String("Prints an array of objects: log, files (how many there are), complete."));
+    line.AddJsonOption(QLatin1String("Prints an array of objects: log, files (how many there are), complete."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const QString target = line.Words().first();
@@ -78,16 +74,16 @@ int RunExport(const tagContext& context, const QStringList& arguments)
         return Fail(QString::fromLatin1("%1 is not a folder; logs are exported into an existing folder").arg(target));
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     TUserDiagnosticLogProxy userLog;
     TNEMADiagnosticLogProxy nmeaLog;
-    const bool isJson = line.IsSet(QLatin1String(JsonOption));
+    const bool isJson = line.WantsJson();
     QJsonArray array;
     const bool isUserCopied = ExportOne(userLog, "user", "user log", target, isJson ? &array : nullptr);
     const bool isNmeaCopied = ExportOne(nmeaLog, "nmea", "NMEA log", target, isJson ? &array : nullptr);
     if (isJson)
-        PrintBytes(QJsonDocument(array).toJson());
+        PrintJson(array);
     return isUserCopied && isNmeaCopied ? STATUS_DONE : STATUS_FAILED;
 }
 

@@ -1,6 +1,6 @@
 // log list: the files of the logs.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/logs/LogArgument.h"
@@ -8,14 +8,9 @@
 
 #include <QDateTime>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
-namespace {
-
-const char* const JsonOption = "json";
-
-} // namespace
+namespace {} // namespace
 
 int RunLogList(const tagContext& context, const QStringList& arguments)
 {
@@ -26,9 +21,9 @@ int RunLogList(const tagContext& context, const QStringList& arguments)
                             "which the log goes on.")
             .arg(LogNames().join(QLatin1String(", "))),
         QLatin1String("cabsettings log list"));
-    line.AddOption(QLatin1String(JsonOption),
-                   QLatin1String("Prints an array of objects: log, file, path, number (null in a name without one), "
-                                 "size, modified, newest."));
+    line.AddJsonOption(
+        QLatin1String("Prints an array of objects: log, file, path, number (null in a name without one), "
+                      "size, modified, newest."));
     if (const auto status = line.Read(arguments, 0, 1))
         return *status;
     const QStringList wanted = line.Words().isEmpty() ? LogNames() : line.Words();
@@ -61,8 +56,8 @@ int RunLogList(const tagContext& context, const QStringList& arguments)
                 rows.last().append(QLatin1String("newest"));
         }
     }
-    if (line.IsSet(QLatin1String(JsonOption)))
-        PrintBytes(QJsonDocument(array).toJson());
+    if (line.WantsJson())
+        PrintJson(array);
     else
         PrintTable(rows);
     return STATUS_DONE;

@@ -1,6 +1,6 @@
 // log tail: the newest lines of a log, and those that come.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/line/QuitOnSignal.h"
@@ -11,7 +11,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QTimer>
 
@@ -21,7 +20,6 @@
 
 namespace {
 
-const char* const JsonOption = "json";
 const char* const LinesOption = "n";
 const char* const FollowOption = "follow";
 
@@ -80,14 +78,14 @@ public:
         QJsonArray array;
         for (const tagLogLine& line : lines) {
             if (!m_IsJson)
-                Print(Harmless(line.text) + QLatin1Char('\n'));
+                PrintLine(Harmless(line.text));
             else if (m_IsFollowing) // what has no end is no array
-                PrintBytes(QJsonDocument(Json(line)).toJson(QJsonDocument::Compact) + '\n');
+                PrintJsonLine(Json(line));
             else
                 array.append(Json(line));
         }
         if (m_IsJson && !m_IsFollowing)
-            PrintBytes(QJsonDocument(array).toJson());
+            PrintJson(array);
     }
 
 private:
@@ -137,8 +135,7 @@ int RunLogTail(const tagContext& context, const QStringList& arguments)
                    QLatin1String("10"));
     line.AddOption(QLatin1String(FollowOption),
                    QLatin1String("Goes on with the lines that come, from file to file, until an interrupt."));
-    line.AddOption(
-        QLatin1String(JsonOption),
+    line.AddJsonOption(
         QLatin1String("Prints an array of objects, with --follow one object on each line: file, text; of the "
                       "user log also time, component, type, code, text1, text2, null in a line that is no "
                       "entry."));
@@ -164,7 +161,7 @@ int RunLogTail(const tagContext& context, const QStringList& arguments)
         return Fail(QString::fromLatin1("the %1 log has no file in %2").arg(log, QFileInfo(basePath).path()));
     if (!isFollowing && !tail.Unfinished().text.isEmpty())
         lines.append(tail.Unfinished());
-    const TLinePrinter printer(log, line.IsSet(QLatin1String(JsonOption)), isFollowing);
+    const TLinePrinter printer(log, line.WantsJson(), isFollowing);
     printer.PrintLines(lines.mid(qMax(0, static_cast<int>(lines.size()) - *count)));
     std::fflush(stdout);
     if (isFollowing && error.isEmpty() && !OutputFailed())

@@ -1,31 +1,18 @@
 // get, set and reset: one parameter, by name or number.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/ParameterArgument.h"
-#include "console/terminal/Store.h"
+#include "console/terminal/Session.h"
 
 #include "parameters/ParameterText.h"
-#include "terminal/FirstStartValues.h"
-
-#include <QJsonDocument>
 
 namespace {
 
 const char* const TypeOption = "type";
-const char* const JsonOption = "json";
 
-/// The store of the data folder as a terminal would find it.
-std::unique_ptr<TSqliteStore> OpenStartedStore(const tagContext& context)
-{
-    std::unique_ptr<TSqliteStore> store = OpenStore(context);
-    if (store)
-        SetFirstStartValues(*store);
-    return store;
-}
-
-int Store(TSqliteStore& store, const tagParameterArgument& parameter, const QVariant& value)
+int Store(TParameterStore& store, const tagParameterArgument& parameter, const QVariant& value)
 {
     return store.SetParameter(parameter.id, value, true)
                ? STATUS_DONE
@@ -33,7 +20,7 @@ int Store(TSqliteStore& store, const tagParameterArgument& parameter, const QVar
 }
 
 /// What was typed, as a value of a number that only the host knows: of the type that is asked for, or that it has.
-QVariant ReadHostValue(TSqliteStore& store, const tagParameterArgument& parameter, const QString& typeAsked,
+QVariant ReadHostValue(TParameterStore& store, const tagParameterArgument& parameter, const QString& typeAsked,
                        const QString& text, QString* error)
 {
     if (typeAsked.isEmpty() && !store.HasParameter(parameter.id)) {
@@ -53,23 +40,24 @@ int RunGet(const tagContext& context, const QStringList& arguments)
                       QLatin1String("Prints the value of a parameter, given by name or number. By name, a choice is "
                                     "printed as its name; by number, as its number."),
                       QLatin1String("cabsettings get units.metric"));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an object with all that is known about it."));
+    line.AddJsonOption(QLatin1String("Prints an object with all that is known about it."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const auto parameter = ReadParameter(line.Words().first(), line);
     if (!parameter)
         return STATUS_MISUSED;
 
-    const auto store = OpenStartedStore(context);
-    if (!store)
+    TSession session;
+    if (!session.Open(context, SESSION_STORE))
         return STATUS_FAILED;
-    if (!store->HasParameter(parameter->id))
+    TParameterStore& store = session.Store();
+    if (!store.HasParameter(parameter->id))
         return Fail(QString::fromLatin1("%1 is not set").arg(parameter->Name()));
-    const QVariant value = store->GetParameter(parameter->id);
-    if (line.IsSet(QLatin1String(JsonOption)))
-        PrintBytes(QJsonDocument(ParameterJson(parameter->id, value)).toJson());
+    const QVariant value = store.GetParameter(parameter->id);
+    if (line.WantsJson())
+        PrintJson(ParameterJson(parameter->id, value));
     else
-        Print(ValueText(parameter->isByNumber ? nullptr : parameter->known, value) + QLatin1Char('\n'));
+        PrintLine(ValueText(parameter->isByNumber ? nullptr : parameter->known, value));
     return STATUS_DONE;
 }
 
@@ -96,22 +84,21 @@ int RunSet(const tagContext& context, const QStringList& arguments)
     }
 
     const QString text = line.Words().at(1);
+    TSession session;
     QString error;
     if (parameter->known) {
         // Before the store is touched: a wrong value leaves no trace.
         const QVariant value = TParameterCatalogue::Read(*parameter->known, text, &error);
         if (!value.isValid())
             return line.Misused(error);
-        const auto store = OpenStartedStore(context);
-        return store ? Store(*store, *parameter, value) : STATUS_FAILED;
+        return session.Open(context, SESSION_STORE) ? Store(session.Store(), *parameter, value) : STATUS_FAILED;
     }
-    const auto store = OpenStartedStore(context);
-    if (!store)
+    if (!session.Open(context, SESSION_STORE))
         return STATUS_FAILED;
-    const QVariant value = ReadHostValue(*store, *parameter, type, text, &error);
+    const QVariant value = ReadHostValue(session.Store(), *parameter, type, text, &error);
     if (!value.isValid())
         return line.Misused(QString::fromLatin1("%1: %2").arg(parameter->Name(), error));
-    return Store(*store, *parameter, value);
+    return Store(session.Store(), *parameter, value);
 }
 
 int RunReset(const tagContext& context, const QStringList& arguments)
@@ -130,6 +117,8 @@ int RunReset(const tagContext& context, const QStringList& arguments)
             QString::fromLatin1("%1 is the host's own, and has no value of a first start").arg(parameter->Name()));
     }
 
-    const auto store = OpenStartedStore(context);
-    return store ? Store(*store, *parameter, TParameterCatalogue::FirstValue(*parameter->known)) : STATUS_FAILED;
+    TSession session;
+    if (!session.Open(context, SESSION_STORE))
+        return STATUS_FAILED;
+    return Store(session.Store(), *parameter, TParameterCatalogue::FirstValue(*parameter->known));
 }

@@ -1,6 +1,6 @@
 // paths: where everything lies.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/ActiveItems.h"
@@ -12,15 +12,12 @@
 #include "system/TSystemSettingsProxy.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
 
 using System = TSystemSettings;
 using Proxy = TSystemSettingsProxy;
-
-const char* const JsonOption = "json";
 
 /// The names that paths are asked for, each with the parameter of the active one.
 struct tagNameOption
@@ -295,15 +292,14 @@ int RunPaths(const tagContext& context, const QStringList& arguments)
         const QString option = QLatin1String(row.option);
         line.AddOption(option, QString::fromLatin1("Name of the %1.").arg(option), QLatin1String("NAME"));
     }
-    line.AddOption(QLatin1String(JsonOption),
-                   QLatin1String("Prints an array of objects: name, path (null where there is none)."));
+    line.AddJsonOption(QLatin1String("Prints an array of objects: name, path (null where there is none)."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     if (!AreNamesAccepted(line))
         return STATUS_MISUSED;
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     TParameterStore& store = session.Store();
     const bool areNamesGiven = TakeNames(line, store);
@@ -318,8 +314,8 @@ int RunPaths(const tagContext& context, const QStringList& arguments)
                                  {QLatin1String("path"), row.path.isEmpty() ? QJsonValue() : QJsonValue(row.path)}});
         rows.append({row.name, row.path.isEmpty() ? QString::fromLatin1("(none without %1)").arg(row.need) : row.path});
     }
-    if (line.IsSet(QLatin1String(JsonOption)))
-        PrintBytes(QJsonDocument(array).toJson());
+    if (line.WantsJson())
+        PrintJson(array);
     else
         PrintTable(rows);
     return STATUS_DONE;

@@ -1,8 +1,8 @@
 // run: the terminal on an NMEA stream.
 
+#include "console/commands/Commands.h"
 #include "console/commands/RunProgress.h"
 #include "console/commands/RunSummary.h"
-#include "console/line/Command.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/line/QuitOnSignal.h"
@@ -69,7 +69,7 @@ int RunRun(const tagContext& context, const QStringList& arguments)
                    QLatin1String("How many times as fast as it was recorded a file is played; 0 as fast as it can be "
                                  "read. A pipe comes as fast as it is sent; servers and devices take no speed."),
                    QLatin1String("N"), QLatin1String("0"));
-    line.AddOption(QLatin1String("json"), QLatin1String("Prints the summary as an object."));
+    line.AddJsonOption(QLatin1String("Prints the summary as an object."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     const QString source = line.Value(QLatin1String("nmea"));
@@ -88,13 +88,13 @@ int RunRun(const tagContext& context, const QStringList& arguments)
 
     const TQuitOnSignal quitOnSignal; // before any thread starts, so that none takes the signal instead
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     TNmeaReceiver receiver;
     const QString problem = Receive(source, *address, *speed, receiver);
     if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
         return Fail(problem); // nothing to sum up
-    PrintRunSummary(session.Store(), receiver.GetStatus(), line.IsSet(QLatin1String("json")));
+    PrintRunSummary(session.Store(), receiver.GetStatus(), line.WantsJson());
     if (!problem.isEmpty())
         return Fail(problem);
     if (receiver.GetStatus().unloggedLines > 0)

@@ -2,6 +2,8 @@
 
 #include "console/line/Output.h"
 #include "console/logs/LogFiles.h"
+#include "console/terminal/ActiveItems.h"
+#include "console/terminal/UtcOffset.h"
 
 #include "colors/TColorSettingsProxy.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
@@ -9,43 +11,36 @@
 #include "region/TRegionSettingsProxy.h"
 #include "system/TSystemSettingsProxy.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
 
 #include <cmath>
-#include <cstdlib>
 
 namespace {
 
 using TRows = QList<QStringList>;
 
-struct tagItem
+/// The items of the summary, of all that can be active.
+constexpr EParamID ShownItems[] = {
+    PARAM_ACTIVE_JOB,     PARAM_ACTIVE_BOUNDARY,  PARAM_ACTIVE_AB_LINE,
+    PARAM_ACTIVE_VEHICLE, PARAM_ACTIVE_IMPLEMENT, PARAM_ACTIVE_SPRAYER,
+};
+
+/// The items whose files the summary shows.
+constexpr EParamID ShownFiles[] = {PARAM_ACTIVE_JOB, PARAM_FIELD, PARAM_ACTIVE_VEHICLE, PARAM_ACTIVE_IMPLEMENT};
+
+/// A file that belongs to the active job.
+struct tagJobFile
 {
     const char* title;
-    QString (TSystemSettingsProxy::*text)() const;
+    QString (TSystemSettingsProxy::*path)() const;
 };
 
-const tagItem ActiveItems[] = {
-    {"job", &TSystemSettingsProxy::GetActiveJob},
-    {"boundary", &TSystemSettingsProxy::GetActiveBoundary},
-    {"AB line", &TSystemSettingsProxy::GetActiveABLine},
-    {"vehicle", &TSystemSettingsProxy::GetActiveVehicle},
-    {"implement", &TSystemSettingsProxy::GetActiveImplement},
-    {"sprayer", &TSystemSettingsProxy::GetActiveSprayer},
-};
-
-const tagItem Paths[] = {
-    {"job", &TSystemSettingsProxy::GetActiveJobPath},
+constexpr tagJobFile JobFiles[] = {
     {"coverage", &TSystemSettingsProxy::GetActiveCoveragePath},
     {"report", &TSystemSettingsProxy::GetActiveReportPath},
-    {"field", &TSystemSettingsProxy::GetActiveFieldPath},
     {"area counters", &TSystemSettingsProxy::GetActiveAreaCountersPath},
-    {"vehicle", &TSystemSettingsProxy::GetActiveVehiclePath},
-    {"implement", &TSystemSettingsProxy::GetActiveImplementPath},
 };
-
-QString OrNone(const QString& text) { return text.isEmpty() ? QLatin1String("(none)") : text; }
 
 QString Position(const TNmeaReceiver::tagStatus& status)
 {
@@ -80,22 +75,12 @@ QJsonObject StreamJson(const TNmeaReceiver::tagStatus& status)
             {QLatin1String("longitude"), hasPosition ? QJsonValue(status.longitude) : QJsonValue()}};
 }
 
-/// The stored offset of local time from UTC, "+05:30".
-QString UtcOffset(TParameterStore& store)
-{
-    const int hours = store.GetParameter(PARAM_UTC_OFFSET_HOURS).toInt();
-    const int minutes = store.GetParameter(PARAM_UTC_OFFSET_MINUTES).toInt();
-    return QString::fromLatin1("%1%2:%3")
-        .arg(QLatin1Char(hours < 0 || minutes < 0 ? '-' : '+'))
-        .arg(std::abs(hours), 2, 10, QLatin1Char('0'))
-        .arg(std::abs(minutes), 2, 10, QLatin1Char('0'));
-}
-
 TRows ClockRows(TParameterStore& store, const TNmeaReceiver::tagStatus& status)
 {
     const TRegionSettingsProxy region;
-    const QString source = region.IsGPSTimeRecieved() ? QString::fromLatin1("GPS, UTC%1").arg(UtcOffset(store))
-                                                      : QLatin1String("not set by GPS");
+    const QString source = region.IsGPSTimeRecieved()
+                               ? QString::fromLatin1("GPS, UTC%1").arg(StoredUtcOffset(store).Text())
+                               : QLatin1String("not set by GPS");
     return {
         {QLatin1String("Clock"), QLatin1String("local"),
          QString::fromLatin1("%1 %2 (%3)").arg(region.GetDateString(), region.GetTimeString(), source)},
@@ -105,15 +90,32 @@ TRows ClockRows(TParameterStore& store, const TNmeaReceiver::tagStatus& status)
     };
 }
 
-template <std::size_t Count>
-TRows ItemRows(const char* heading, const tagItem (&items)[Count])
+/// The heading stands before the first row alone.
+void Append(TRows* rows, const char* heading, const QString& title, const QString& text)
 {
-    const TSystemSettingsProxy system;
+    rows->append({rows->isEmpty() ? QLatin1String(heading) : QString(), title, OrNone(text)});
+}
+
+TRows ItemRows()
+{
     TRows rows;
-    for (const tagItem& item : items) {
-        rows.append({rows.isEmpty() ? QLatin1String(heading) : QString(), QLatin1String(item.title),
-                     OrNone((system.*item.text)())});
+    for (const EParamID id : ShownItems) {
+        const tagParameter& item = *TParameterCatalogue::Find(id);
+        Append(&rows, "Active", ActiveItems::Kind(item), ActiveItems::Name(item));
     }
+    return rows;
+}
+
+TRows PathRows()
+{
+    TRows rows;
+    for (const EParamID id : ShownFiles) {
+        const tagParameter& item = *TParameterCatalogue::Find(id);
+        Append(&rows, "Paths", ActiveItems::Kind(item), ActiveItems::Path(item));
+    }
+    const TSystemSettingsProxy system;
+    for (const tagJobFile& file : JobFiles)
+        Append(&rows, "Paths", QLatin1String(file.title), (system.*file.path)());
     return rows;
 }
 
@@ -174,14 +176,14 @@ void PrintJson(const QJsonObject& stream, const TRows& rows)
         items.insert(row.at(1), row.at(2));
         object.insert(heading, items);
     }
-    PrintBytes(QJsonDocument(object).toJson());
+    PrintJson(object);
 }
 
 } // namespace
 
 void PrintRunSummary(TParameterStore& store, const TNmeaReceiver::tagStatus& status, bool asJson)
 {
-    TRows rows = ClockRows(store, status) + ItemRows("Active", ActiveItems) + ItemRows("Paths", Paths);
+    TRows rows = ClockRows(store, status) + ItemRows() + PathRows();
     TUserDiagnosticLogProxy().Close();
     TNEMADiagnosticLogProxy().Close();
     rows += LogRows() + DriveRows();

@@ -1,20 +1,15 @@
 // select and selections: what is active on the display.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/ActiveItems.h"
 #include "console/terminal/Session.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace {
-
-const char* const JsonOption = "json";
-
-QString OrNone(const QString& text) { return text.isEmpty() ? QLatin1String("(none)") : text; }
 
 QJsonObject Json(const tagParameter& item)
 {
@@ -33,8 +28,7 @@ int RunSelect(const tagContext& context, const QStringList& arguments)
                                           "none. Without NAME, prints the active one. KIND is one of: %1.")
                           .arg(ActiveItems::Kinds().join(QLatin1String(", "))),
                       QLatin1String("cabsettings select job \"North 40\""));
-    line.AddOption(
-        QLatin1String(JsonOption),
+    line.AddJsonOption(
         QLatin1String("Prints an object: kind, name, and path, the item's file, null without one. Asking for "
                       "the path makes its folder, as on the display."));
     if (const auto status = line.Read(arguments, 1, 2))
@@ -52,14 +46,14 @@ int RunSelect(const tagContext& context, const QStringList& arguments)
         return line.Misused(error);
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     if (isGiven && !ActiveItems::Select(session.Store(), *item, name))
         return Fail(QString::fromLatin1("the %1 could not be stored").arg(kind));
-    if (line.IsSet(QLatin1String(JsonOption)))
-        PrintBytes(QJsonDocument(Json(*item)).toJson());
+    if (line.WantsJson())
+        PrintJson(Json(*item));
     else if (!isGiven)
-        Print(ActiveItems::Name(*item) + QLatin1Char('\n'));
+        PrintLine(ActiveItems::Name(*item));
     return STATUS_DONE;
 }
 
@@ -70,21 +64,21 @@ int RunSelections(const tagContext& context, const QStringList& arguments)
         QLatin1String("Lists what is active, by kind, and the path of its file. Asking for the paths makes "
                       "the items' folders, as on the display."),
         QLatin1String("cabsettings selections"));
-    line.AddOption(QLatin1String(JsonOption),
-                   QLatin1String("Prints an array of objects: kind, name (empty when nothing is selected), path (null "
-                                 "without one)."));
+    line.AddJsonOption(
+        QLatin1String("Prints an array of objects: kind, name (empty when nothing is selected), path (null "
+                      "without one)."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     const QList<const tagParameter*> items = ActiveItems::All();
-    if (line.IsSet(QLatin1String(JsonOption))) {
+    if (line.WantsJson()) {
         QJsonArray array;
         for (const tagParameter* item : items)
             array.append(Json(*item));
-        PrintBytes(QJsonDocument(array).toJson());
+        PrintJson(array);
         return STATUS_DONE;
     }
     QList<QStringList> rows = {{QLatin1String("kind"), QLatin1String("name"), QLatin1String("path")}};

@@ -1,6 +1,6 @@
 // simulate: the NMEA stream of a tractor working a field.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 

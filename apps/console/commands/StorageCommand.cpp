@@ -1,6 +1,6 @@
 // storage: drives, memory and load.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
@@ -10,7 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
 
@@ -20,7 +19,6 @@
 
 namespace {
 
-const char* const JsonOption = "json";
 const qint64 BytesPerKilobyte = 1024; // of the memory
 
 struct tagSpace
@@ -123,28 +121,28 @@ int RunStorage(const tagContext& context, const QStringList& arguments)
                       "and the load of the processor over the last minute (1: one core busy). Memory that "
                       "caches files counts as free."),
         QLatin1String("cabsettings storage"));
-    line.AddOption(QLatin1String(JsonOption),
-                   QLatin1String("Prints an object: drives (name, path, mounted, total, free), memory (total, free), "
-                                 "load; null for what is not known."));
+    line.AddJsonOption(
+        QLatin1String("Prints an object: drives (name, path, mounted, total, free), memory (total, free), "
+                      "load; null for what is not known."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
 
     TSession session;
-    if (!session.Open(context))
+    if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     const TSystemSettingsProxy system;
     const QString mountPoint = session.Store().GetParameter(PARAM_EXTERNAL_DRIVE).toString();
     const QList<tagDrive> drives = {InternalDrive(system), RemovableDrive(system, mountPoint)};
     const std::optional<tagSpace> memory = Memory(system);
     const std::optional<float> load = Load(system);
-    if (line.IsSet(QLatin1String(JsonOption))) {
+    if (line.WantsJson()) {
         QJsonArray array;
         for (const tagDrive& drive : drives)
             array.append(Json(drive));
         const QJsonObject object{{QLatin1String("drives"), array},
                                  {QLatin1String("memory"), Json(memory)},
                                  {QLatin1String("load"), load ? QJsonValue(double(*load)) : QJsonValue()}};
-        PrintBytes(QJsonDocument(object).toJson());
+        PrintJson(object);
         return STATUS_DONE;
     }
 

@@ -1,23 +1,20 @@
 // units: the table of units. show: values as the operator sees them.
 
-#include "console/line/Command.h"
+#include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
+#include "console/units/UnitArguments.h"
 #include "console/units/UnitNames.h"
-#include "console/units/UnitSession.h"
 
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cmath>
 
 namespace {
-
-const char* const JsonOption = "json";
 
 /// Prints rows under @p titles as a table, or as an array of objects whose fields are named by them.
 void PrintRows(const QStringList& titles, const QList<QStringList>& rows, bool asJson)
@@ -36,7 +33,7 @@ void PrintRows(const QStringList& titles, const QList<QStringList>& rows, bool a
         }
         array.append(object);
     }
-    PrintBytes(QJsonDocument(array).toJson());
+    PrintJson(array);
 }
 
 /// "100:0": from 100 on, without decimals. Nothing when it is not of that form.
@@ -73,8 +70,8 @@ int RunUnits(const tagContext& context, const QStringList& arguments)
                       "the quantity is stored) and decimals."),
         QLatin1String("cabsettings units --quantity \"liquid rate\""));
     line.AddOption(QLatin1String("quantity"), QLatin1String("Only the units of this quantity."), QLatin1String("NAME"));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an array of objects."));
-    TUnitSession::AddOptions(line);
+    line.AddJsonOption(QLatin1String("Prints an array of objects."));
+    AddMeasuresOption(line);
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     const QString quantity = line.Value(QLatin1String("quantity"));
@@ -83,8 +80,8 @@ int RunUnits(const tagContext& context, const QStringList& arguments)
                                 .arg(quantity, UnitNames::Quantities().join(QLatin1String(", "))));
     }
 
-    TUnitSession session;
-    if (const auto status = session.Open(context, line))
+    TSession session;
+    if (const auto status = OpenUnits(session, context, line))
         return *status;
     QList<QStringList> rows;
     const QList<EUnitsType> units = UnitNames::All();
@@ -99,7 +96,7 @@ int RunUnits(const tagContext& context, const QStringList& arguments)
     }
     PrintRows({QLatin1String("number"), QLatin1String("name"), QLatin1String("abbreviation"), QLatin1String("family"),
                QLatin1String("quantity"), QLatin1String("hub"), QLatin1String("decimals")},
-              rows, line.IsSet(QLatin1String(JsonOption)));
+              rows, line.WantsJson());
     return STATUS_DONE;
 }
 
@@ -114,8 +111,8 @@ int RunShow(const tagContext& context, const QStringList& arguments)
                    QLatin1String("Decimals, 0 to 20, or \"dynamic\" for those that suit a rate."), QLatin1String("N"));
     line.AddOption(QLatin1String("threshold"), QLatin1String("From the value T on, P decimals."), QLatin1String("T:P"));
     line.AddOption(QLatin1String("all"), QLatin1String("Shows the value in every unit."));
-    line.AddOption(QLatin1String(JsonOption), QLatin1String("Prints an array of objects."));
-    TUnitSession::AddOptions(line);
+    line.AddJsonOption(QLatin1String("Prints an array of objects."));
+    AddMeasuresOption(line);
     if (const auto status = line.Read(arguments, 1, 2))
         return *status;
     const bool all = line.IsSet(QLatin1String("all"));
@@ -134,22 +131,22 @@ int RunShow(const tagContext& context, const QStringList& arguments)
         return line.Misused(
             QString::fromLatin1("--threshold takes a value and decimals such as 100:0, not \"%1\"").arg(thresholdText));
 
-    TUnitSession session;
-    if (const auto status = session.Open(context, line))
+    TSession session;
+    if (const auto status = OpenUnits(session, context, line))
         return *status;
     const auto unit = all ? std::optional<EUnitsType>(UNITS_NONE) : ReadUnit(line, line.Words().last());
     if (!unit)
         return STATUS_MISUSED;
-    session.SpeakTheOperatorsLanguage();
+    session.UseOperatorsLanguage();
     const QList<EUnitsType> units = all ? UnitNames::All() : QList<EUnitsType>{*unit};
-    const bool asJson = line.IsSet(QLatin1String(JsonOption));
+    const bool asJson = line.WantsJson();
     QList<QStringList> rows;
     for (const EUnitsType type : units) {
         rows.append({QString::number(type), UnitNames::Name(type),
                      TUnits::GetValueString(*value, type, *precision, threshold ? &*threshold : nullptr)});
     }
     if (!all && !asJson)
-        Print(rows.first().last() + QLatin1Char('\n'));
+        PrintLine(rows.first().last());
     else
         PrintRows({QLatin1String("number"), QLatin1String("name"), QLatin1String("shown")}, rows, asJson);
     return STATUS_DONE;

@@ -38,24 +38,3 @@ int Dispatch(const QString& program, const tagCommand (&commands)[Count], const 
 {
     return Dispatch(program, commands, Count, context, arguments);
 }
-
-int RunRun(const tagContext& context, const QStringList& arguments);
-int RunSimulate(const tagContext& context, const QStringList& arguments);
-int RunGet(const tagContext& context, const QStringList& arguments);
-int RunSet(const tagContext& context, const QStringList& arguments);
-int RunReset(const tagContext& context, const QStringList& arguments);
-int RunDescribe(const tagContext& context, const QStringList& arguments);
-int RunList(const tagContext& context, const QStringList& arguments);
-int RunColors(const tagContext& context, const QStringList& arguments);
-int RunClock(const tagContext& context, const QStringList& arguments);
-int RunSelect(const tagContext& context, const QStringList& arguments);
-int RunSelections(const tagContext& context, const QStringList& arguments);
-int RunPaths(const tagContext& context, const QStringList& arguments);
-int RunStorage(const tagContext& context, const QStringList& arguments);
-int RunUnits(const tagContext& context, const QStringList& arguments);
-int RunConvert(const tagContext& context, const QStringList& arguments);
-int RunShow(const tagContext& context, const QStringList& arguments);
-int RunDump(const tagContext& context, const QStringList& arguments);
-int RunLog(const tagContext& context, const QStringList& arguments);
-int RunLogTail(const tagContext& context, const QStringList& arguments);
-int RunLogList(const tagContext& context, const QStringList& arguments);

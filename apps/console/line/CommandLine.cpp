@@ -11,6 +11,7 @@
 namespace {
 
 const char* const HelpOption = "help";
+const char* const JsonOption = "json";
 
 /// Put before a negative number, so that the parser takes it for a word. No argument can hold this character.
 const QChar WordMark(0);
@@ -51,6 +52,10 @@ void TCommandLine::AddOption(const QString& name, const QString& description, co
     m_Options.append({Dashed(name), description + ending, valueName});
     m_Parser.addOption(QCommandLineOption(name, description + ending, valueName, defaultValue));
 }
+
+void TCommandLine::AddJsonOption(const QString& description) { AddOption(QLatin1String(JsonOption), description); }
+
+bool TCommandLine::WantsJson() const { return IsSet(QLatin1String(JsonOption)); }
 
 bool TCommandLine::TakesNextAsValue(const QString& argument) const
 {
@@ -155,7 +160,7 @@ void TCommandLine::PrintWordsToCome() const
     for (const Manual::tagOption& option : m_Options)
         words.append(option.name);
     for (const QString& word : std::as_const(words))
-        Print(word + QLatin1Char('\n'));
+        PrintLine(word);
 }
 
 void TCommandLine::PrintHelp() const

@@ -21,6 +21,11 @@ public:
     void AddOption(const QString& name, const QString& description, const QString& valueName = QString(),
                    const QString& defaultValue = QString());
 
+    /// Adds "--json"; WantsJson() tells whether it was given.
+    /// @param description what is printed, for instance "Prints an object: kind, name."
+    void AddJsonOption(const QString& description);
+    bool WantsJson() const;
+
     /// Reads the arguments, the command's name first. A status when there is nothing more to do: help was asked for and
     /// printed, or the line was wrong, which was said.
     /// @param fewest @param most how many words are expected that are no options.

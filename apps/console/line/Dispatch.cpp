@@ -24,7 +24,7 @@ int Dispatch(const QString& program, const tagCommand* commands, std::size_t cou
     for (std::size_t i = 0; i < count; ++i)
         names.append(QLatin1String(commands[i].name));
     if (arguments.size() == 1 && Completion::IsAsked(arguments)) {
-        Print(names.join(QLatin1Char('\n')) + QLatin1Char('\n'));
+        PrintLine(names.join(QLatin1Char('\n')));
         return STATUS_DONE;
     }
 

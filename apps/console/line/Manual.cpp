@@ -12,8 +12,6 @@ QString Escaped(QString text)
     return text.startsWith(QLatin1Char('.')) || text.startsWith(QLatin1Char('\'')) ? QLatin1String("\\&") + text : text;
 }
 
-void PrintLine(const QString& line) { Print(line + QLatin1Char('\n')); }
-
 const char* const Head = R"(.TH CABSETTINGS 1 "" "cabsettings )" CABSETTINGS_VERSION R"(" "User Commands"
 .SH NAME
 cabsettings \- settings, units, paths and logs of an in\-cab guidance display

@@ -2,6 +2,8 @@
 
 #include "console/line/Command.h"
 
+#include <QJsonDocument>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -21,9 +23,28 @@ void Say(const QString& text)
 
 void Print(const QString& text) { PrintBytes(text.toUtf8()); }
 
+void PrintLine(const QString& text) { Print(text + QLatin1Char('\n')); }
+
+void PrintTrimmed(const QString& text)
+{
+    int length = static_cast<int>(text.size());
+    while (length > 0 && text.at(length - 1) == QLatin1Char(' '))
+        --length;
+    PrintLine(text.left(length));
+}
+
 void PrintBytes(const QByteArray& bytes)
 {
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+}
+
+void PrintJson(const QJsonObject& object) { PrintBytes(QJsonDocument(object).toJson()); }
+
+void PrintJson(const QJsonArray& array) { PrintBytes(QJsonDocument(array).toJson()); }
+
+void PrintJsonLine(const QJsonObject& object)
+{
+    PrintBytes(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
 }
 
 void PrintTable(const QList<QStringList>& rows)
@@ -40,9 +61,11 @@ void PrintTable(const QList<QStringList>& rows)
         QString line;
         for (int i = 0; i < row.size(); ++i)
             line += i + 1 < row.size() ? row[i].leftJustified(widths[i] + Gap) : row[i];
-        Print(line + QLatin1Char('\n'));
+        PrintTrimmed(line);
     }
 }
+
+QString OrNone(const QString& text) { return text.isEmpty() ? QLatin1String("(none)") : text; }
 
 int Fail(const QString& text)
 {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -8,11 +10,27 @@
 /// Writes @p text to standard output, in UTF-8.
 void Print(const QString& text);
 
+/// Writes @p text and a line end.
+void PrintLine(const QString& text);
+
+/// Writes @p text, without the blanks at its end, and a line end.
+void PrintTrimmed(const QString& text);
+
 /// Writes bytes to standard output as they are.
 void PrintBytes(const QByteArray& bytes);
 
+/// Writes an object or an array to standard output.
+void PrintJson(const QJsonObject& object);
+void PrintJson(const QJsonArray& array);
+
+/// Writes an object on a line of its own.
+void PrintJsonLine(const QJsonObject& object);
+
 /// Writes rows of cells to standard output, in columns.
 void PrintTable(const QList<QStringList>& rows);
+
+/// "(none)" for an empty text.
+QString OrNone(const QString& text);
 
 /// Says one line on standard error, behind the program's name, and gives the matching status.
 int Fail(const QString& text);

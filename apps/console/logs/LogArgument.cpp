@@ -1,7 +1,7 @@
 #include "console/logs/LogArgument.h"
 
 #include "console/logs/LogFiles.h"
-#include "console/terminal/Store.h"
+#include "console/terminal/Session.h"
 
 #include "terminal/DataFolder.h"
 
@@ -16,9 +16,9 @@ bool IsLog(const QString& word, const TCommandLine& line)
 
 std::optional<QString> FindLogDrive(const tagContext& context)
 {
-    const auto store = OpenStore(context);
-    if (!store)
+    TSession session;
+    if (!session.Open(context, SESSION_STORE))
         return std::nullopt;
-    const QString drive = store->GetParameter(PARAM_INTERNAL_DRIVE).toString();
+    const QString drive = session.Store().GetParameter(PARAM_INTERNAL_DRIVE).toString();
     return drive.isEmpty() ? DataFolder::InternalDrive(context.dataFolder) : drive;
 }

@@ -1,13 +1,6 @@
-#include "console/units/UnitSession.h"
+#include "console/units/UnitArguments.h"
 
-#include "console/terminal/Store.h"
 #include "console/units/UnitNames.h"
-
-#include "platform/TConfigManager.h"
-#include "region/TRegionSettings.h"
-#include "terminal/Catalogue.h"
-#include "terminal/FirstStartValues.h"
-#include "units/TUnitAbbreviations.h"
 
 #include <cmath>
 
@@ -30,17 +23,14 @@ constexpr tagSystem Systems[] = {
 
 } // namespace
 
-TUnitSession::TUnitSession() = default;
-TUnitSession::~TUnitSession() { ConfigManager = nullptr; }
-
-void TUnitSession::AddOptions(TCommandLine& line)
+void AddMeasuresOption(TCommandLine& line)
 {
     line.AddOption(QLatin1String(SystemOption),
                    QLatin1String("Measures for this call, whatever is stored: metric, us or english."),
                    QLatin1String("SYSTEM"));
 }
 
-std::optional<int> TUnitSession::Open(const tagContext& context, const TCommandLine& line)
+std::optional<int> OpenUnits(TSession& session, const tagContext& context, const TCommandLine& line)
 {
     const QString wanted = line.Value(QLatin1String(SystemOption));
     const tagSystem* chosen = nullptr;
@@ -51,24 +41,13 @@ std::optional<int> TUnitSession::Open(const tagContext& context, const TCommandL
     if (!wanted.isEmpty() && !chosen)
         return line.Misused(QString::fromLatin1("--system takes metric, us or english, not \"%1\"").arg(wanted));
 
-    m_Store = OpenStore(context);
-    if (!m_Store)
+    if (!session.Open(context, SESSION_UNITS))
         return STATUS_FAILED;
-    SetFirstStartValues(*m_Store);
     if (chosen) {
-        m_Store->SetParameter(PARAM_METRIC, chosen->metric, false);
-        m_Store->SetParameter(PARAM_US_MEASURES, chosen->us, false);
+        session.Store().SetParameter(PARAM_METRIC, chosen->metric, false);
+        session.Store().SetParameter(PARAM_US_MEASURES, chosen->us, false);
     }
-    ConfigManager = m_Store.get();
-    TUnitAbbreviations::Initialize();
     return std::nullopt;
-}
-
-void TUnitSession::SpeakTheOperatorsLanguage()
-{
-    TRegionSettings::InitializeLanguageStrings();
-    InstallCatalogue(m_Translator);
-    TUnitAbbreviations::Initialize();
 }
 
 std::optional<EUnitsType> ReadUnit(const TCommandLine& line, const QString& text)

@@ -1,0 +1,68 @@
+#include "console/line/Candidates.h"
+
+#include "console/logs/LogFiles.h"
+#include "console/terminal/ActiveItems.h"
+#include "console/units/UnitNames.h"
+
+#include "parameters/TParameterCatalogue.h"
+#include "units/TUnitAbbreviations.h"
+
+namespace {
+
+QStringList ParameterNames(const QStringList&)
+{
+    QStringList names;
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters())
+        names.append(parameter.name);
+    return names;
+}
+
+/// What the parameter before it accepts, where that can be listed.
+QStringList Values(const QStringList& words)
+{
+    const tagParameter* const parameter = TParameterCatalogue::Find(words.value(0));
+    if (!parameter)
+        return {};
+    if (parameter->type == PARAMETER_BOOL)
+        return {QLatin1String("true"), QLatin1String("false")};
+    QStringList names;
+    for (const tagParameterChoice& choice : parameter->choices)
+        names.append(choice.name);
+    return names;
+}
+
+QStringList UnitWords(const QStringList&)
+{
+    TUnitAbbreviations::Initialize();
+    QStringList names;
+    for (const EUnitsType unit : UnitNames::All())
+        names.append(UnitNames::Shown(unit));
+    return names;
+}
+
+QStringList Kinds(const QStringList&) { return ActiveItems::Kinds(); }
+
+QStringList Logs(const QStringList&) { return LogNames(); }
+
+/// What the words of a usage stand for.
+struct tagPlaceholder
+{
+    const char* word;
+    QStringList (*candidates)(const QStringList& words);
+};
+
+const tagPlaceholder Placeholders[] = {
+    {"PARAMETER", ParameterNames}, {"PATTERN", ParameterNames}, {"VALUE", Values}, {"UNIT", UnitWords},
+    {"FROM", UnitWords},           {"TO", UnitWords},           {"KIND", Kinds},   {"LOG", Logs},
+};
+
+} // namespace
+
+QStringList Candidates(const QString& placeholder, const QStringList& words)
+{
+    for (const tagPlaceholder& row : Placeholders) {
+        if (placeholder == QLatin1String(row.word))
+            return row.candidates(words);
+    }
+    return {};
+}
