@@ -15,6 +15,7 @@ namespace {
 using std::uint32_t;
 using std::uint64_t;
 
+const int StandardDecimals = 6; // of the number formatter, where no number of decimals is given
 const int StoredBits = 52; // of the 53; the first is always set
 const int ExponentOfUnit = 1075;
 const int FractionBits = 60;
@@ -101,7 +102,8 @@ TFixedNumber::TFixedNumber(double value, int decimals)
     const uint64_t magnitude = bits & ~SignBit;
     const bool isCounted = decimals >= 0 && decimals <= MostDecimals;
     if (!QtCompat::RoundsTiesAwayFromZero || !isCounted || !IsOfEverydaySize(magnitude, decimals)) {
-        m_Other = QString::number(value, 'f', decimals);
+        // Qt 4.8 takes a negative number of decimals for 4,294,967,294 of them, and Qt 5 takes -128 for a code.
+        m_Other = QString::number(value, 'f', decimals < 0 ? StandardDecimals : decimals);
         m_Begin = m_Other.constData();
         m_End = m_Begin + m_Other.size();
         return;

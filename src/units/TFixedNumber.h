@@ -3,8 +3,10 @@
 #include <QString>
 #include <QStringBuilder>
 
-/// A number in fixed notation, with exactly the digits of QString::number(value, 'f', decimals). Made to be joined with
-/// other texts by %: the sum is allocated once, and the number itself not at all where it is of everyday size.
+/// A number in fixed notation, with exactly the digits of QString::number(value, 'f', decimals). A negative number of
+/// decimals stands for 6.
+///
+/// It is joined with other texts by %. The sum is allocated once; a number of everyday size is not allocated at all.
 class TFixedNumber
 {
 public:

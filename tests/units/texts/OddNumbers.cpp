@@ -2,6 +2,7 @@
 #include "TChosenUnits.h"
 
 #include <cfloat>
+#include <climits>
 #include <cmath>
 #include <limits>
 
@@ -14,6 +15,8 @@ private slots:
     void everyFunctionHasAText_data();
     void everyFunctionHasAText();
     void theyAreShownAsTheyAre();
+    void precisionsThatAreNoneShowSixDecimals_data();
+    void precisionsThatAreNoneShowSixDecimals();
 };
 
 namespace {
@@ -111,6 +114,29 @@ void OddNumbers::theyAreShownAsTheyAre()
     QCOMPARE(U::GetValueString(NaN, UNITS_KG, -1, nullptr), Utf8("nan lb"));
     // A value beyond every float is infinite where the quantity is stored in 32 bits.
     QCOMPARE(U::GetValueString(DBL_MAX, UNITS_KG, -1, nullptr), Utf8("inf lb"));
+}
+
+void OddNumbers::precisionsThatAreNoneShowSixDecimals_data()
+{
+    QTest::addColumn<int>("precision");
+    for (const int precision : {-2, -100, -127, -128, -129, INT_MIN}) // Qt takes -128 for as few digits as will do
+        QTest::newRow(QByteArray::number(precision).constData()) << precision;
+}
+
+void OddNumbers::precisionsThatAreNoneShowSixDecimals()
+{
+    QFETCH(int, precision);
+    TChosenUnits store;
+    store.ChooseMeasures(true, false);
+    const Spec spec = {0.0F, precision};
+    QCOMPARE(U::GetAreaString(1.25F, precision, nullptr), Utf8("1.250000 ha"));
+    QCOMPARE(U::GetAreaString(1.25F, 1, &spec), Utf8("1.250000 ha"));
+    QCOMPARE(U::GetDistanceString(1e30F, false, precision, nullptr),
+             QString::number(static_cast<double>(1e30F), 'f', 6) + Utf8(" m"));
+    QCOMPARE(U::GetVolumeString(true, false, 1.25F, false, UNITS_LITERS, precision, nullptr), Utf8("1.250000 L"));
+    QCOMPARE(U::GetWeightPerAreaString(true, 1.25F, precision, nullptr), Utf8("1.250000 kg/ha"));
+    QCOMPARE(U::GetValueString(1.25, UNITS_RPM, precision, nullptr), Utf8("1.250000 rpm"));
+    QCOMPARE(U::GetValueString(1.25, UNITS_ACRES, precision, nullptr), Utf8("1.25 ac")); // in general notation
 }
 
 int main(int argc, char** argv) { return RunCoreTest<OddNumbers>(argc, argv); }
