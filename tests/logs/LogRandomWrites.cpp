@@ -1,22 +1,15 @@
 #include "CoreTest.h"
 #include "TLogRoom.h"
+#include "TestSeed.h"
 
 #include <QtTest>
 
-#include <cstdlib>
 #include <memory>
 #include <random>
 
 namespace {
 
 const int LastNumber = 99999;
-
-/// To repeat a run that failed, give its seed in the environment.
-unsigned Seed()
-{
-    const char* const given = std::getenv("CABSETTINGS_TEST_SEED");
-    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-}
 
 /// A log under a storm of calls, beside everything that was ever logged to it.
 class TStorm
@@ -183,9 +176,7 @@ void LogRandomWrites::theFilesHoldWhatWasLoggedLast()
     QFETCH(int, maxFileSize);
     QFETCH(int, maxFileCount);
     QFETCH(int, firstNumber);
-    const unsigned seed = Seed();
-    qDebug("CABSETTINGS_TEST_SEED=%u", seed);
-    TStorm storm(seed, stagingSize, maxFileSize, maxFileCount, firstNumber);
+    TStorm storm(TestSeed(), stagingSize, maxFileSize, maxFileCount, firstNumber);
     for (int step = 0; step < 4000; ++step) {
         QVERIFY2(storm.Step(), QByteArray::number(step).constData());
         if (step % 50 == 0) {

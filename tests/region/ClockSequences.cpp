@@ -1,5 +1,6 @@
 #include "CoreTest.h"
 #include "TestHost.h"
+#include "TestSeed.h"
 
 #include "region/TRegionSettings.h"
 
@@ -13,7 +14,6 @@ namespace {
 
 const int SequenceCount = 10000;
 const int StepsPerSequence = 25;
-const char* const SeedVariable = "CABSETTINGS_SEED";
 
 const qint64 Second = 1000;
 const qint64 Minute = 60 * Second;
@@ -102,7 +102,7 @@ class ClockSequences : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void init() { m_Random.seed(TestSeed()); }
     void everySequenceFollowsTheModel();
 
 private:
@@ -120,14 +120,6 @@ private:
     tagModel m_Model;
     QDate m_ReturnedDate; ///< by the last step; invalid when it returned none
 };
-
-void ClockSequences::initTestCase()
-{
-    const QByteArray given = qgetenv(SeedVariable);
-    const unsigned seed = given.isEmpty() ? std::random_device()() : given.toUInt();
-    m_Random.seed(seed);
-    qDebug("%s=%u", SeedVariable, seed);
-}
 
 /// Among the ordinary days many around the ends of months, of leap years' Februaries, and of years.
 QDate ClockSequences::AnyDate()

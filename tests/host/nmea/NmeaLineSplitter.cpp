@@ -1,3 +1,4 @@
+#include "TestSeed.h"
 #include "nmea/TNmeaLineSplitter.h"
 
 #include <QtTest>
@@ -81,8 +82,9 @@ void NmeaLineSplitter::linesComeOutAsReceived()
 void NmeaLineSplitter::theCutOfTheStreamDoesNotMatter_data()
 {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 200; ++seed)
-        QTest::newRow(qPrintable(QString::fromLatin1("seed %1").arg(seed))) << seed;
+    std::mt19937 seeds(TestSeed());
+    for (int stream = 1; stream <= 200; ++stream)
+        QTest::addRow("stream %d", stream) << static_cast<unsigned>(seeds());
 }
 
 void NmeaLineSplitter::theCutOfTheStreamDoesNotMatter()

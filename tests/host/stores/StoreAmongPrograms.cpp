@@ -1,4 +1,5 @@
 #include "StoreTestSupport.h"
+#include "TestSeed.h"
 #include "stores/TPersistenceHold.h"
 
 #include <QCoreApplication>
@@ -199,8 +200,7 @@ std::unique_ptr<TChild> StoreAmongPrograms::Child(const QString& task, int progr
 
 void StoreAmongPrograms::randomChangesEndWithTheSameValuesEverywhere()
 {
-    const quint32 seed = QRandomGenerator::global()->generate();
-    qInfo("seed %u", seed);
+    const quint32 seed = TestSeed();
     std::vector<std::unique_ptr<TChild>> children;
     for (int program = 0; program < ProgramCount; ++program)
         children.push_back(Child(ChangeAtRandom, program, seed));
@@ -239,9 +239,7 @@ void StoreAmongPrograms::AddRandomPoints()
     QTest::addColumn<int>("told");
     QTest::addColumn<int>("spins");
     QTest::addColumn<quint32>("seed");
-    const quint32 seed = QRandomGenerator::global()->generate();
-    qInfo("seed %u", seed);
-    QRandomGenerator random(seed);
+    QRandomGenerator random(TestSeed());
     for (int point = 0; point < KillPoints; ++point)
         QTest::addRow("point %d", point) << random.bounded(1, 60) << random.bounded(300000) << random.generate();
 }

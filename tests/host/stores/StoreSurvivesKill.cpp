@@ -1,4 +1,5 @@
 #include "StoreTestSupport.h"
+#include "TestSeed.h"
 #include "stores/TPersistenceHold.h"
 
 #include <QCoreApplication>
@@ -150,9 +151,7 @@ void StoreSurvivesKill::AddRandomPoints()
 {
     QTest::addColumn<int>("told");
     QTest::addColumn<int>("spins");
-    const quint32 seed = QRandomGenerator::global()->generate();
-    qInfo("seed %u", seed);
-    QRandomGenerator random(seed);
+    QRandomGenerator random(TestSeed());
     // The kill comes a random while of work after a random number of writes, and so at any point of the next ones.
     for (int point = 0; point < 20; ++point)
         QTest::addRow("point %d", point) << random.bounded(1, 40) << random.bounded(300000);

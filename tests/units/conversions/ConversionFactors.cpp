@@ -1,10 +1,10 @@
 #include "CoreTest.h"
 #include "ExpectedConversions.h"
+#include "TestSeed.h"
 
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <ctime>
 #include <limits>
 #include <random>
 #include <vector>
@@ -74,21 +74,7 @@ private slots:
     void theFloatOfKilometresPerHourIsTheOneNearest();
     void theArgumentIsNarrowedToAFloat();
     void litresAndMillilitresDifferInTheSixthDigit();
-
-private:
-    static unsigned Seed();
 };
-
-unsigned ConversionFactors::Seed()
-{
-    static const unsigned seed = [] {
-        const QByteArray given = qgetenv("SEED");
-        const unsigned chosen = given.isEmpty() ? static_cast<unsigned>(std::time(nullptr)) : given.toUInt();
-        qDebug("SEED=%u", chosen);
-        return chosen;
-    }();
-    return seed;
-}
 
 void ConversionFactors::theResultIsExact_data()
 {
@@ -114,7 +100,7 @@ void ConversionFactors::theResultIsExactForAnyFloat()
 {
     QFETCH(TFactor, function);
     QFETCH(QByteArray, steps);
-    std::mt19937 bits(Seed());
+    std::mt19937 bits(TestSeed());
     for (int i = 0; i < 500; ++i) {
         const float argument = FloatOfBits(static_cast<std::uint32_t>(bits()));
         const double result = function(argument);

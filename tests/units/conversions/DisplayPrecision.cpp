@@ -1,6 +1,7 @@
 #include "CoreTest.h"
 #include "ExpectedConversions.h"
 #include "TestHost.h"
+#include "TestSeed.h"
 
 #include <QList>
 
@@ -9,7 +10,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <limits>
 #include <random>
 
@@ -67,17 +67,6 @@ float Below(float value) { return std::nextafter(value, -Infinity); }
 float Above(float value) { return std::nextafter(value, Infinity); }
 
 QByteArray Named(float value) { return QByteArray::number(static_cast<double>(value), 'g', 9); }
-
-unsigned Seed()
-{
-    static const unsigned seed = [] {
-        const QByteArray given = qgetenv("SEED");
-        const unsigned chosen = given.isEmpty() ? static_cast<unsigned>(std::time(nullptr)) : given.toUInt();
-        qDebug("SEED=%u", chosen);
-        return chosen;
-    }();
-    return seed;
-}
 
 } // namespace
 
@@ -336,7 +325,7 @@ void DisplayPrecision::anyRateIsJudgedByItsPrintedText()
 {
     TTestStore store;
     store.values[8953] = true;
-    std::mt19937 random(Seed());
+    std::mt19937 random(TestSeed());
     for (int i = 0; i < 100000; ++i) {
         const float rate = static_cast<float>(random()) / 4294967296.0f * 110.0f;
         const int decimals = HasNoFirstDecimal(rate) ? 0 : 1;

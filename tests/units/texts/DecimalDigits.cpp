@@ -1,5 +1,6 @@
 #include "CoreTest.h"
 #include "TChosenUnits.h"
+#include "TestSeed.h"
 
 #include <cfloat>
 #include <cmath>
@@ -14,6 +15,7 @@ class DecimalDigits : public QObject
 
 private slots:
     void initTestCase();
+    void init() { m_Random.seed(TestSeed()); }
 
     void randomNumbersHaveTheDigitsOfQt_data();
     void randomNumbersHaveTheDigitsOfQt();
@@ -135,10 +137,6 @@ Q_DECLARE_METATYPE(TKind)
 
 void DecimalDigits::initTestCase()
 {
-    const unsigned seed = std::random_device()();
-    qDebug("seed %u", seed);
-    m_Random.seed(seed);
-
     const QByteArray given = qgetenv(ValuesVariable);
     if (given.isEmpty())
         return;

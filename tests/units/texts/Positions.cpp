@@ -1,5 +1,6 @@
 #include "CoreTest.h"
 #include "TChosenUnits.h"
+#include "TestSeed.h"
 
 #include <cfloat>
 #include <cmath>
@@ -97,9 +98,7 @@ void Positions::decimalDegreesAreShown()
 
 void Positions::anyPositionIsWithinAHundredthOfASecond()
 {
-    const unsigned seed = std::random_device()();
-    qDebug("seed %u", seed);
-    std::mt19937 random(seed);
+    std::mt19937 random(TestSeed());
     std::uniform_real_distribution<double> anywhere(-180, 180);
     std::uniform_int_distribution<int> hundredths(-180 * 360000, 180 * 360000);
     TChosenUnits store;
