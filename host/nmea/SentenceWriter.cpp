@@ -2,6 +2,8 @@
 
 #include "nmea/NmeaChecksum.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 namespace {
@@ -41,7 +43,7 @@ QByteArray Sentence(const QByteArray& body) { return '$' + body + NmeaChecksum(b
 
 QByteArray WriteSentences(const QByteArray& talker, const tagEpoch& epoch)
 {
-    const QByteArray time = epoch.utc.time().toString(QLatin1String("HHmmss.zzz")).toLatin1();
+    const QByteArray time = QLocale::c().toString(epoch.utc.time(), QLatin1String("HHmmss.zzz")).toLatin1();
     const QDate date = epoch.utc.date();
     const QByteArray position = Angle(epoch.latitude, 2, "NS") + ',' + Angle(epoch.longitude, 3, "EW");
     const QByteArray course = Course(epoch.course);

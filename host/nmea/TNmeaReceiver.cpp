@@ -8,6 +8,7 @@
 #include "region/TRegionSettingsProxy.h"
 
 #include <QGeoCoordinate>
+#include <QLocale>
 
 #include <limits>
 
@@ -31,13 +32,13 @@ QString DecimalDegrees(const QGeoCoordinate& position)
 }
 
 /// Without a time zone, which a local time of the display has none to show.
-QString IsoText(const QDateTime& time) { return time.toString(QLatin1String("yyyy-MM-dd'T'HH:mm:ss")); }
+QString IsoText(const QDateTime& time) { return QLocale::c().toString(time, QLatin1String("yyyy-MM-dd'T'HH:mm:ss")); }
 
 /// QtPositioning makes midnight of a time of day that does not exist, and of a leap second, but leaves the date: a day
 /// too early.
 bool CarriesTime(const QByteArray& line, const QDateTime& utc)
 {
-    return line.split(',').value(1).startsWith(utc.time().toString(QLatin1String("HHmmss")).toLatin1());
+    return line.split(',').value(1).startsWith(QLocale::c().toString(utc.time(), QLatin1String("HHmmss")).toLatin1());
 }
 
 double AttributeOf(const QGeoPositionInfo& info, QGeoPositionInfo::Attribute attribute)

@@ -2,6 +2,7 @@
 
 #include "access/Parameters.h"
 #include "logs/TLogSeries.h"
+#include "platform/QtCompat.h"
 #include "platform/TFileSystemHelper.h"
 #include "platform/TLocalTime.h"
 
@@ -42,6 +43,15 @@ char* Put(char* to, int value, char separator)
         to[digit] = static_cast<char>('0' + value % 10);
     to[Digits] = separator;
     return to + Digits + 1;
+}
+
+/// "2024.05.01-" with the digits of the C locale, whatever the machine's; empty for an invalid date.
+QByteArray DateStamp(const QDate& date)
+{
+    if (!date.isValid())
+        return QByteArray();
+    const QString stamp = QtCompat::YearText(date.year()) + QLocale::c().toString(date, QLatin1String(".MM.dd-"));
+    return stamp.toLatin1();
 }
 
 const int TimeLength = 13; // "13:07:09:042,"
@@ -197,9 +207,9 @@ bool TDiagnosticLog::AddEntry(const QString& text)
 {
     const QDate date = TLocalTime::currentDate();
     const QTime time = TLocalTime::currentTime();
-    if (date != m_StampedDate) { // in digits that Latin-1 has, whatever the language of the machine
+    if (date != m_StampedDate) {
         m_StampedDate = date;
-        m_DateStamp = QLocale::c().toString(date, QLatin1String("yyyy.MM.dd-")).toLatin1();
+        m_DateStamp = DateStamp(date);
     }
     QVarLengthArray<char, 512> line(m_DateStamp.size() + TimeLength + text.size() + 2);
     char* end = std::copy_n(m_DateStamp.constData(), m_DateStamp.size(), line.data());

@@ -73,11 +73,12 @@ std::vector<TLogSeries::tagFile> TLogSeries::GetFiles(const QString& lastWritten
         struct stat status = {};
         if (fstatat(dirfd(folder.get()), entry->d_name, &status, 0) != 0 || !S_ISREG(status.st_mode))
             continue;
-        const QString name = QFile::decodeName(entry->d_name);
-        if (QFile::encodeName(name) != entry->d_name)
-            continue; // Qt could not open a file of this name
-        bool isNumbered = false;
-        const int number = name.mid(m_Stem.size(), name.size() - m_Stem.size() - m_Extension.size()).toInt(&isNumbered);
+        const QByteArray bytes = entry->d_name;
+        const QString name = QFile::decodeName(bytes);
+        if (QFile::encodeName(name) != bytes)
+            continue;            // Qt could not open a file of this name
+        bool isNumbered = false; // by the bytes: with Qt 4 a QString also reads the digits of the machine's locale
+        const int number = bytes.mid(stem.size(), bytes.size() - stem.size() - extension.size()).toInt(&isNumbered);
         const qint64 modified = static_cast<qint64>(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1000000;
         files.push_back({name, status.st_size, modified, isNumbered ? std::optional<int>(number) : std::nullopt});
         if (isNumbered)

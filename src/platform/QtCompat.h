@@ -39,4 +39,11 @@ inline tagDateParts Parts(const QDate& date)
     return date.isValid() ? parts : none;
 }
 
+/// @p year in at least four digits: "0007", "2024", "-0044". The "yyyy" of Qt 4 leaves the zeros out.
+inline QString YearText(int year)
+{
+    const int width = year < 0 ? 5 : 4;
+    return QString::fromLatin1("%1").arg(year, width, 10, QLatin1Char('0'));
+}
+
 } // namespace QtCompat

@@ -3,6 +3,8 @@
 #include "access/Parameters.h"
 #include "platform/QtCompat.h"
 
+#include <QLocale>
+
 namespace {
 
 const char* const MonthNames[] = {
@@ -16,10 +18,12 @@ const char* const MonthNames[] = {
 
 } // namespace
 
+// Formatted by QLocale::c(): in Qt 5 the formats of QTime and QDate follow the machine's locale, its digits among them.
+
 QString TRegionSettings::GetTimeString() const
 {
     const char* const format = Parameters::ReadBool(PARAM_24_HOUR_CLOCK) ? "HH:mm:ss" : "hh:mm:ss ap";
-    return GetTime().toString(QLatin1String(format));
+    return QLocale::c().toString(GetTime(), QLatin1String(format));
 }
 
 QString TRegionSettings::GetDateString(QDate date) const
@@ -38,7 +42,7 @@ QString TRegionSettings::GetDateTimeStringWithSeconds() const { return StampedWi
 
 QString TRegionSettings::StampedWith(const char* timeFormat) const
 {
-    const QString time = GetTime().toString(QLatin1String(timeFormat));
+    const QString time = QLocale::c().toString(GetTime(), QLatin1String(timeFormat));
     const char* const dateFormat = Parameters::ReadBool(PARAM_MONTH_FIRST) ? "MMddyy" : "ddMMyy";
-    return GetDate().toString(QLatin1String(dateFormat)) + QLatin1Char('_') + time;
+    return QLocale::c().toString(GetDate(), QLatin1String(dateFormat)) + QLatin1Char('_') + time;
 }

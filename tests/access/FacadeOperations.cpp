@@ -7,13 +7,15 @@
 #include "region/TRegionSettingsProxy.h"
 #include "system/TSystemSettingsProxy.h"
 
+#include <QLocale>
+
 namespace {
 
 QString Text(const QString& value) { return value; }
 QString Text(bool value) { return QLatin1String(value ? "true" : "false"); }
 QString Text(const QDate& value) { return value.toString(Qt::ISODate); }
-QString Text(const QTime& value) { return value.toString(QLatin1String("hh:mm:ss.zzz")); }
-QString Text(const QDateTime& value) { return value.toString(QLatin1String("yyyy-MM-dd hh:mm:ss.zzz")); }
+QString Text(const QTime& value) { return QLocale::c().toString(value, QLatin1String("hh:mm:ss.zzz")); }
+QString Text(const QDateTime& value) { return Text(value.date()) + QLatin1Char(' ') + Text(value.time()); }
 QString Text(const QFileInfo& value) { return value.filePath(); }
 QString Text(const QColor& value) { return value.isValid() ? value.name() : Latin1("no colour"); }
 QString Text(int value) { return QString::number(value); }

@@ -85,9 +85,10 @@ void ConsoleClock::aFirstStartShowsTheMachinesTime()
     const QJsonObject clock = Clock(console);
     const QString table = Run(console, "clock").output;
     qputenv("TZ", before);
-    VerifyAbout(clock.value(Utf8("local")).toString(), now.addSecs(offset).toString(Utf8("yyyy-MM-dd'T'HH:mm:ss")));
+    VerifyAbout(clock.value(Utf8("local")).toString(),
+                QLocale::c().toString(now.addSecs(offset), Utf8("yyyy-MM-dd'T'HH:mm:ss")));
     VerifyAbout(clock.value(Utf8("utc")).toString().remove(QLatin1Char('Z')),
-                now.toString(Utf8("yyyy-MM-dd'T'HH:mm:ss")));
+                QLocale::c().toString(now, Utf8("yyyy-MM-dd'T'HH:mm:ss")));
     QCOMPARE(clock.value(Utf8("utcFrom")).toString(), Utf8("machine"));
     QCOMPARE(clock.value(Utf8("source")).toString(), Utf8("machine"));
     QCOMPARE(clock.value(Utf8("offsetSetBy")).toString(), Utf8("nobody"));

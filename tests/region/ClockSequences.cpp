@@ -158,7 +158,7 @@ QString ClockSequences::Start()
     m_Region.reset(new TRegionSettings);
     m_Model = {Moment(date, time), offset, isOffsetUsers, false, 0, 0};
     return QString::fromLatin1("start at %1 %2, offset %3, user's %4")
-        .arg(date.toString(Qt::ISODate), time.toString(QLatin1String("hh:mm:ss.zzz")))
+        .arg(date.toString(Qt::ISODate), QLocale::c().toString(time, QLatin1String("hh:mm:ss.zzz")))
         .arg(offset)
         .arg(isOffsetUsers);
 }
@@ -181,7 +181,7 @@ QString ClockSequences::Step()
                              .arg(year)
                              .arg(month)
                              .arg(day)
-                             .arg(givenTime.toString(QLatin1String("hh:mm:ss.zzz")));
+                             .arg(QLocale::c().toString(givenTime, QLatin1String("hh:mm:ss.zzz")));
     switch (Between(0, 8)) {
     case 0:
         m_Region->SetUserDate(year, month, day);

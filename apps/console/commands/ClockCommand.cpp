@@ -11,6 +11,7 @@
 
 #include <QDateTime>
 #include <QJsonObject>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <cstdlib>
@@ -87,7 +88,7 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
     const tagSource source = Source(store);
     const QDateTime local = region.GetDateTime();
     const QDateTime utc = source.isOffsetInUse ? local.addSecs(-offset.Seconds()) : QDateTime::currentDateTimeUtc();
-    const QString localText = local.toString(QLatin1String("yyyy-MM-dd'T'HH:mm:ss"));
+    const QString localText = QLocale::c().toString(local, QLatin1String("yyyy-MM-dd'T'HH:mm:ss"));
     const QString utcText = utc.toString(Qt::ISODate);
     if (line.WantsJson()) {
         const QJsonObject object{

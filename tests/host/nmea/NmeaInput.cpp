@@ -23,7 +23,7 @@ QByteArray Recording()
     QByteArray stream;
     QTime time(11, 0);
     for (int second = 0; second < 3600; ++second, time = time.addSecs(1)) {
-        const QByteArray body = "GPGGA," + time.toString(QLatin1String("HHmmss")).toLatin1() +
+        const QByteArray body = "GPGGA," + QLocale::c().toString(time, QLatin1String("HHmmss")).toLatin1() +
                                 ",5212.0,N,01030.0,E,1,12,0.7,80.5,M,0.0,M,,";
         stream += '$' + body + NmeaChecksum(body) + "\r\n";
     }
