@@ -1,18 +1,5 @@
+#include "system/Folders.h"
 #include "system/TSystemSettings.h"
-
-#include <QDir>
-
-namespace {
-
-/// Makes the folder in which the file @p path lies.
-void MakeFolderOf(const QString& path)
-{
-    const QDir folder = QFileInfo(path).absoluteDir();
-    if (!folder.exists())
-        folder.mkpath(folder.absolutePath());
-}
-
-} // namespace
 
 QString TSystemSettings::GetActiveJob() const { return m_Job.GetName(); }
 void TSystemSettings::SetActiveJob(const QString& name) { m_Job.SetName(name); }
@@ -24,7 +11,7 @@ QString TSystemSettings::GetActiveBoundaryPath() const { return m_Boundary.GetCF
 void TSystemSettings::SetActiveBoundary(const QString& name)
 {
     m_Boundary.SetName(name);
-    MakeFolderOf(GetActiveBoundaryPath());
+    Folders::MakeFor(GetActiveBoundaryPath());
 }
 
 QString TSystemSettings::GetActiveABLine() const { return m_ABLine.GetName(); }
@@ -68,7 +55,7 @@ void TSystemSettings::SetActiveShapeFile(const QString& name)
 {
     SetActiveShapeFileName(name);
     if (!name.isEmpty())
-        MakeFolderOf(GetActiveShapeFilePath());
+        Folders::MakeFor(GetActiveShapeFilePath());
 }
 
 QString TSystemSettings::GetActiveSteering() const { return m_Steering.GetName(); }

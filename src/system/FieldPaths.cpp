@@ -1,5 +1,6 @@
 #include "access/Parameters.h"
 #include "region/TRegionSettings.h"
+#include "system/Folders.h"
 #include "system/TSystemSettings.h"
 
 #include <QDir>
@@ -174,8 +175,7 @@ QString TSystemSettings::GetABLinePath(const QString& name) const
 {
     const QDir lines(QDir(GetInternalDrivePath()).absoluteFilePath(QLatin1String(ABLinesFolder)));
     const QDir folder(lines.absoluteFilePath(name));
-    if (!folder.exists())
-        folder.mkpath(folder.absolutePath());
+    Folders::Make(folder);
     return folder.absoluteFilePath(name + QLatin1String(IniExtension));
 }
 

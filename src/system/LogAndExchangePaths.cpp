@@ -1,7 +1,6 @@
 #include "region/TRegionSettingsProxy.h"
+#include "system/Folders.h"
 #include "system/TSystemSettings.h"
-
-#include <QDir>
 
 bool TSystemSettings::GetLogPath(QString& path, bool internal, const char* folder, const char* prefix,
                                  const char* extension) const
@@ -13,8 +12,7 @@ bool TSystemSettings::GetLogPath(QString& path, bool internal, const char* folde
         return false;
 
     const QDir logs(QDir(base).absoluteFilePath(QString::fromUtf8(folder)));
-    if (!logs.exists())
-        logs.mkpath(logs.absolutePath());
+    Folders::Make(logs);
     path = logs.absoluteFilePath(QString::fromUtf8(prefix) + QString::fromUtf8(extension));
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "access/Parameters.h"
 #include "region/TRegionSettingsProxy.h"
+#include "system/Folders.h"
 #include "system/TSystemSettings.h"
 
 const char* const TPathSetting::NoName = "This string intentionally left blank!";
@@ -57,8 +58,7 @@ QString TPathSetting::GetCFFPath(const QString& prefix) const
         return QString();
 
     const QDir category(prefix + cffPath + m_Folder);
-    if (!category.exists()) // which costs less than to make what is there
-        category.mkpath(category.absolutePath());
+    Folders::Make(category);
     return QDir(category.absoluteFilePath(name)).absoluteFilePath(name + m_Extension);
 }
 

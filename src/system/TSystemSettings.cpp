@@ -1,18 +1,6 @@
 #include "system/TSystemSettings.h"
 
-#include <QDir>
-
-namespace {
-
-/// Makes the folder in which @p drive lies.
-void MakeFolderOf(const QFileInfo& drive)
-{
-    const QDir folder = drive.absoluteDir();
-    if (!folder.exists())
-        folder.mkpath(folder.absolutePath());
-}
-
-} // namespace
+#include "system/Folders.h"
 
 using Text = QLatin1String;
 
@@ -59,10 +47,10 @@ void TSystemSettings::Restore()
     m_Zones.Restore(QString());
     m_Sprayer.Restore(DefaultSprayerProfile);
 
-    MakeFolderOf(GetInternalDrive());
+    Folders::MakeFor(GetInternalDrive().filePath());
     QFileInfo externalDrive;
     GetExternalDrive(externalDrive);
-    MakeFolderOf(externalDrive);
+    Folders::MakeFor(externalDrive.filePath());
 }
 
 bool TSystemSettings::UpdateLowRAMRecordingOff(bool off)

@@ -1,5 +1,6 @@
 #include "CoreTest.h"
 #include "TBracketTranslator.h"
+#include "TCaughtMessages.h"
 #include "TDisplay.h"
 
 #include "system/TSystemSettings.h"
@@ -61,6 +62,7 @@ private slots:
 
     void restoringMakesTheFoldersThatHoldTheDrives_data();
     void restoringMakesTheFoldersThatHoldTheDrives();
+    void withoutDrivesNoFolderIsMadeAndNothingSaid();
 
 private:
     static void AddItems();
@@ -224,6 +226,17 @@ void StartUpSelections::restoringMakesTheFoldersThatHoldTheDrives()
     display.store.values[8911] = display.folder.Path(external);
     System().Restore();
     QCOMPARE(display.folder.Entries().join(QLatin1String(" ")), made);
+}
+
+void StartUpSelections::withoutDrivesNoFolderIsMadeAndNothingSaid()
+{
+    TDisplay display;
+    display.store.values.remove(8910);
+    display.store.values.remove(8911);
+    const TCaughtMessages messages;
+    System().Restore();
+    QCOMPARE(messages.Texts(), QStringList());
+    QCOMPARE(display.folder.Entries(), QStringList(QLatin1String("data/")));
 }
 
 int main(int argc, char** argv) { return RunCoreTest<StartUpSelections>(argc, argv); }
