@@ -1,12 +1,10 @@
 #include "diagnostics/DiagnosticTexts.h"
 
 #include "diagnostics/EReceiverEvent.h"
+#include "parameters/TParameterCatalogue.h"
 
-#include <QMutex>
-#include <QMutexLocker>
-
-#include <map>
-#include <tuple>
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -24,28 +22,22 @@ constexpr tagText Texts[] = {
     {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_REGAINED, "Fix regained"},
     {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_TIME_SET, "Time set"},
     {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_BAD_CHECKSUMS, "Bad checksums"},
+    {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_UNSTABLE, "Fix unstable"},
 };
-
-using TKey = std::tuple<int, int, int>;
-
-std::map<TKey, QString> NamedTexts()
-{
-    std::map<TKey, QString> texts;
-    for (const tagText& row : Texts)
-        texts[TKey(row.component, row.type, row.code)] = QString::fromLatin1(row.text);
-    return texts;
-}
 
 } // namespace
 
 const QString& DiagnosticText(EDiagnosticComponent component, EDiagnosticType type, int code)
 {
-    static QMutex mutex;
-    static std::map<TKey, QString> texts = NamedTexts(); // its nodes never move, so references into it stay valid
-
-    const QMutexLocker lock(&mutex);
-    QString& text = texts[TKey(component, type, code)];
-    if (text.isEmpty())
-        text = QString::number(code);
+    if (type == DIAG_TYPE_PARAM) {
+        if (const tagParameter* const parameter = TParameterCatalogue::Find(code))
+            return parameter->name;
+    }
+    // One place for each thread: codes without a name may be of any number.
+    thread_local QString text;
+    const auto* const row = std::find_if(std::begin(Texts), std::end(Texts), [&](const tagText& each) {
+        return each.component == component && each.type == type && each.code == code;
+    });
+    text = row == std::end(Texts) ? QString::number(code) : QString::fromLatin1(row->text);
     return text;
 }

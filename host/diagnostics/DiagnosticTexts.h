@@ -6,6 +6,12 @@
 
 #include <QString>
 
-/// The name of an event in the user log; the number itself for one that has no name. The reference stays valid for the
-/// life of the process. Safe from any thread.
+/// The third field of a user-log entry: the name of an event, or for DIAG_TYPE_PARAM the parameter's name in
+/// TParameterCatalogue. A code without a name gives the code itself in decimal. Never empty.
+///
+/// The reference is valid until the same thread calls the function again. May be called from any thread.
+///
+///     DiagnosticText(DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_LOST); // "Fix lost"
+///     DiagnosticText(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_METRIC);                 // "units.metric"
+///     DiagnosticText(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_EVENT, 77);                         // "77"
 CABHOST_EXPORT const QString& DiagnosticText(EDiagnosticComponent component, EDiagnosticType type, int code);

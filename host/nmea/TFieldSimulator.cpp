@@ -1,6 +1,6 @@
 #include "nmea/TFieldSimulator.h"
 
-#include "nmea/FieldPath.h"
+#include "nmea/DrivenPath.h"
 #include "nmea/LocalPlane.h"
 #include "nmea/SentenceWriter.h"
 
@@ -21,7 +21,7 @@ double Noise(std::mt19937& engine, double most)
 struct TFieldSimulator::tagState
 {
     explicit tagState(const tagFieldPlan& fieldPlan)
-        : plan(fieldPlan), plane(plan.latitude, plan.longitude), path(FieldPath(plan)), noise(plan.noiseSeed)
+        : plan(fieldPlan), plane(plan.latitude, plan.longitude), path(DrivenPath(plan)), noise(plan.noiseSeed)
     {}
 
     /// Of the next epoch; a whole number, as the sentences can tell no other.

@@ -1,28 +1,13 @@
 #include "nmea/TFileSource.h"
 
-#include <QFile>
+#include "nmea/SourceFile.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <system_error>
-
-namespace {
-
-int OpenForReading(const QString& path)
-{
-    // A descriptor of our own, so that the end closes it like any other. No O_NONBLOCK there: the flag would hold for
-    // every process that shares the standard input.
-    if (path == QLatin1String("-"))
-        return fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0);
-    // Without waiting for the other end of a pipe, or for a modem's carrier.
-    return open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-}
-
-} // namespace
 
 TFileSource::TFileSource(const QString& path) : m_Path(path), m_Fd(-1), m_IsRecording(false) {}
 
@@ -47,7 +32,7 @@ void TFileSource::Read()
 
 bool TFileSource::Open()
 {
-    m_Fd = OpenForReading(m_Path);
+    m_Fd = OpenSourceFile(m_Path);
     if (m_Fd < 0) {
         Fail("open", errno);
         return false;

@@ -8,26 +8,35 @@
 #include <limits>
 #include <memory>
 
-class TNmeaSentenceParser;
+class TFixTracker;
 
-/// Takes the lines of a GPS receiver: logs them, sets the clock by them, and tells the user log what happens.
+/// Takes the lines of a GPS receiver: writes them to the NMEA log, sets the clock, and reports events in the user log.
 ///
-/// Every line goes to the NMEA log as received, before anything else. A line without a right checksum is then left
-/// alone: a sentence that lacks its checksum cannot be told from one that was cut short.
+///     TNmeaReceiver receiver;
+///     QObject::connect(&input, &TNmeaInput::LineReceived, [&](const QByteArray& line) { receiver.Receive(line); });
+///     ... // at the end of the stream
+///     receiver.Finish();
 ///
-/// The fix. A receiver that sends RMC is judged by RMC alone: status A with a position. Until the first RMC, GGA
-/// decides by its quality, from the second GGA on, since the first may only stand before the RMC of the same moment.
-/// Nothing else decides, so that sentences which disagree for a moment raise no alarm. Silence is no loss of the fix.
+/// Every line goes to the NMEA log as received, before anything else. After that a line is used only if its checksum is
+/// right. A sentence without a checksum is not used: it may have been cut short.
 ///
-/// The time. Valid is the full UTC date and time of an RMC, or of a ZDA, while there is a fix, from the year 2000 on.
-/// The leap second 23:59:60 is passed over. The clock is set once in each second of UTC, by the first sentence that
-/// carries it. It takes whole seconds, so it lags by what the receiver's times are off them, and by the line's delay.
+/// The fix. If the receiver sends RMC, RMC alone decides: there is a fix while the status is A and a position is given.
+/// Before the first RMC, GGA decides by its quality, beginning with the second GGA: the first one may belong to the
+/// moment of the first RMC. No other sentence decides, so sentences that disagree for a moment change nothing. Silence
+/// does not end a fix.
 ///
-/// The user log gets the first fix with its position, each loss and return of the fix, the time set first and again
-/// after each return of the fix, and the number of wrong checksums of a minute. Minutes are those of the stream's UTC,
-/// since the clock jumps when it is set; without UTC, LinesWithoutTime lines count as one.
+/// The time. Valid is the full UTC date and time of an RMC or a ZDA while there is a fix, from the year 2000 on. The
+/// leap second 23:59:60 is ignored. The clock is set once for each second of UTC, by the first sentence with that
+/// second. It is set to whole seconds: the clock is late by the fraction of the receiver's time and by the delay of the
+/// line.
 ///
-/// Settings must be set. Lines are handed in by one thread at a time, from which the façades are called.
+/// The user log gets the first fix with its position, each loss and each return of the fix, and the time that was set
+/// first and again after each return. A fix that comes and goes does not fill the log: of one minute, MostLosses losses
+/// are reported with their returns. The number of the others is reported at the end of the minute, with the state of
+/// the fix. So is the number of wrong checksums. The minutes are those of the stream's UTC, because the clock jumps
+/// when it is set. Without UTC, LinesWithoutTime lines count as one minute.
+///
+/// Settings must be set. Use it from one thread at a time; it calls the façades from there.
 class CABHOST_EXPORT TNmeaReceiver
 {
 public:
@@ -37,13 +46,13 @@ public:
         qint64 lines = 0;         ///< the sum of the next three
         qint64 sentences = 0;     ///< with a right checksum, whether of use here or not
         qint64 badChecksums = 0;  ///< sentences with a wrong checksum
-        qint64 damagedLines = 0;  ///< sentences without a checksum, empty lines, and what is no sentence
+        qint64 damagedLines = 0;  ///< sentences without a checksum, empty lines, and other text
         qint64 unloggedLines = 0; ///< lines that the NMEA log did not take: it is closed, or the disk is full
 
         bool hasFix = false;
         QDateTime utc; ///< the last valid time; invalid before the first
 
-        /// The last ones known, kept when the fix is lost; NaN while unknown.
+        /// The last known values, kept when the fix is lost; NaN while unknown.
         double latitude = std::numeric_limits<double>::quiet_NaN();  ///< degrees, north positive
         double longitude = std::numeric_limits<double>::quiet_NaN(); ///< degrees, east positive
         double altitude = std::numeric_limits<double>::quiet_NaN();  ///< metres above sea level
@@ -51,8 +60,11 @@ public:
         double course = std::numeric_limits<double>::quiet_NaN(); ///< degrees from true north; NaN at a standstill too
     };
 
-    /// How many lines without a valid time stand for a minute when wrong checksums are counted.
+    /// Number of lines without a valid time that count as a minute of the stream.
     static constexpr int LinesWithoutTime = 1000;
+
+    /// Number of losses of the fix, in a minute of the stream, that get an entry of their own in the user log.
+    static constexpr int MostLosses = 3;
 
     TNmeaReceiver();
     ~TNmeaReceiver();
@@ -63,25 +75,24 @@ public:
     /// @param line one line as received, with its line end.
     void Receive(const QByteArray& line);
 
-    /// At the end of a stream: reports the wrong checksums that have not been reported. Another stream may follow.
+    /// Call it at the end of a stream: reports what has been counted and not reported yet. Another stream may follow.
     void Finish();
 
     const tagStatus& GetStatus() const;
 
 private:
-    struct tagReading;
+    void Take(const QByteArray& sentence);
+    void ReportFix();
+    void SetClock(const QDateTime& utc);
+    void ReportCounts();
 
-    void Judge(const tagReading& reading);
-    void TakePosition(const tagReading& reading);
-    void TakeTime(const tagReading& reading);
-    void ReportBadChecksums();
-
-    std::unique_ptr<TNmeaSentenceParser> m_Parser;
     tagStatus m_Status;
-    bool m_SendsRMC = false;
-    bool m_SendsGGA = false;
+    std::unique_ptr<TFixTracker> m_Tracker; ///< keeps fix, time and position in m_Status up to date
     bool m_HadFix = false;
-    bool m_ReportsTime = true;
+    bool m_IsLossReported = false; ///< the last one
+    bool m_ReportsTime = true;     ///< the next one that is set
+    int m_ReportedLosses = 0;      ///< these three in the current minute
+    int m_UnreportedLosses = 0;
     int m_UnreportedBadChecksums = 0;
     int m_LinesSinceTime = 0;
 };

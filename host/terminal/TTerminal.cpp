@@ -1,6 +1,6 @@
 #include "terminal/TTerminal.h"
 
-#include "logs/TUserLogAccessor.h"
+#include "diagnostics/TOneLineLogAccessor.h"
 #include "platform/TLocalTime.h"
 #include "region/TRegionSettings.h"
 #include "settings/TSettings.h"
@@ -67,7 +67,7 @@ bool TTerminal::Start(const QString& dataFolder, QString* error)
     InstallCatalogue(m_Translator);
     TUnitAbbreviations::Initialize();
     RestoreSettings();
-    m_UserLogAccessor = std::make_unique<TUserLogAccessor>();
+    m_UserLogAccessor = std::make_unique<TOneLineLogAccessor>();
     UserLogAccessorPtr = m_UserLogAccessor.get();
 
     hold.Release(); // a store that cannot write says so itself; the display goes on with what it has in memory

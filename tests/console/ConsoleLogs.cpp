@@ -106,6 +106,12 @@ void ConsoleLogs::anEntryIsLogged_data()
                                   << QByteArray("Implement,DTC,512,Nozzle,blocked");
     QTest::newRow("a text that looks like an option")
         << QStringList{Utf8("--"), Utf8("-5 bar")} << QByteArray("Console,Event,0,-5 bar,");
+    QTest::newRow("a parameter") << Words("--type 0 --code 8953 false true")
+                                 << QByteArray("Console,Param,units.metric,false,true");
+    QTest::newRow("a number that is no parameter") << Words("--type 0 --code 7 x") << QByteArray("Console,Param,7,x,");
+    QTest::newRow("texts of several lines")
+        << QStringList{Utf8("a\r\n2024.05.01-13:07:09:042,Console,Event,0,b,"), Utf8("c\v\f\u0085\u2028d")}
+        << QByteArray("Console,Event,0,a  2024.05.01-13:07:09:042 Console Event 0 b ,c    d");
 }
 
 void ConsoleLogs::anEntryIsLogged()

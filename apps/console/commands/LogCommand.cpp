@@ -5,6 +5,7 @@
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
 
+#include "diagnostics/UserLogEntries.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 
@@ -19,7 +20,7 @@ namespace {
 int RunAdd(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("log add"), QLatin1String("TEXT [TEXT2]"),
-                      QLatin1String("Adds an entry to the user log."),
+                      QLatin1String("Adds an entry to the user log. Commas and line breaks in a text become blanks."),
                       QLatin1String("cabsettings log add --component 3 --type 2 --code 512 \"Nozzle 7\" blocked"));
     line.AddOption(QLatin1String("component"),
                    QLatin1String("0 console, 1 GPS receiver, 2 steering controller, 3 implement, 4 none."),
@@ -39,9 +40,9 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
-    const bool isLogged = TUserDiagnosticLogProxy().AddEntry(static_cast<EDiagnosticComponent>(*component),
-                                                             static_cast<EDiagnosticType>(*type), *code,
-                                                             line.Words().at(0), line.Words().value(1));
+    const bool isLogged =
+        AddUserLogEntry(static_cast<EDiagnosticComponent>(*component), static_cast<EDiagnosticType>(*type), *code,
+                        line.Words().at(0), line.Words().value(1));
     return isLogged ? STATUS_DONE : Fail(QLatin1String("the entry could not be written to the user log"));
 }
 

@@ -1,4 +1,5 @@
 #include "NmeaCatch.h"
+#include "TStandardInput.h"
 
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TNmeaInput.h"
@@ -56,23 +57,6 @@ struct tagPipe
 
     bool isOpen;
     std::array<int, 2> ends;
-};
-
-/// Puts another descriptor in the place of the standard input.
-class TStandardInput
-{
-public:
-    explicit TStandardInput(int fd) : m_Kept(dup(STDIN_FILENO)) { dup2(fd, STDIN_FILENO); }
-    ~TStandardInput()
-    {
-        dup2(m_Kept, STDIN_FILENO);
-        close(m_Kept);
-    }
-    TStandardInput(const TStandardInput&) = delete;
-    TStandardInput& operator=(const TStandardInput&) = delete;
-
-private:
-    int m_Kept;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "TestHost.h"
 
+#include "diagnostics/EReceiverEvent.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 #include "nmea/NmeaChecksum.h"
@@ -72,6 +73,8 @@ private slots:
 
     void eventsReachTheUserLog_data();
     void eventsReachTheUserLog();
+    void aFixThatComesAndGoesDoesNotFillTheLog_data();
+    void aFixThatComesAndGoesDoesNotFillTheLog();
     void entriesCarryTheClockAsItStands();
 
     void badChecksumsAreReportedByTheMinute_data();
@@ -302,6 +305,82 @@ void NmeaReceiver::eventsReachTheUserLog_data()
     row("damaged lines say nothing of the fix", {Rmc("110709.00"), Damaged(Rmc("110710.00", 'V')), "$GPRMC,1107\r\n"},
         {firstFix, timeSet, entry(5, "1,")});
     row("time without the first fix's date", {Rmc("110708.00", 'A', ""), Rmc("110709.00")}, {firstFix, timeSet});
+}
+
+void NmeaReceiver::aFixThatComesAndGoesDoesNotFillTheLog_data()
+{
+    QTest::addColumn<TLines>("lines");
+    QTest::addColumn<QStringList>("entries"); ///< without what else is known of them
+
+    const auto row = [](const char* name, const TLines& lines, const char* entries) {
+        QTest::newRow(name) << lines << QString::fromLatin1(entries).split(QLatin1String("; "));
+    };
+    const QByteArray fix = Rmc("110709.00");
+    const QByteArray none = Rmc("110709.00", 'V');
+    const QByteArray fixOfNextMinute = Rmc("110800.00");
+    const auto losses = [&](int count) {
+        TLines lines;
+        for (int loss = 0; loss < count; ++loss)
+            lines += TLines{none, fix};
+        return lines;
+    };
+    const int most = TNmeaReceiver::MostLosses;
+    QCOMPARE(most, 3);
+    const char* const told = "first; lost; back; lost; back; lost; back";
+
+    row("as many losses as are told", TLines{fix} + losses(most), told);
+    row("one more", TLines{fix} + losses(most + 1), "first; lost; back; lost; back; lost; back; 1 more, fix");
+    row("a minute at 20 Hz", TLines{fix} + losses(600), "first; lost; back; lost; back; lost; back; 597 more, fix");
+    row("the last one lasts", TLines{fix} + losses(most + 4) + TLines{none},
+        "first; lost; back; lost; back; lost; back; 5 more, no fix");
+    row("the next minute begins anew", TLines{fix} + losses(most + 2) + TLines{fixOfNextMinute, none, fixOfNextMinute},
+        "first; lost; back; lost; back; lost; back; 2 more, fix; lost; back");
+    row("back in the next minute", TLines{fix} + losses(most) + TLines{none, fixOfNextMinute, none, fixOfNextMinute},
+        "first; lost; back; lost; back; lost; back; 1 more, fix; lost; back");
+    TLines silent;
+    for (int line = 0; line < TNmeaReceiver::LinesWithoutTime; ++line)
+        silent += none;
+    row("back after a long time", TLines{fix} + losses(most) + silent + TLines{fix},
+        "first; lost; back; lost; back; lost; back; 1 more, no fix; back");
+    row("told, and back in the next minute", TLines{fix, none} + silent + TLines{fixOfNextMinute}, "first; lost; back");
+    row("without a time", TLines{Gga("110709.00", '1'), Gga("110709.00", '1')} + TLines{Gga("110709.00", '0')},
+        "first; lost");
+}
+
+void NmeaReceiver::aFixThatComesAndGoesDoesNotFillTheLog()
+{
+    QFETCH(TLines, lines);
+    TNmeaReceiver receiver;
+    for (const QByteArray& line : lines)
+        receiver.Receive(line);
+    receiver.Finish();
+
+    QStringList entries;
+    QStringList timesSet;
+    for (const QString& entry : UserLog()) {
+        const QString code = entry.section(QLatin1Char('/'), 2).section(QLatin1Char(','), 0, 0);
+        const QString text1 = entry.section(QLatin1Char(','), 3, 3);
+        const QString text2 = entry.section(QLatin1Char(','), 4, 4);
+        switch (code.toInt()) {
+        case RECEIVER_EVENT_FIRST_FIX:
+            entries += QLatin1String("first");
+            break;
+        case RECEIVER_EVENT_FIX_LOST:
+            entries += QLatin1String("lost");
+            break;
+        case RECEIVER_EVENT_FIX_REGAINED:
+            entries += QLatin1String("back");
+            break;
+        case RECEIVER_EVENT_FIX_UNSTABLE:
+            entries += QString::fromLatin1("%1 more, %2").arg(text1, text2);
+            break;
+        default:
+            QCOMPARE(code.toInt(), static_cast<int>(RECEIVER_EVENT_TIME_SET));
+            timesSet += entry;
+        }
+    }
+    QTEST(entries, "entries");
+    QVERIFY(timesSet.size() <= 1 + entries.count(QLatin1String("back")));
 }
 
 void NmeaReceiver::eventsReachTheUserLog()

@@ -1,4 +1,4 @@
-#include "nmea/FieldPath.h"
+#include "nmea/DrivenPath.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,7 +66,7 @@ tagPose tagSegment::PoseAfter(double way) const
             start.heading + 2 * half};
 }
 
-std::vector<tagSegment> FieldPath(const tagFieldPlan& plan)
+std::vector<tagSegment> DrivenPath(const tagFieldPlan& plan)
 {
     const double pi = std::acos(-1.0);
     tagWay way;

@@ -1,7 +1,10 @@
 #include "diagnostics/DiagnosticTexts.h"
 #include "diagnostics/EReceiverEvent.h"
+#include "parameters/TParameterCatalogue.h"
 
 #include <QtTest>
+
+#include <thread>
 
 class DiagnosticTexts : public QObject
 {
@@ -12,7 +15,9 @@ private slots:
     void receiverEventsHaveNames();
     void whatHasNoNameIsItsNumber_data();
     void whatHasNoNameIsItsNumber();
-    void referencesStayValid();
+    void parametersAreNamedAsInTheCatalogue();
+    void codesWithoutANameTakeOnePlace();
+    void eachThreadHasItsOwnText();
 };
 
 void DiagnosticTexts::receiverEventsHaveNames_data()
@@ -24,6 +29,7 @@ void DiagnosticTexts::receiverEventsHaveNames_data()
     QTest::newRow("fix regained") << static_cast<int>(RECEIVER_EVENT_FIX_REGAINED) << "Fix regained";
     QTest::newRow("time set") << static_cast<int>(RECEIVER_EVENT_TIME_SET) << "Time set";
     QTest::newRow("bad checksums") << static_cast<int>(RECEIVER_EVENT_BAD_CHECKSUMS) << "Bad checksums";
+    QTest::newRow("fix unstable") << static_cast<int>(RECEIVER_EVENT_FIX_UNSTABLE) << "Fix unstable";
 }
 
 void DiagnosticTexts::receiverEventsHaveNames()
@@ -40,7 +46,8 @@ void DiagnosticTexts::whatHasNoNameIsItsNumber_data()
     QTest::addColumn<int>("code");
     QTest::newRow("unknown event") << 1 << 1 << 99;
     QTest::newRow("another component's event") << 0 << 1 << 1;
-    QTest::newRow("parameter") << 1 << 0 << 8953;
+    QTest::newRow("a number that is no parameter") << 1 << 0 << 7;
+    QTest::newRow("a parameter's number as an event") << 1 << 1 << static_cast<int>(PARAM_METRIC);
     QTest::newRow("negative") << 4 << 1 << -7;
 }
 
@@ -53,13 +60,31 @@ void DiagnosticTexts::whatHasNoNameIsItsNumber()
              QString::number(code));
 }
 
-void DiagnosticTexts::referencesStayValid()
+void DiagnosticTexts::parametersAreNamedAsInTheCatalogue()
+{
+    QCOMPARE(DiagnosticText(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_METRIC),
+             QString::fromLatin1("units.metric"));
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters())
+        QCOMPARE(DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_PARAM, parameter.id), parameter.name);
+}
+
+void DiagnosticTexts::codesWithoutANameTakeOnePlace()
 {
     const QString& first = DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_EVENT, 1000);
-    for (int code = 1001; code < 3000; ++code)
-        DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_EVENT, code);
-    QCOMPARE(first, QString::fromLatin1("1000"));
-    QCOMPARE(&first, &DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_EVENT, 1000));
+    for (int code = 1001; code < 3000; ++code) {
+        const QString& text = DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_EVENT, code);
+        QCOMPARE(text, QString::number(code));
+        QCOMPARE(&text, &first);
+    }
+}
+
+void DiagnosticTexts::eachThreadHasItsOwnText()
+{
+    const QString& text = DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_EVENT, 1000);
+    QString other;
+    std::thread([&other] { other = DiagnosticText(DIAG_COMPONENT_NONE, DIAG_TYPE_EVENT, 2000); }).join();
+    QCOMPARE(other, QString::fromLatin1("2000"));
+    QCOMPARE(text, QString::fromLatin1("1000"));
 }
 
 QTEST_GUILESS_MAIN(DiagnosticTexts)

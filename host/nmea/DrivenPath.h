@@ -28,4 +28,4 @@ struct tagSegment
 };
 
 /// The way over the whole field, from (0, 0), each piece starting where the one before it ends.
-std::vector<tagSegment> FieldPath(const tagFieldPlan& plan);
+std::vector<tagSegment> DrivenPath(const tagFieldPlan& plan);

@@ -1,0 +1,77 @@
+#include "nmea/RecordedTime.h"
+
+#include "nmea/NmeaChecksum.h"
+#include "nmea/SourceFile.h"
+#include "nmea/TFixTracker.h"
+#include "nmea/TNmeaLineSplitter.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+namespace {
+
+/// The lines of a file, from its current position, which stays where it is.
+class TLineReader
+{
+public:
+    explicit TLineReader(int fd) : m_Fd(fd), m_Position(lseek(fd, 0, SEEK_CUR)) {}
+
+    /// Empty at the end.
+    QByteArray NextLine()
+    {
+        QByteArray line = m_Splitter.TakeLine();
+        while (line.isEmpty() && ReadPiece())
+            line = m_Splitter.TakeLine();
+        return line.isEmpty() ? m_Splitter.TakeRest() : line;
+    }
+
+private:
+    bool ReadPiece()
+    {
+        std::array<char, 0x10000> piece;
+        ssize_t count = 0;
+        do
+            count = pread(m_Fd, piece.data(), piece.size(), m_Position);
+        while (count < 0 && errno == EINTR);
+        if (count <= 0)
+            return false;
+        m_Position += count;
+        m_Splitter.Append(piece.data(), static_cast<int>(count));
+        return true;
+    }
+
+    int m_Fd;
+    off_t m_Position;
+    TNmeaLineSplitter m_Splitter;
+};
+
+QDateTime FirstTime(int fd)
+{
+    TNmeaReceiver::tagStatus status;
+    TFixTracker tracker(status);
+    TLineReader reader(fd);
+    QDateTime utc;
+    for (QByteArray line = reader.NextLine(); !line.isEmpty() && !utc.isValid(); line = reader.NextLine()) {
+        if (CheckNmeaLine(line) == NMEA_RIGHT_CHECKSUM)
+            utc = tracker.Take(line);
+    }
+    return utc;
+}
+
+} // namespace
+
+QDateTime FirstRecordedTime(const NmeaAddress& address)
+{
+    const auto* const file = std::get_if<tagFileAddress>(&address);
+    const int fd = file ? OpenSourceFile(file->path) : -1;
+    struct stat status = {};
+    QDateTime utc;
+    if (fd >= 0 && fstat(fd, &status) == 0 && S_ISREG(status.st_mode))
+        utc = FirstTime(fd);
+    if (fd >= 0)
+        close(fd);
+    return utc;
+}
