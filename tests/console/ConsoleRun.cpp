@@ -1,10 +1,36 @@
 #include "TConsole.h"
 
+#include "nmea/NmeaChecksum.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtTest>
 
 #include <csignal>
+
+namespace {
+
+QByteArray Rmc(const char* time, char status, const QByteArray& date)
+{
+    const QByteArray body =
+        QByteArray("GPRMC,") + time + ',' + status + ",5212.0,N,01030.0,E,10.0,90.0," + date + ",,,A";
+    return '$' + body + NmeaChecksum(body) + "\r\n";
+}
+
+/// The machine's time zone of the programs that are started, as POSIX writes it: from UTC to local with the other sign.
+class TTimeZone
+{
+public:
+    explicit TTimeZone(const QByteArray& zone) : m_Kept(qgetenv("TZ")) { qputenv("TZ", zone); }
+    ~TTimeZone() { qputenv("TZ", m_Kept); }
+    TTimeZone(const TTimeZone&) = delete;
+    TTimeZone& operator=(const TTimeZone&) = delete;
+
+private:
+    QByteArray m_Kept;
+};
+
+} // namespace
 
 class ConsoleRun : public QObject
 {
@@ -14,6 +40,13 @@ private slots:
     void theLogHoldsTheTailOfTheStream_data();
     void theLogHoldsTheTailOfTheStream();
     void theClockShowsTheLastUtcPlusTheOffset();
+    void theClockBeginsAtTheFirstTimeOfARecording_data();
+    void theClockBeginsAtTheFirstTimeOfARecording();
+    void aFileOnStandardInputIsARecording();
+    void theOperatorsOffsetHoldsForARecording();
+    void aRecordingWithoutATimeLeavesTheClock();
+    void nowTakesTheMachinesTime_data();
+    void nowTakesTheMachinesTime();
     void selectionsAreBackAfterARestart();
     void damagedLinesAreLoggedAsReceived();
     void theSummaryCanBeHadAsJson();
@@ -123,6 +156,121 @@ void ConsoleRun::theClockShowsTheLastUtcPlusTheOffset()
         result.output.section(QLatin1String("2024 "), 1).section(QLatin1Char(' '), 0, 0), QLatin1String("HH:mm:ss"));
     const int lag = lastUtc.addSecs(5 * 3600 + 30 * 60).time().secsTo(shown);
     QVERIFY2(lag >= 0 && lag <= 5, qPrintable(result.output));
+}
+
+void ConsoleRun::theClockBeginsAtTheFirstTimeOfARecording_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QByteArray>("stream");
+    QTest::addColumn<QString>("offset");
+    QTest::addColumn<QByteArray>("stamp"); ///< of every entry of the user log
+
+    const QByteArray fix = Rmc("100059.90", 'A', "150124");
+    const QByteArray later = Rmc("100100.10", 'A', "150124");
+    const QByteArray summer = Rmc("100059.90", 'A', "150724");
+    const QByteArray noFix = Rmc("095800.00", 'V', "150124");
+    const QByteArray europe = "CET-1CEST,M3.5.0,M10.5.0/3"; // winter and summer
+    const QByteArray before = noFix + "cut sho\r\n" + noFix;
+    QTest::newRow("UTC") << QByteArray("UTC0") << fix + later << "+00:00" << QByteArray("2024.01.15-10:0");
+    QTest::newRow("India") << QByteArray("IST-5:30") << fix + later << "+05:30" << QByteArray("2024.01.15-15:3");
+    QTest::newRow("Newfoundland") << QByteArray("NST3:30") << fix + later << "-03:30" << QByteArray("2024.01.15-06:3");
+    QTest::newRow("winter") << europe << fix + later << "+01:00" << QByteArray("2024.01.15-11:0");
+    QTest::newRow("summer") << europe << summer << "+02:00" << QByteArray("2024.07.15-12:0");
+    QTest::newRow("another day there") << QByteArray("XXX-12") << Rmc("235959.90", 'A', "290224") << "+12:00"
+                                       << QByteArray("2024.03.01-11:59:59");
+    QTest::newRow("half a day ahead") << QByteArray("XXX-12") << fix << "+12:00" << QByteArray("2024.01.15-22:0");
+    QTest::newRow("more than half a day ahead")
+        << QByteArray("XXX-13:45") << fix << "+13:45" << QByteArray("2024.01.15-23:4");
+    QTest::newRow("no fix at first") << europe << before + fix + later << "+01:00" << QByteArray("2024.01.15-11:0");
+    QTest::newRow("wrong checksums at first") << europe << QByteArray("$GPGGA,1*00\r\n").repeated(1000) + fix + later
+                                              << "+01:00" << QByteArray("2024.01.15-11:0");
+}
+
+void ConsoleRun::theClockBeginsAtTheFirstTimeOfARecording()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QByteArray, stream);
+    QFETCH(QString, offset);
+    QFETCH(QByteArray, stamp);
+    const TTimeZone timeZone(zone);
+    const TConsole console;
+    WriteFile(console.Path("stream.nmea"), stream);
+    for (int run = 1; run <= 2; ++run) { // the first one leaves a clock that is far from the machine's
+        const TConsole::tagResult result = RunOn(console, console.Path("stream.nmea"));
+        QCOMPARE(result.errors, QString());
+        QCOMPARE(result.status, 0);
+        QVERIFY2(result.output.contains(QString::fromLatin1("(GPS, UTC%1)").arg(offset)), qPrintable(result.output));
+    }
+    const QList<QByteArray> entries = Log(console, "User*.csv").split('\n');
+    QVERIFY(entries.size() > 4);
+    for (const QByteArray& entry : entries)
+        QVERIFY2(entry.isEmpty() || entry.startsWith(stamp), entry.constData());
+}
+
+void ConsoleRun::aFileOnStandardInputIsARecording()
+{
+    const TTimeZone timeZone("IST-5:30");
+    const TConsole console;
+    WriteFile(console.Path("stream.nmea"), Rmc("100059.90", 'A', "150124"));
+    QProcess process;
+    process.setStandardInputFile(console.Path("stream.nmea"));
+    process.start(QLatin1String(CABSETTINGS_PROGRAM),
+                  {QLatin1String("--data"), console.DataFolder(), QLatin1String("run"), QLatin1String("--nmea"),
+                   QLatin1String("-")});
+    QVERIFY(process.waitForFinished());
+    const QByteArray output = process.readAllStandardOutput();
+    QVERIFY2(output.contains("(GPS, UTC+05:30)"), output.constData());
+    QVERIFY2(output.contains("lines          1 (0 bad"), output.constData());
+}
+
+void ConsoleRun::theOperatorsOffsetHoldsForARecording()
+{
+    const TTimeZone timeZone("IST-5:30");
+    const TConsole console;
+    console.Run({QLatin1String("set"), QLatin1String("clock.offset-by-operator"), QLatin1String("true")});
+    console.Run({QLatin1String("set"), QLatin1String("clock.offset-hours"), QLatin1String("-3")});
+    WriteFile(console.Path("stream.nmea"), Rmc("100059.90", 'A', "150124"));
+    const TConsole::tagResult result = RunOn(console, console.Path("stream.nmea"));
+    QVERIFY2(result.output.contains(QLatin1String("(GPS, UTC-03:00)")), qPrintable(result.output));
+    const TConsole::tagResult chosen = console.Run({QLatin1String("get"), QLatin1String("clock.offset-by-operator")});
+    QCOMPARE(chosen.output, QString::fromLatin1("true\n"));
+}
+
+void ConsoleRun::aRecordingWithoutATimeLeavesTheClock()
+{
+    const TTimeZone timeZone("IST-5:30");
+    const TConsole console;
+    WriteFile(console.Path("stream.nmea"), Rmc("100059.90", 'V', "150124"));
+    const TConsole::tagResult result = RunOn(console, console.Path("stream.nmea"));
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.output.contains(QLatin1String("(not set by GPS)")), qPrintable(result.output));
+    const TConsole::tagResult offset = console.Run({QLatin1String("get"), QLatin1String("clock.offset")});
+    QCOMPARE(offset.output, QString::fromLatin1("19800\n"));
+}
+
+void ConsoleRun::nowTakesTheMachinesTime_data()
+{
+    QTest::addColumn<bool>("isFile");
+    QTest::newRow("a file") << true;
+    QTest::newRow("a pipe, which is live") << false;
+}
+
+void ConsoleRun::nowTakesTheMachinesTime()
+{
+    QFETCH(bool, isFile);
+    const TConsole console;
+    // Three hours behind the machine: the machine's clock, in UTC, is taken for a local time three hours ahead.
+    const QDateTime recorded = QDateTime::currentDateTimeUtc().addSecs(-3 * 3600);
+    const QByteArray time = recorded.toString(QLatin1String("HHmmss")).toLatin1();
+    const QByteArray stream = Rmc(time.constData(), 'A', recorded.toString(QLatin1String("ddMMyy")).toLatin1());
+    WriteFile(console.Path("stream.nmea"), stream);
+    const QStringList arguments = {QLatin1String("run"), QLatin1String("--nmea")};
+    const TConsole::tagResult result =
+        isFile ? console.Run(arguments + QStringList{console.Path("stream.nmea"), QLatin1String("--now")})
+               : console.Run(arguments + QStringList{QLatin1String("-")}, stream);
+    QCOMPARE(result.errors, QString());
+    const QString offset = result.output.section(QLatin1String("(GPS, UTC"), 1).left(5);
+    QVERIFY2(offset == QLatin1String("+03:0"), qPrintable(result.output));
 }
 
 void ConsoleRun::selectionsAreBackAfterARestart()

@@ -9,8 +9,11 @@
 #include "console/terminal/Session.h"
 
 #include "nmea/NmeaAddress.h"
+#include "nmea/RecordedTime.h"
 #include "nmea/TNmeaInput.h"
 #include "nmea/TNmeaReceiver.h"
+#include "region/TRegionSettingsProxy.h"
+#include "stores/TPersistenceHold.h"
 
 #include <QCoreApplication>
 
@@ -20,6 +23,29 @@
 namespace {
 
 const double GreatestSpeed = 1000;
+
+void SetClock(const QDateTime& utc)
+{
+    QTime time = utc.time();
+    QDate date = utc.date();
+    TRegionSettingsProxy().SetUTCTimeAndDate(time, date, true);
+}
+
+/// Sets the clock to @p utc, at which a recording begins. Unless the operator has chosen an offset from UTC, it becomes
+/// that of the machine's time zone at that time: the library's own way, from clock to GPS time, would give the distance
+/// between the recording and today.
+void BeginClockAt(const QDateTime& utc, TParameterStore& store)
+{
+    TPersistenceHold hold(store);
+    SetClock(utc);
+    if (!store.GetParameter(PARAM_UTC_OFFSET_SET_BY_USER).toBool()) {
+        const int minutes = utc.toLocalTime().offsetFromUtc() / 60;
+        store.SetParameter(PARAM_UTC_OFFSET_HOURS, minutes / 60, true);
+        store.SetParameter(PARAM_UTC_OFFSET_MINUTES, minutes % 60, true);
+        SetClock(utc);
+    }
+    hold.Release(); // a store that cannot write says so itself
+}
 
 /// Feeds the stream to the receiver until its end, or until a signal asks for it. Empty when the stream was read to its
 /// end, else what went wrong.
@@ -46,19 +72,8 @@ QString Receive(const QString& source, const NmeaAddress& address, double speed,
     return problem;
 }
 
-} // namespace
-
-int RunRun(const tagContext& context, const QStringList& arguments)
+void AddOptions(TCommandLine& line)
 {
-    TCommandLine line(QLatin1String("run"), QString(),
-                      QLatin1String("Starts the terminal and feeds it an NMEA stream: the clock is set, the stream is "
-                                    "logged. Ends with the stream or on an interrupt, and prints a summary. If that "
-                                    "end takes longer than five seconds, another interrupt stops the program at once. "
-                                    "A server or a serial device that is not there, or no longer, is waited for."),
-                      QLatin1String("cabsettings run --nmea field.nmea\n"
-                                    "  cabsettings run --nmea - <field.nmea\n"
-                                    "  cabsettings run --nmea tcp://localhost:2947\n"
-                                    "  cabsettings run --nmea 'serial:///dev/ttyUSB0?baud=9600'"));
     line.AddOption(
         QLatin1String("nmea"),
         QLatin1String("The stream: a file or a pipe; - for standard input; tcp://HOST:PORT for a server that "
@@ -69,7 +84,28 @@ int RunRun(const tagContext& context, const QStringList& arguments)
                    QLatin1String("How many times as fast as it was recorded a file is played; 0 as fast as it can be "
                                  "read. A pipe comes as fast as it is sent; servers and devices take no speed."),
                    QLatin1String("N"), QLatin1String("0"));
+    line.AddOption(QLatin1String("now"),
+                   QLatin1String("Takes a file for a receiver of today: the clock begins at the machine's time, as it "
+                                 "does with pipes, servers and devices, and the first time of the file sets it."));
     line.AddJsonOption(QLatin1String("Prints the summary as an object."));
+}
+
+} // namespace
+
+int RunRun(const tagContext& context, const QStringList& arguments)
+{
+    TCommandLine line(QLatin1String("run"), QString(),
+                      QLatin1String("Starts the terminal and feeds it an NMEA stream: the clock is set, the stream is "
+                                    "logged. Ends with the stream or on an interrupt, and prints a summary. If that "
+                                    "end takes longer than five seconds, another interrupt stops the program at once. "
+                                    "A server or a serial device that is not there, or no longer, is waited for. A "
+                                    "file is a recording: the clock begins at its first time, in the machine's time "
+                                    "zone."),
+                      QLatin1String("cabsettings run --nmea field.nmea\n"
+                                    "  cabsettings run --nmea - <field.nmea\n"
+                                    "  cabsettings run --nmea tcp://localhost:2947\n"
+                                    "  cabsettings run --nmea 'serial:///dev/ttyUSB0?baud=9600'"));
+    AddOptions(line);
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     const QString source = line.Value(QLatin1String("nmea"));
@@ -85,11 +121,17 @@ int RunRun(const tagContext& context, const QStringList& arguments)
         return STATUS_MISUSED;
     if (*speed > 0 && !std::holds_alternative<tagFileAddress>(*address))
         return line.Misused(QString::fromLatin1("--speed is for files; %1 comes as fast as it is sent").arg(source));
+    const bool isNow = line.IsSet(QLatin1String("now"));
+    if (isNow && !std::holds_alternative<tagFileAddress>(*address))
+        return line.Misused(QString::fromLatin1("--now is for files; %1 sends the time of today").arg(source));
 
     const TQuitOnSignal quitOnSignal; // before any thread starts, so that none takes the signal instead
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
+    const QDateTime begin = isNow ? QDateTime() : FirstRecordedTime(*address);
+    if (begin.isValid())
+        BeginClockAt(begin, session.Store());
     TNmeaReceiver receiver;
     const QString problem = Receive(source, *address, *speed, receiver);
     if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
