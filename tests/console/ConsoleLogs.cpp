@@ -4,6 +4,8 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 
 using namespace ConsoleTest;
@@ -69,12 +71,15 @@ private slots:
     void aFileThatCannotBeReadIsAFailure();
     void theLogsOfAnotherDriveAreFound();
     void aFollowerGoesFromFileToFile();
+    void aFollowerGoesOnAfterTheClockWasSetBack();
     void aFollowerStartsWithTheNewestLines();
     void aFollowerWaitsForALogThatBegins();
     void aFollowerPrintsAnObjectOnEachLine();
     void aFollowerEndsWhenItsOutputIsGone();
     void aTerminalThatRunsIsFollowed();
     void filesAreListedInTheirOrder();
+    void theLogGoesOnInTheNewestFileOfTheList_data();
+    void theLogGoesOnInTheNewestFileOfTheList();
     void anEmptyListIsNoFailure();
     void logsAreExported();
     void anExportThatFailsSaysSo_data();
@@ -91,6 +96,15 @@ private:
     static void Write(const TConsole& console, const char* name, const QByteArray& contents)
     {
         WriteFile(LogFile(console, name), contents);
+    }
+
+    /// With a modification time of @p second seconds after a fixed moment.
+    static void WriteAt(const TConsole& console, const char* name, const QByteArray& contents, int second)
+    {
+        Write(console, name, contents);
+        const timespec time = {1700000000 + second, 0};
+        const timespec times[2] = {time, time};
+        utimensat(AT_FDCWD, QFile::encodeName(LogFile(console, name)).constData(), times, 0);
     }
 
     static QString ReplaceEnds(QString text) { return text.replace(QLatin1Char('|'), QLatin1Char('\n')); }
@@ -129,28 +143,35 @@ void ConsoleLogs::anEntryIsLogged()
 
 void ConsoleLogs::theNewestLinesAreShown_data()
 {
-    QTest::addColumn<QStringList>("files"); ///< "name: contents", in the order in which they are written; | ends a line
+    QTest::addColumn<QStringList>("files"); ///< "name@second:contents", modified at that second; | ends a line
     QTest::addColumn<int>("count");
     QTest::addColumn<QString>("shown");
     const auto row = [](const char* name, const QStringList& files, int count, const char* shown) {
         QTest::newRow(name) << files << count << Utf8(shown);
     };
-    row("of one file", {Utf8("NMEA00001.csv:a|b|c|")}, 2, "b|c|");
-    row("fewer than asked for", {Utf8("NMEA00001.csv:a|b|")}, 5, "a|b|");
-    row("none", {Utf8("NMEA00001.csv:a|b|")}, 0, "");
-    row("of an empty file", {Utf8("NMEA00001.csv:")}, 5, "");
-    row("across files", {Utf8("NMEA00007.csv:a|b|"), Utf8("NMEA00008.csv:c|"), Utf8("NMEA00009.csv:d|")}, 3, "b|c|d|");
-    row("of the older file alone", {Utf8("NMEA00007.csv:a|b|"), Utf8("NMEA00008.csv:")}, 1, "b|");
-    row("by number, whatever was written last", {Utf8("NMEA00010.csv:c|"), Utf8("NMEA00009.csv:b|")}, 2, "b|c|");
+    row("of one file", {Utf8("NMEA00001.csv@1:a|b|c|")}, 2, "b|c|");
+    row("fewer than asked for", {Utf8("NMEA00001.csv@1:a|b|")}, 5, "a|b|");
+    row("none", {Utf8("NMEA00001.csv@1:a|b|")}, 0, "");
+    row("of an empty file", {Utf8("NMEA00001.csv@1:")}, 5, "");
+    row("across files", {Utf8("NMEA00007.csv@1:a|b|"), Utf8("NMEA00008.csv@2:c|"), Utf8("NMEA00009.csv@3:d|")}, 3,
+        "b|c|d|");
+    row("of the older file alone", {Utf8("NMEA00007.csv@1:a|b|"), Utf8("NMEA00008.csv@2:")}, 1, "b|");
+    row("by time, whatever the numbers", {Utf8("NMEA00009.csv@2:c|"), Utf8("NMEA00010.csv@1:b|")}, 2, "b|c|");
+    row("by number where the times are equal", {Utf8("NMEA00010.csv@1:c|"), Utf8("NMEA00009.csv@1:b|")}, 2, "b|c|");
     row("00001 follows 99999",
-        {Utf8("NMEA00001.csv:c|"), Utf8("NMEA00002.csv:d|"), Utf8("NMEA99998.csv:a|"), Utf8("NMEA99999.csv:b|")}, 4,
-        "a|b|c|d|");
+        {Utf8("NMEA00001.csv@1:c|"), Utf8("NMEA00002.csv@1:d|"), Utf8("NMEA99998.csv@1:a|"),
+         Utf8("NMEA99999.csv@1:b|")},
+        4, "a|b|c|d|");
     row("a line that begins in one file and ends in the next",
-        {Utf8("NMEA00001.csv:a|b1"), Utf8("NMEA00002.csv:b2|c|")}, 2, "b1b2|c|");
-    row("a line without an end", {Utf8("NMEA00001.csv:a|b|c")}, 2, "b|c|");
-    row("empty lines", {Utf8("NMEA00001.csv:a||b|")}, 3, "a||b|");
-    row("of this log", {Utf8("NMEA00001.csv:a|"), Utf8("User00002.csv:b|"), Utf8("NMEA00002.txt:c|")}, 5, "a|");
-    row("a copy that somebody has left there", {Utf8("NMEA00001.csv:b|"), Utf8("NMEA-copy.csv:a|")}, 5, "a|b|");
+        {Utf8("NMEA00001.csv@1:a|b1"), Utf8("NMEA00002.csv@2:b2|c|")}, 2, "b1b2|c|");
+    row("a line without an end", {Utf8("NMEA00001.csv@1:a|b|c")}, 2, "b|c|");
+    row("empty lines", {Utf8("NMEA00001.csv@1:a||b|")}, 3, "a||b|");
+    row("of this log",
+        {Utf8("NMEA00001.csv@1:a|"), Utf8("User00002.csv@1:b|"), Utf8("NMEA00002.txt@1:c|"), Utf8("nmea2.csv@1:d|")}, 5,
+        "a|");
+    row("of a hidden file", {Utf8(".NMEA00001.csv@1:a|"), Utf8("NMEA00002.csv@1:b|")}, 5, "b|");
+    row("of an older copy", {Utf8("NMEA00001.csv@2:b|"), Utf8("NMEA-copy.csv@1:a|")}, 5, "a|b|");
+    row("of a newer copy", {Utf8("NMEA00001.csv@1:b|"), Utf8("NMEA-copy.csv@2:a|")}, 5, "b|a|");
 }
 
 void ConsoleLogs::theNewestLinesAreShown()
@@ -161,7 +182,9 @@ void ConsoleLogs::theNewestLinesAreShown()
     const TConsole console;
     for (const QString& file : files) {
         const QString contents = file.section(QLatin1Char(':'), 1).replace(QLatin1Char('|'), Utf8("\r\n"));
-        Write(console, file.section(QLatin1Char(':'), 0, 0).toLatin1().constData(), contents.toLatin1());
+        const QString name = file.section(QLatin1Char(':'), 0, 0);
+        WriteAt(console, name.section(QLatin1Char('@'), 0, 0).toLatin1().constData(), contents.toLatin1(),
+                name.section(QLatin1Char('@'), 1).toInt());
     }
     const TConsole::tagResult result = console.Run(Words("log tail nmea -n") + QStringList(QString::number(count)));
     QCOMPARE(result.errors, QString());
@@ -313,6 +336,21 @@ void ConsoleLogs::aFollowerGoesFromFileToFile()
     QCOMPARE(follower.Output(), Utf8("1\n2\n3 begins and ends\n4\n5\n6\n7\n8 without end\n"));
 }
 
+void ConsoleLogs::aFollowerGoesOnAfterTheClockWasSetBack()
+{
+    const TConsole console;
+    Write(console, "NMEA00001.csv", "1\r\n");
+    TFollower follower(console, "log tail --follow nmea");
+    QTRY_COMPARE_WITH_TIMEOUT(follower.Output(), Utf8("1\n"), DeadlineMs);
+    Write(console, "NMEA00001.csv", "2 beg");
+    WriteAt(console, "NMEA00002.csv", "ins\r\n", 0);
+    QTRY_COMPARE_WITH_TIMEOUT(follower.Output(), Utf8("1\n2 begins\n"), DeadlineMs);
+    WriteAt(console, "NMEA00002.csv", "3\r\n4 beg", 1);
+    WriteAt(console, "NMEA00003.csv", "ins\r\n", -100);
+    QTRY_COMPARE_WITH_TIMEOUT(follower.Output(), Utf8("1\n2 begins\n3\n4 begins\n"), DeadlineMs);
+    QCOMPARE(follower.Interrupt(), 0);
+}
+
 void ConsoleLogs::aFollowerStartsWithTheNewestLines()
 {
     const TConsole console;
@@ -403,10 +441,10 @@ void ConsoleLogs::aTerminalThatRunsIsFollowed()
 void ConsoleLogs::filesAreListedInTheirOrder()
 {
     const TConsole console;
-    Write(console, "User00001.csv", "ab");
-    Write(console, "User99999.csv", "abc");
-    Write(console, "NMEA00004.csv", "a");
-    Write(console, "NMEA-copy.csv", QByteArray());
+    WriteAt(console, "User00001.csv", "ab", 1);
+    WriteAt(console, "User99999.csv", "abc", 1);
+    WriteAt(console, "NMEA00004.csv", "a", 1);
+    WriteAt(console, "NMEA-copy.csv", QByteArray(), 1);
     const TConsole::tagResult result = Run(console, "log list --json");
     QCOMPARE(result.errors, QString());
     QCOMPARE(result.status, 0);
@@ -450,6 +488,31 @@ void ConsoleLogs::filesAreListedInTheirOrder()
     }
     const QJsonArray nmea = Array(Run(console, "log list nmea --json"));
     QCOMPARE(nmea, (QJsonArray{files.at(2), files.at(3)}));
+}
+
+void ConsoleLogs::theLogGoesOnInTheNewestFileOfTheList_data()
+{
+    QTest::addColumn<QStringList>("oldestFirst");
+    const auto row = [](const char* name, const char* files) { QTest::newRow(name) << Words(files); };
+    row("by number", "User00001.csv User00002.csv");
+    row("after the clock was set back", "User00002.csv User00001.csv");
+    row("round the last number", "User99999.csv User00001.csv");
+    row("without a number", "User00001.csv User-copy.csv");
+    row("of another spelling", "user00009.csv User00009.CSV User00001.csv");
+}
+
+void ConsoleLogs::theLogGoesOnInTheNewestFileOfTheList()
+{
+    QFETCH(QStringList, oldestFirst);
+    const TConsole console;
+    for (int i = 0; i < oldestFirst.size(); ++i)
+        WriteAt(console, oldestFirst.at(i).toLatin1().constData(), "a\r\n", i);
+    const QJsonObject newest = Array(Run(console, "log list user --json")).last().toObject();
+    QCOMPARE(newest.value(Utf8("newest")), QJsonValue(true));
+    QCOMPARE(newest.value(Utf8("file")).toString(), oldestFirst.last());
+    QCOMPARE(Run(console, "log add next").status, 0);
+    QVERIFY(Contents(newest.value(Utf8("path")).toString()).endsWith(",next,\r\n"));
+    QVERIFY(Run(console, "log tail user -n 1").output.endsWith(Utf8(",next,\n")));
 }
 
 void ConsoleLogs::anEmptyListIsNoFailure()

@@ -6,6 +6,8 @@
 #include "console/logs/LogArgument.h"
 #include "console/logs/LogFiles.h"
 
+#include "logs/TLogSeries.h"
+
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -37,21 +39,21 @@ int RunLogList(const tagContext& context, const QStringList& arguments)
     QList<QStringList> rows = {{QLatin1String("log"), QLatin1String("file"), QLatin1String("number"),
                                 QLatin1String("size"), QLatin1String("modified")}};
     for (const QString& log : wanted) {
-        const QString basePath = LogBasePath(log, *drive);
-        const QFileInfoList files = LogFiles(basePath);
-        for (const QFileInfo& file : files) {
-            const bool isNewest = file == files.last();
-            const auto number = LogFileNumber(basePath, file);
-            const QString modified = file.lastModified().toUTC().toString(Qt::ISODate);
+        const TLogSeries series(LogBasePath(log, *drive));
+        const std::vector<TLogSeries::tagFile> files = series.GetFiles();
+        for (const TLogSeries::tagFile& file : files) {
+            const bool isNewest = &file == &files.back();
+            const auto& number = file.number;
+            const QString modified = QDateTime::fromMSecsSinceEpoch(file.modified, Qt::UTC).toString(Qt::ISODate);
             array.append(QJsonObject{{QLatin1String("log"), log},
-                                     {QLatin1String("file"), file.fileName()},
-                                     {QLatin1String("path"), file.filePath()},
+                                     {QLatin1String("file"), file.name},
+                                     {QLatin1String("path"), series.GetPath(file.name)},
                                      {QLatin1String("number"), number ? QJsonValue(*number) : QJsonValue()},
-                                     {QLatin1String("size"), file.size()},
+                                     {QLatin1String("size"), file.size},
                                      {QLatin1String("modified"), modified},
                                      {QLatin1String("newest"), isNewest}});
-            rows.append({log, file.fileName(), number ? QString::number(*number) : QString(QLatin1Char('-')),
-                         QString::number(file.size()), modified});
+            rows.append({log, file.name, number ? QString::number(*number) : QString(QLatin1Char('-')),
+                         QString::number(file.size), modified});
             if (isNewest)
                 rows.last().append(QLatin1String("newest"));
         }

@@ -8,8 +8,11 @@
 #include "console/logs/LogFiles.h"
 #include "console/logs/LogTail.h"
 
+#include "logs/TLogSeries.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTimer>
@@ -157,7 +160,7 @@ int RunLogTail(const tagContext& context, const QStringList& arguments)
     TLogTail tail(basePath);
     QString error;
     QList<tagLogLine> lines = tail.Read(&error);
-    if (!isFollowing && LogFiles(basePath).isEmpty())
+    if (!isFollowing && TLogSeries(basePath).GetFiles().empty())
         return Fail(QString::fromLatin1("the %1 log has no file in %2").arg(log, QFileInfo(basePath).path()));
     if (!isFollowing && !tail.Unfinished().text.isEmpty())
         lines.append(tail.Unfinished());

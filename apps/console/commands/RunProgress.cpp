@@ -1,7 +1,6 @@
 #include "console/commands/RunProgress.h"
 
-#include "console/logs/LogFiles.h"
-
+#include "logs/TLogSeries.h"
 #include "region/TRegionSettingsProxy.h"
 #include "system/TSystemSettingsProxy.h"
 
@@ -42,12 +41,12 @@ void TRunProgress::Show()
 {
     const TNmeaReceiver::tagStatus& status = m_Receiver.GetStatus();
     const TRegionSettingsProxy region;
-    const QFileInfoList logs = LogFiles(TSystemSettingsProxy().GetInternalNemaLogPath());
+    const auto logs = TLogSeries(TSystemSettingsProxy().GetInternalNemaLogPath()).GetFiles();
     const QString line = QString::fromLatin1("%1 lines, %2, %3 %4, %5")
                              .arg(status.lines)
                              .arg(QLatin1String(status.hasFix ? "fix" : "no fix"))
                              .arg(region.GetDateString(), region.GetTimeString())
-                             .arg(logs.isEmpty() ? QLatin1String("no log") : logs.last().fileName());
+                             .arg(logs.empty() ? QLatin1String("no log") : logs.back().name);
     std::fprintf(stderr, "%s%s", WipeLine, line.toUtf8().constData());
     std::fflush(stderr);
     m_IsShown = true;

@@ -1,11 +1,11 @@
 #include "console/commands/RunSummary.h"
 
 #include "console/line/Output.h"
-#include "console/logs/LogFiles.h"
 #include "console/terminal/ActiveItems.h"
 #include "console/terminal/UtcOffset.h"
 
 #include "colors/TColorSettingsProxy.h"
+#include "logs/TLogSeries.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 #include "region/TRegionSettingsProxy.h"
@@ -125,10 +125,9 @@ TRows LogRows()
     const QLocale numbers(QLocale::English);
     TRows rows;
     for (const QString& path : {system.GetInternalUserLogPath(), system.GetInternalNemaLogPath()}) {
-        const QFileInfoList files = LogFiles(path);
-        for (const QFileInfo& file : files) {
-            rows.append({rows.isEmpty() ? QLatin1String("Logs") : QString(), file.fileName(),
-                         QString::fromLatin1("%1 bytes").arg(numbers.toString(file.size()))});
+        for (const TLogSeries::tagFile& file : TLogSeries(path).GetFiles()) {
+            rows.append({rows.isEmpty() ? QLatin1String("Logs") : QString(), file.name,
+                         QString::fromLatin1("%1 bytes").arg(numbers.toString(file.size))});
         }
     }
     return rows;

@@ -1,8 +1,10 @@
 #include "console/logs/LogTail.h"
 
-#include "console/logs/LogFiles.h"
+#include "logs/TLogSeries.h"
 
 #include <QFile>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,18 +24,26 @@ QList<tagLogLine> TLogTail::Read(QString* error)
     error->clear();
     QList<tagLogLine> lines;
     QHash<QString, qint64> read;
-    const QFileInfoList files = LogFiles(m_BasePath);
-    for (const QFileInfo& info : files) {
-        const QString name = info.fileName();
-        QFile file(info.filePath());
+    const TLogSeries series(m_BasePath);
+    std::vector<TLogSeries::tagFile> files = series.GetFiles();
+    const auto turn = [this](const TLogSeries::tagFile& file) {
+        return !m_Read.contains(file.name) ? 2 : file.name == m_LastFile ? 1 : 0;
+    };
+    std::stable_sort(files.begin(), files.end(),
+                     [&turn](const TLogSeries::tagFile& a, const TLogSeries::tagFile& b) { return turn(a) < turn(b); });
+    for (const TLogSeries::tagFile& found : files) {
+        const QString& name = found.name;
+        QFile file(series.GetPath(name));
         if (!file.open(QIODevice::ReadOnly) && !file.exists())
             continue; // the log has just given it up
         const qint64 before = m_Read.value(name);
         const qint64 start = before <= file.size() ? before : 0; // a shorter one is another file of that name
         const QByteArray bytes = file.isOpen() && file.seek(start) ? file.readAll() : QByteArray();
         if (file.error() != QFileDevice::NoError)
-            *error = QString::fromLatin1("%1 cannot be read: %2").arg(info.filePath(), file.errorString());
+            *error = QString::fromLatin1("%1 cannot be read: %2").arg(file.fileName(), file.errorString());
         read.insert(name, start + bytes.size());
+        if (!bytes.isEmpty())
+            m_LastFile = name;
         Split(name, bytes, &lines);
     }
     m_Read = read;
