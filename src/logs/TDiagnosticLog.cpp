@@ -12,13 +12,25 @@
 #include <QTime>
 #include <QVarLengthArray>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <ctime>
 
 namespace {
+
+const long long LookIntervalMs = 1000;
+
+/// Milliseconds of a clock that is never set. The coarse one is read without a call to the system.
+long long Milliseconds()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return static_cast<long long>(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
+}
 
 /// How much got there: less than @p length only when the system takes no more.
 int WriteAll(int file, const char* data, int length)
@@ -98,6 +110,9 @@ TDiagnosticLog::TDiagnosticLog(int stagingSize, long long maxFileSize, int maxFi
     , m_IterationParam(iterationParam)
     , m_Iteration(Parameters::ReadInt(iterationParam))
     , m_FileLength(0)
+    , m_HasFailed(false)
+    , m_LostLines(0)
+    , m_LookedAt(0)
 {}
 
 TDiagnosticLog::~TDiagnosticLog() { Close(); }
@@ -121,41 +136,72 @@ bool TDiagnosticLog::Restore(const QString& basePath, int maxFileCount, long lon
 
 bool TDiagnosticLog::Open()
 {
-    if (m_IsOpen || m_FileName.isEmpty())
+    if (m_IsOpen || m_BasePath.isEmpty())
+        return false;
+    m_HasFailed = true;
+    if (m_FileName.isEmpty())
         return false;
     // Unbuffered: the writes go past the QFile, straight to the system, and their results tell how much really got
     // there. Append: should a second program write the same log, no line overwrites another.
     if (!m_File.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
         return false;
     m_FileLength = m_File.pos();
+    m_LookedAt = Milliseconds();
     m_IsOpen = true;
+    m_HasFailed = false;
     return true;
+}
+
+bool TDiagnosticLog::Reopen()
+{
+    if (!m_HasFailed)
+        return false;
+    if (m_FileName.isEmpty()) { // the folder did not exist
+        m_FileName = NextFileName(NEWEST_BY_TIME);
+        m_File.setFileName(m_FileName);
+    }
+    return Open();
+}
+
+TDiagnosticLog::tagState TDiagnosticLog::GetState() const
+{
+    const tagState state = {m_IsOpen, m_HasFailed, m_LostLines};
+    return state;
 }
 
 void TDiagnosticLog::Close()
 {
-    if (!m_IsOpen)
-        return;
-    FlushTempBuffer();
+    if (m_IsOpen)
+        FlushTempBuffer();
     CloseWithoutFlush();
 }
 
 void TDiagnosticLog::CloseWithoutFlush()
 {
-    if (!m_IsOpen)
-        return;
+    CloseFile();
+    m_HasFailed = false;
+}
+
+void TDiagnosticLog::CloseFile()
+{
     m_File.close();
     m_IsOpen = false;
 }
 
 bool TDiagnosticLog::LogDiagnostic(const char* data, int length)
 {
-    if (!m_IsOpen || length < 0)
+    if (!m_IsOpen || length < 0) {
+        CountLost(data, length);
         return false;
+    }
     if (length < m_StagingSize - m_StagingFill) {
         std::copy_n(data, length, m_Staging.begin() + m_StagingFill);
         m_StagingFill += length;
         return true;
+    }
+    if (!KeepFile()) {
+        CountLost(data, length);
+        return false;
     }
     if (m_StagingFill > 0 && length <= m_StagingSize && m_FileLength + m_StagingFill <= m_MaxFileSize)
         return WriteBehindStaged(data, length);
@@ -169,8 +215,11 @@ bool TDiagnosticLog::WriteBehindStaged(const char* data, int length)
     m_StagingFill = 0;
     std::copy_n(data, length, m_Staging.begin() + staged);
     const int written = Append(m_Staging.data(), staged + length);
-    if (written < staged)
-        return WriteToLog(data, length); // what is staged is given up, these bytes are not
+    if (written < staged) { // what is staged is given up, these bytes are not
+        CountLost(m_Staging.data() + written, staged - written);
+        return WriteToLog(data, length);
+    }
+    CountLost(data + (written - staged), length - (written - staged));
     return written == staged + length && GoOn();
 }
 
@@ -178,14 +227,14 @@ bool TDiagnosticLog::FlushTempBuffer()
 {
     const int staged = m_StagingFill;
     m_StagingFill = 0;
-    return m_IsOpen && staged > 0 && WriteToLog(m_Staging.data(), staged);
+    return staged > 0 && WriteToLog(m_Staging.data(), staged);
 }
 
 bool TDiagnosticLog::WriteToLog(const char* data, int length)
 {
-    if (!m_IsOpen)
-        return false;
-    return Append(data, length) == length && GoOn();
+    const int written = length >= 0 && KeepFile() ? Append(data, length) : 0;
+    CountLost(data + written, length - written);
+    return m_IsOpen && written == length && GoOn();
 }
 
 int TDiagnosticLog::Append(const char* data, int length)
@@ -199,8 +248,27 @@ bool TDiagnosticLog::GoOn()
 {
     if (m_FileLength <= m_MaxFileSize || m_File.isSequential()) // a device never fills
         return true;
-    CloseWithoutFlush();
+    CloseFile();
     return Restore(m_BasePath, 0, 0, NEWEST_IS_CURRENT);
+}
+
+bool TDiagnosticLog::KeepFile()
+{
+    const long long now = Milliseconds();
+    if (!m_IsOpen || now - m_LookedAt < LookIntervalMs)
+        return m_IsOpen;
+    m_LookedAt = now;
+    struct stat status = {};
+    if (fstat(m_File.handle(), &status) != 0 || status.st_nlink > 0)
+        return true;
+    CloseFile();
+    return Restore(m_BasePath, m_MaxFileCount, m_MaxFileSize, NEWEST_BY_TIME);
+}
+
+void TDiagnosticLog::CountLost(const char* data, int length)
+{
+    if (length > 0)
+        m_LostLines += std::count(data, data + length, '\n') + (data[length - 1] == '\n' ? 0 : 1);
 }
 
 bool TDiagnosticLog::AddEntry(const QString& text)

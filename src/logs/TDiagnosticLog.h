@@ -29,6 +29,14 @@ public:
         bool allCopied;   ///< every file found was copied; false when the log's folder does not exist
     };
 
+    /// What a host needs to keep a log going; see GetState().
+    struct tagState
+    {
+        bool isOpen;
+        bool hasFailed;      ///< closed, though nobody has closed it: its file could not be opened; see Reopen()
+        long long lostLines; ///< lines handed over that are in no file, since the log was constructed
+    };
+
     /// @param stagingSize bytes of the staging buffer; 0 writes every entry straight to the file.
     /// @param maxFileSize bytes; a file that has grown past it is followed by the next one.
     /// @param maxFileCount files kept; 1 names a single file, without a number.
@@ -51,6 +59,16 @@ public:
     /// Opens the current file at its end. False when the log is open already, was never restored, or cannot be opened.
     bool Open();
 
+    /// Opens a log that has failed: the file that could not be opened before, without a number taken again. False when
+    /// the log has not failed, and when it fails again.
+    bool Reopen();
+
+    /// Whether the log is open, and what it has lost. A log has failed when Restore(), Open() or Export() could not
+    /// open its file, or when there was no next file; Close() and CloseWithoutFlush() end that state. Lost are the
+    /// lines that were given to a closed log, were not written because the disk was full, or were staged and then
+    /// dropped. A line ends with a line feed or where the data of a call ends.
+    tagState GetState() const;
+
     /// Writes what is staged and closes the file.
     void Close();
 
@@ -68,7 +86,10 @@ public:
 
     /// Writes past the staging buffer, and starts the next file of the series when this one has grown past its limit.
     /// False when the log is closed, not everything was written (the file stays open), the length is negative, or the
-    /// next file cannot be opened. What is no file but a device has no limit.
+    /// next file cannot be opened. Devices have no size limit.
+    ///
+    /// A file that another program has removed is left within a second, before anything else is written: the log goes
+    /// on in the newest file of the series or in a new one.
     bool WriteToLog(const char* data, int length);
 
     /// Logs one line: local date and time ("2024.05.01-13:07:09:042,"), @p text in Latin-1 (other characters become
@@ -111,6 +132,13 @@ private:
     /// Starts the next file of the series when this one has grown past its limit; false when it cannot be opened.
     bool GoOn();
 
+    /// Leaves a file that has been removed for another one of the series. False when the log is closed, also because no
+    /// other file can be opened. Looks at most once a second.
+    bool KeepFile();
+
+    void CloseFile();
+    void CountLost(const char* data, int length);
+
     std::vector<char> m_Staging; ///< twice the size, so that a line which no longer fits can be written with the rest
     int m_StagingFill;
     QFile m_File;
@@ -127,4 +155,7 @@ private:
     long long m_FileLength; ///< as found on opening, plus what this log has written since
     QDate m_StampedDate;    ///< of the last entry
     QByteArray m_DateStamp; ///< that date as it stands in a line; changes once a day
+    bool m_HasFailed;
+    long long m_LostLines;
+    long long m_LookedAt; ///< when KeepFile() looked last, in milliseconds of a clock that is never set
 };

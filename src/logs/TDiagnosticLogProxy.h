@@ -20,6 +20,11 @@ public:
     virtual bool AddEntry(const QString& text);
     virtual bool LogDiagnostic(const char* data, int length);
 
+    /// Not virtual, so that the order of the virtual operations stays as it is.
+    bool Reopen();
+    bool FlushTempBuffer();
+    TDiagnosticLog::tagState GetState();
+
     virtual void Lock() = 0;
     virtual void Unlock() = 0;
 

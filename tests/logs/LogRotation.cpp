@@ -1,4 +1,5 @@
 #include "CoreTest.h"
+#include "StandingClock.h"
 #include "TLogRoom.h"
 
 #include <QtTest>
