@@ -10,25 +10,25 @@
 
 namespace {
 
-const tagCommand Commands[] = {
+const std::vector<tagCommand> Commands = {
     {"run", "Runs the terminal on an NMEA stream.", RunRun},
-    {"simulate", "Writes the NMEA stream of a tractor working a field.", RunSimulate},
-    {"get", "Prints a parameter.", RunGet},
+    {"simulate", "Writes the NMEA stream of a tractor that works a field.", RunSimulate},
+    {"get", "Prints the value of a parameter.", RunGet},
     {"set", "Sets a parameter.", RunSet},
-    {"reset", "Gives a parameter the value of a first start.", RunReset},
+    {"reset", "Sets a parameter to its default.", RunReset},
     {"list", "Lists the parameters.", RunList},
     {"describe", "Explains a parameter.", RunDescribe},
     {"colors", "Prints the colours by day and by night.", RunColors},
-    {"clock", "Prints the clock and sets it.", RunClock},
-    {"select", "Makes a job, a vehicle, a field... the active one.", RunSelect},
-    {"selections", "Lists what is active.", RunSelections},
-    {"paths", "Prints where everything lies.", RunPaths},
-    {"storage", "Prints what is free on the drives and in memory.", RunStorage},
+    {"clock", "Prints the clock, and sets it.", RunClock},
+    {"select", "Selects a job, a vehicle, a field and so on.", RunSelect},
+    {"selections", "Lists the selected items.", RunSelections},
+    {"paths", "Prints the paths of files and folders.", RunPaths},
+    {"storage", "Prints the free space of the drives and the memory.", RunStorage},
     {"units", "Lists the units.", RunUnits},
     {"convert", "Converts a value or a column of values.", RunConvert},
     {"show", "Prints a value as the operator sees it.", RunShow},
-    {"dump", "Prints what stands in a file of serialized blocks.", RunDump},
-    {"log", "Shows the logs, adds to them and exports them.", RunLog},
+    {"dump", "Prints a file of serialized blocks.", RunDump},
+    {"log", "Prints the logs, adds to them and exports them.", RunLog},
 };
 
 QString DefaultDataFolder()
@@ -45,17 +45,17 @@ int Run(QStringList arguments)
         const bool isApart = first == option;
         context.dataFolder = isApart ? arguments.value(1) : first.mid(option.size() + 1);
         if (context.dataFolder.isEmpty())
-            return Misuse(QLatin1String("--data takes the folder that stands for the terminal"));
+            return Misuse(QLatin1String("missing value; expected --data DIR"));
         arguments = arguments.mid(isApart ? 2 : 1);
     }
     if (arguments.value(0) == QLatin1String("--version")) {
-        Print(QLatin1String("cabsettings " CABSETTINGS_VERSION "\n"));
+        PrintLine(QLatin1String("cabsettings " CABSETTINGS_VERSION));
         return STATUS_DONE;
     }
     const bool isManual = arguments == QStringList{QLatin1String("--manual")};
     if (isManual)
         Manual::PrintHead();
-    const int status = Dispatch(QLatin1String("cabsettings [--data DIR]"), Commands, context, arguments);
+    const int status = Dispatch(QString(), Commands, context, arguments);
     if (isManual)
         Manual::PrintTail();
     return status;

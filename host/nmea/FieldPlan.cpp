@@ -32,7 +32,7 @@ QString CheckFieldPlan(const tagFieldPlan& plan)
     for (const tagRow& row : rows) {
         const bool isAccepted = row.value >= row.least && row.value <= row.most; // false for NaN
         if (!isAccepted)
-            return QString::fromLatin1("%1: %2 is not from %3 to %4")
+            return QString::fromLatin1("invalid %1 %2; expected a number from %3 to %4")
                 .arg(QLatin1String(row.name), Number(row.value), Number(row.least), Number(row.most));
     }
 
@@ -41,9 +41,9 @@ QString CheckFieldPlan(const tagFieldPlan& plan)
     const QDate last(2098, 12, 31);
     const QDate date = plan.start.toUTC().date();
     if (!plan.start.isValid() || date < first || date > last)
-        return QString::fromLatin1("start: %1 is not a time from %2 to %3")
+        return QString::fromLatin1("invalid start time \"%1\"; expected a date from %2 to %3")
             .arg(plan.start.toUTC().toString(Qt::ISODate), first.toString(Qt::ISODate), last.toString(Qt::ISODate));
     if (plan.talker != "GN" && plan.talker != "GP")
-        return QString::fromLatin1("talker: %1 is not GN or GP").arg(QString::fromUtf8(plan.talker));
+        return QString::fromLatin1("invalid talker \"%1\"; expected GN or GP").arg(QString::fromUtf8(plan.talker));
     return QString();
 }

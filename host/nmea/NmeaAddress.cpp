@@ -86,7 +86,7 @@ std::optional<NmeaAddress> ReadNmeaAddress(const QString& text, QString* error)
             continue;
         auto address = form.read(text.mid(match.capturedLength()));
         if (!address)
-            *error = QString::fromLatin1("\"%1\" is no source of NMEA; expected %2").arg(text, form.expected());
+            *error = QString::fromLatin1("invalid source \"%1\"; expected %2").arg(text, form.expected());
         return address;
     }
     return tagFileAddress{text};

@@ -55,25 +55,25 @@ QString Shown(QChar character)
 QString Problem(const QString& name, int mostBytes)
 {
     if (name == QLatin1String(".") || name == QLatin1String(".."))
-        return QString::fromLatin1("would be another folder");
+        return QString::fromLatin1("refers to another folder");
     for (int i = 0; i < name.size(); ++i) {
         const QChar character = name.at(i);
         if (IsOneOf(character, Separators))
-            return QString::fromLatin1("holds the separator %1, and would leave its folder").arg(Shown(character));
+            return QString::fromLatin1("contains the separator %1").arg(Shown(character));
         if (IsControl(character) || IsOneOf(character, ForbiddenByFat))
-            return QString::fromLatin1("holds %1, which a FAT stick cannot hold").arg(Shown(character));
+            return QString::fromLatin1("contains %1, which FAT file systems do not allow").arg(Shown(character));
         if (IsAlone(name, i))
-            return QString::fromLatin1("holds half a character");
+            return QString::fromLatin1("contains an incomplete character");
     }
     if (!name.isEmpty() && IsCutByFat(name.at(name.size() - 1)))
-        return QString::fromLatin1("ends in a full stop or a blank, which a FAT stick drops");
+        return QString::fromLatin1("ends in a full stop or a blank, which FAT file systems remove");
     if (name.startsWith(QLatin1Char(' ')))
-        return QString::fromLatin1("begins with a blank, which nobody sees");
+        return QString::fromLatin1("begins with a blank");
     if (IsReserved(name))
-        return QString::fromLatin1("is reserved: a FAT stick cannot hold it");
+        return QString::fromLatin1("is reserved on FAT file systems");
     const auto bytes = name.toUtf8().size();
     if (bytes > mostBytes)
-        return QString::fromLatin1("has %1 bytes, and %2 are accepted").arg(bytes).arg(mostBytes);
+        return QString::fromLatin1("has %1 bytes; at most %2 are allowed").arg(bytes).arg(mostBytes);
     return QString();
 }
 

@@ -21,4 +21,11 @@ CABHOST_EXPORT QString FromValue(const QVariant& value);
 /// none.
 CABHOST_EXPORT QVariant ToValue(const QString& typeName, const QString& text, QString* error);
 
+/// "a, b or c"
+CABHOST_EXPORT QString Alternatives(const QStringList& names);
+
+/// Those of @p names that @p text may have been meant to be, the nearest first, four at most; none when nothing is
+/// near. Capitals make no difference. A name may have a group, "units.metric": the group may be missing or wrong.
+CABHOST_EXPORT QStringList Near(const QString& text, const QStringList& names);
+
 } // namespace ParameterText

@@ -40,7 +40,7 @@ tagParameter Parameter(const tagSelection& row)
         parameter.choices.append({row.choices[i].value, Utf8(row.choices[i].name)});
         names.append(QString::fromLatin1("%1 (%2)").arg(Utf8(row.choices[i].name)).arg(row.choices[i].value));
     }
-    parameter.accepts = names.join(Utf8(", "));
+    parameter.accepts = ParameterText::Alternatives(names);
     parameter.firstValue = row.first;
     return parameter;
 }
@@ -68,7 +68,7 @@ tagParameter Parameter(const tagItemName& row)
     tagParameter parameter = Begin(row.about, PARAMETER_STRING);
     parameter.mostBytes = row.hasExtension ? ItemNames::MostBytesOfItem : ItemNames::MostBytes;
     parameter.accepts =
-        QString::fromLatin1("a name that a FAT stick can hold, of at most %1 bytes").arg(parameter.mostBytes);
+        QString::fromLatin1("a name of at most %1 bytes that FAT file systems allow").arg(parameter.mostBytes);
     if (row.isFirstEmpty)
         parameter.firstValue = QString();
     return parameter;
@@ -111,44 +111,17 @@ QList<tagParameter> AllParameters()
     return parameters;
 }
 
-/// How many characters must be put in, taken out or replaced to make one text of the other.
-int Distance(const QString& from, const QString& to)
-{
-    QList<int> row;
-    for (int i = 0; i <= to.size(); ++i)
-        row.append(i);
-    for (int i = 1; i <= from.size(); ++i) {
-        int diagonal = row.at(0);
-        row[0] = i;
-        for (int k = 1; k <= to.size(); ++k) {
-            const int replaced = diagonal + (from.at(i - 1) == to.at(k - 1) ? 0 : 1);
-            diagonal = row.at(k);
-            row[k] = std::min({replaced, row.at(k) + 1, row.at(k - 1) + 1});
-        }
-    }
-    return row.last();
-}
-
-/// Smaller is nearer; words that stand in the name, or share its last part, come before mere similarity.
-int Remoteness(const QString& text, const QString& name)
-{
-    const QString last = name.section(QLatin1Char('.'), 1);
-    if (name.contains(text))
-        return 0;
-    return std::min(Distance(text, name), 1 + Distance(text.section(QLatin1Char('.'), -1), last));
-}
-
-QString Problem(const tagParameter& parameter, const QVariant& value)
+/// Whether @p value, which has the parameter's type, is one that people may give it.
+bool IsAccepted(const tagParameter& parameter, const QVariant& value)
 {
     switch (parameter.id) {
     case PARAM_INTERNAL_DRIVE:
-        if (!value.toString().endsWith(QLatin1Char('/')))
-            return Utf8("does not end in \"/\"");
-        [[fallthrough]];
+        return QDir::isAbsolutePath(value.toString()) && value.toString().endsWith(QLatin1Char('/'));
     case PARAM_EXTERNAL_DRIVE:
-        return QDir::isAbsolutePath(value.toString()) ? QString() : Utf8("is not an absolute path");
+        return QDir::isAbsolutePath(value.toString());
     default:
-        return QString();
+        const bool isNumber = parameter.type == PARAMETER_INT && parameter.choices.isEmpty();
+        return !isNumber || (value.toInt() >= parameter.least && value.toInt() <= parameter.greatest);
     }
 }
 
@@ -192,19 +165,10 @@ const tagParameter* TParameterCatalogue::Find(const QString& nameOrNumber)
 
 QStringList TParameterCatalogue::Near(const QString& text)
 {
-    const int farthest = std::min(3, static_cast<int>(text.size()) / 2);
-    const int most = 4;
-    QList<QPair<int, QString>> found;
-    for (const tagParameter& parameter : Parameters()) {
-        const int remoteness = Remoteness(text.toLower(), parameter.name);
-        if (!text.isEmpty() && remoteness <= farthest)
-            found.append(qMakePair(remoteness, parameter.name));
-    }
-    std::sort(found.begin(), found.end());
     QStringList names;
-    for (const auto& each : found.mid(0, most))
-        names.append(each.second);
-    return names;
+    for (const tagParameter& parameter : Parameters())
+        names.append(parameter.name);
+    return ParameterText::Near(text, names);
 }
 
 QString TParameterCatalogue::TypeName(EParameterType type) { return Utf8(TypeNames[type]); }
@@ -213,26 +177,15 @@ QVariant TParameterCatalogue::Read(const tagParameter& parameter, const QString&
 {
     QVariant value = parameter.choices.isEmpty() ? ParameterText::ToValue(TypeName(parameter.type), text, error)
                                                  : ReadChoice(parameter, text);
-    QString problem;
-    if (!value.isValid()) {
-        problem = Utf8("is refused");
-    } else if (parameter.type == PARAMETER_INT && parameter.choices.isEmpty()) {
-        if (value.toInt() < parameter.least || value.toInt() > parameter.greatest)
-            problem = Utf8("is out of range");
-    } else if (parameter.mostBytes > 0) {
-        problem = ItemNames::Problem(text, parameter.mostBytes);
-    } else {
-        problem = Problem(parameter, value);
-    }
-    if (problem.isEmpty())
+    const bool isName = parameter.mostBytes > 0;
+    const QString problem = isName ? ItemNames::Problem(text, parameter.mostBytes) : QString();
+    if (value.isValid() && problem.isEmpty() && IsAccepted(parameter, value))
         return value;
 
-    const QString advice =
-        parameter.mostBytes > 0
-            ? QString::fromLatin1("; \"%1\" would do").arg(ItemNames::Suggestion(text, parameter.mostBytes))
-            : QString();
-    *error = QString::fromLatin1("%1: \"%2\" %3; accepted: %4%5")
-                 .arg(parameter.name, text, problem, parameter.accepts, advice);
+    const QString invalid = QString::fromLatin1("invalid value \"%1\" for %2").arg(text, parameter.name);
+    *error = isName ? QString::fromLatin1("%1: the name %2; did you mean \"%3\"?")
+                          .arg(invalid, problem, ItemNames::Suggestion(text, parameter.mostBytes))
+                    : QString::fromLatin1("%1; expected %2").arg(invalid, parameter.accepts);
     return QVariant();
 }
 

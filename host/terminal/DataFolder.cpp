@@ -68,7 +68,7 @@ bool DataFolder::MakeTree(const QString& internalDrive, QString* error)
     for (const char* folder : folders) {
         const QString path = drive.absoluteFilePath(QLatin1String(folder));
         if (!drive.mkpath(path)) {
-            *error = QString::fromLatin1("cannot make the folder %1").arg(path);
+            *error = QString::fromLatin1("cannot create the folder \"%1\"").arg(path);
             return false;
         }
     }

@@ -258,7 +258,7 @@ void ConsoleColors::wrongUsageSaysWhatIsAccepted_data()
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("named");
     QTest::addColumn<QString>("accepted");
-    QTest::newRow("unknown scheme") << Utf8("dusk") << Utf8("\"dusk\"") << Utf8("day and night");
+    QTest::newRow("unknown scheme") << Utf8("dusk") << Utf8("\"dusk\"") << Utf8("day or night");
     QTest::newRow("two schemes") << Utf8("day night") << Utf8("\"night\"") << Utf8("[day|night]");
     QTest::newRow("unknown painting") << Utf8("--color maybe") << Utf8("\"maybe\"") << Utf8("always, never or auto");
     QTest::newRow("unknown option") << Utf8("--paint") << Utf8("paint") << Utf8("colors --help");

@@ -280,7 +280,7 @@ void ConsoleLogs::aLogWithoutFilesIsAFailure()
     const TConsole::tagResult result = Run(console, "log tail user");
     QCOMPARE(result.status, 1);
     QCOMPARE(result.errors,
-             Utf8("cabsettings: the user log has no file in %1/internal/Diagnostics\n").arg(console.DataFolder()));
+             Utf8("cabsettings: the user log has no file in \"%1/internal/Diagnostics\"\n").arg(console.DataFolder()));
     // Whoever looks at a log does not begin one.
     QVERIFY(!QFile::exists(LogFile(console, "User00001.csv")));
 }
@@ -293,7 +293,7 @@ void ConsoleLogs::aFileThatCannotBeReadIsAFailure()
     const TConsole::tagResult result = Run(console, "log tail user");
     QCOMPARE(result.status, 1);
     QCOMPARE(result.output, Utf8("a\n"));
-    QVERIFY2(result.errors.contains(LogFile(console, "User00002.csv") + Utf8(" cannot be read: ")),
+    QVERIFY2(result.errors.contains(Utf8("cannot read \"%1\": ").arg(LogFile(console, "User00002.csv"))),
              qPrintable(result.errors));
 }
 
@@ -583,21 +583,21 @@ void ConsoleLogs::wrongUsageSaysWhatIsAccepted_data()
     const auto row = [](const char* name, const char* arguments, const char* named, const char* accepted) {
         QTest::newRow(name) << Utf8(arguments) << Utf8(named) << Utf8(accepted);
     };
-    row("no command", "log", "a command is missing", "add, tail, list, export");
-    row("unknown command", "log burn", "\"burn\"", "add, tail, list, export");
+    row("no command", "log", "missing command", "add, tail, list or export");
+    row("unknown command", "log burn", "\"burn\"", "add, tail, list or export");
     row("add without text", "log add", "missing", "TEXT");
     row("add of three texts", "log add a b c", "\"c\"", "TEXT [TEXT2]");
     row("add with a bad component", "log add --component 9 x", "--component", "0 to 4");
     row("add with a bad type", "log add --type x y", "--type", "0 to 2");
     row("add with a bad code", "log add --code -1 y", "--code", "0 to 2147483647");
     row("tail of no log", "log tail", "missing", "LOG");
-    row("tail of an unknown log", "log tail gps", "\"gps\"", "user, nmea");
+    row("tail of an unknown log", "log tail gps", "\"gps\"", "user or nmea");
     row("tail of two logs", "log tail user nmea", "\"nmea\"", "LOG");
-    row("tail of a bad number", "log tail -n few user", "-n takes", "0 to 2147483647, not \"few\"");
-    row("tail of a negative number", "log tail -n -3 user", "-n takes", "0 to 2147483647, not \"-3\"");
+    row("tail of a bad number", "log tail -n few user", "\"few\" for -n", "0 to 2147483647");
+    row("tail of a negative number", "log tail -n -3 user", "\"-3\" for -n", "0 to 2147483647");
     row("tail without its number", "log tail user -n", "n", "log tail --help");
     row("tail with an unknown option", "log tail user --all", "all", "log tail --help");
-    row("list of an unknown log", "log list gps", "\"gps\"", "user, nmea");
+    row("list of an unknown log", "log list gps", "\"gps\"", "user or nmea");
     row("list of two logs", "log list user nmea", "\"nmea\"", "[LOG]");
     row("export without folder", "log export", "missing", "DIR");
     row("export into two folders", "log export a b", "\"b\"", "DIR");

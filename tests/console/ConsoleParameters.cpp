@@ -109,20 +109,21 @@ void ConsoleParameters::wrongValuesAreRefusedAndLeaveNoTrace_data()
         QTest::newRow(name) << set << QString::fromUtf8(error);
     };
     const auto words = [](const char* text) { return QString::fromUtf8(text).split(QLatin1Char(' ')); };
-    row("no bool", words("units.metric maybe"), "units.metric: \"maybe\" is refused; accepted: true or false");
-    row("no choice", words("8960 2"), "units.area: \"2\" is refused; accepted: hectare (0), acre (1)");
-    row("out of range", words("clock.offset-hours 24"), "is out of range; accepted: a whole number from -23 to 23");
-    row("no colour", words("colors.day.map blurple"), "accepted: a colour: #rrggbb, #aarrggbb or a name");
-    row("a relative drive", words("system.internal-drive drive/"), "is not an absolute path");
-    row("a drive without its stroke", words("system.internal-drive /drive"), "does not end in \"/\"");
-    row("a name that leaves", words("active.field ../F1"), "holds the separator \"/\", and would leave its folder");
-    row("a name, and what would do", words("active.field a:b"), "\"a_b\" would do");
+    row("no bool", words("units.metric maybe"), "invalid value \"maybe\" for units.metric; expected true or false");
+    row("no choice", words("8960 2"), "invalid value \"2\" for units.area; expected hectare (0) or acre (1)");
+    row("out of range", words("clock.offset-hours 24"),
+        "invalid value \"24\" for clock.offset-hours; expected a whole number from -23 to 23");
+    row("no colour", words("colors.day.map blurple"), "expected a colour: #rrggbb, #aarrggbb or a name");
+    row("a relative drive", words("system.internal-drive drive/"), "expected an absolute path");
+    row("a drive without its stroke", words("system.internal-drive /drive"),
+        "expected an absolute path that ends in \"/\"");
+    row("a name that leaves", words("active.field ../F1"), "contains the separator \"/\"");
+    row("a name, and what would do", words("active.field a:b"), "did you mean \"a_b\"?");
     row("a reserved name", words("active.client nul"), "is reserved");
-    row("another type", words("--type string 8960 two"), "units.area is of type int");
-    row("an unknown type", words("--type float 20000 1"),
-        "there is no type \"float\"; the types are bool, int, double");
-    row("no type yet", words("20000 1"), "has no value yet; say its type with --type: bool, int, double");
-    row("not of its type", words("--type int 20000 x"), "\"x\" is not a whole number");
+    row("another type", words("--type string 8960 two"), "invalid type \"string\" for units.area; expected int");
+    row("an unknown type", words("--type float 20000 1"), "unknown type \"float\"; expected bool, int, double");
+    row("no type yet", words("20000 1"), "has no value yet; expected --type bool, int, double");
+    row("not of its type", words("--type int 20000 x"), "invalid value \"x\"; expected a whole number");
 }
 
 void ConsoleParameters::wrongValuesAreRefusedAndLeaveNoTrace()
@@ -151,11 +152,11 @@ void ConsoleParameters::unknownNamesSuggestNearOnes()
     const TConsole console;
     const TConsole::tagResult near = console.Run({command, QLatin1String("units.metrik")});
     QCOMPARE(near.status, 2);
-    QVERIFY2(near.errors.contains(QLatin1String("\"units.metrik\" is no parameter; near it: units.metric")),
+    QVERIFY2(near.errors.contains(QLatin1String("unknown parameter \"units.metrik\"; did you mean \"units.metric\"?")),
              qPrintable(near.errors));
     const TConsole::tagResult far = console.Run({command, QLatin1String("xyzzy-plugh")});
     QCOMPARE(far.status, 2);
-    QVERIFY2(far.errors.contains(QLatin1String("a name or a number of `cabsettings list` is accepted")),
+    QVERIFY2(far.errors.contains(QLatin1String("a name or a number that `cabsettings list` prints")),
              qPrintable(far.errors));
 }
 
@@ -188,7 +189,7 @@ void ConsoleParameters::resettingBringsTheFirstValueBack()
     QCOMPARE(got.output, first.isNull() ? QString() : first + QLatin1Char('\n'));
     const TConsole::tagResult own = console.Run({QLatin1String("reset"), QLatin1String("20000")});
     QCOMPARE(own.status, 2);
-    QVERIFY2(own.errors.contains(QLatin1String("the host's own")), qPrintable(own.errors));
+    QVERIFY2(own.errors.contains(QLatin1String("belongs to the host")), qPrintable(own.errors));
 }
 
 void ConsoleParameters::theListShowsNumberNameTypeAndValue()
@@ -238,7 +239,7 @@ void ConsoleParameters::patternsChooseWhatIsListed()
     const TConsole::tagResult list = console.Run({QLatin1String("list"), pattern});
     QCOMPARE(static_cast<int>(list.output.count(QLatin1Char('\n'))), count);
     QCOMPARE(list.status, count > 0 ? 0 : 1);
-    QCOMPARE(list.errors.contains(QLatin1String("no parameter fits \"frobozz\"")), count == 0);
+    QCOMPARE(list.errors.contains(QLatin1String("no parameter matches \"frobozz\"")), count == 0);
 }
 
 void ConsoleParameters::theListAsJsonHoldsEverything()
@@ -265,7 +266,7 @@ void ConsoleParameters::theListAsJsonHoldsEverything()
     QCOMPARE(area.value(QLatin1String("value")), QJsonValue(1));
     QCOMPARE(area.value(QLatin1String("default")), QJsonValue(0));
     QCOMPARE(area.value(QLatin1String("text")).toString(), QLatin1String("acre"));
-    QCOMPARE(area.value(QLatin1String("accepts")).toString(), QLatin1String("hectare (0), acre (1)"));
+    QCOMPARE(area.value(QLatin1String("accepts")).toString(), QLatin1String("hectare (0) or acre (1)"));
     QVERIFY(job.value(QLatin1String("value")).isNull());
     QVERIFY(job.value(QLatin1String("default")).isNull());
 
@@ -292,7 +293,7 @@ void ConsoleParameters::parametersAreDescribed()
     }
     const TConsole::tagResult drive = console.Run({QLatin1String("describe"), QLatin1String("system.internal-drive")});
     QVERIFY(drive.output.contains(QLatin1String("Value    (not set)\n")));
-    QVERIFY(drive.output.contains(QLatin1String("Default  found by the terminal itself\n")));
+    QVERIFY(drive.output.contains(QLatin1String("Default  chosen by the terminal\n")));
 }
 
 void ConsoleParameters::onesOfTheHostAreDescribedAsSuch()
@@ -304,7 +305,7 @@ void ConsoleParameters::onesOfTheHostAreDescribedAsSuch()
     console.Run({QLatin1String("set"), QLatin1String("--type"), QLatin1String("int"), QLatin1String("20000"),
                  QLatin1String("5")});
     const TConsole::tagResult described = console.Run({QLatin1String("describe"), QLatin1String("20000")});
-    QCOMPARE(described.output, QLatin1String("parameter 20000: the host's own; the library does not use it\n"));
+    QCOMPARE(described.output, QLatin1String("parameter 20000 belongs to the host; the library does not use it\n"));
     QCOMPARE(described.status, 0);
 }
 

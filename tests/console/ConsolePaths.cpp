@@ -293,13 +293,12 @@ void ConsolePaths::aNameThatNoStickHoldsIsRefused_data()
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("suggestion");
-    QTest::newRow("client") << Utf8("--client") << Utf8("a/b") << Utf8("\"a_b\" would do");
-    QTest::newRow("farm") << Utf8("--farm") << Utf8("..") << Utf8("\"_\" would do");
-    QTest::newRow("field") << Utf8("--field") << Utf8("4*4") << Utf8("\"4_4\" would do");
-    QTest::newRow("job") << Utf8("--job") << Utf8("J_1 ") << Utf8("\"J_1\" would do");
-    QTest::newRow("a job's file") << Utf8("--job") << QString(252, QLatin1Char('j')) << Utf8("251 are accepted");
-    QTest::newRow("a client's folder") << Utf8("--client") << QString(256, QLatin1Char('c'))
-                                       << Utf8("255 are accepted");
+    QTest::newRow("client") << Utf8("--client") << Utf8("a/b") << Utf8("did you mean \"a_b\"?");
+    QTest::newRow("farm") << Utf8("--farm") << Utf8("..") << Utf8("did you mean \"_\"?");
+    QTest::newRow("field") << Utf8("--field") << Utf8("4*4") << Utf8("did you mean \"4_4\"?");
+    QTest::newRow("job") << Utf8("--job") << Utf8("J_1 ") << Utf8("did you mean \"J_1\"?");
+    QTest::newRow("a job's file") << Utf8("--job") << QString(252, QLatin1Char('j')) << Utf8("at most 251");
+    QTest::newRow("a client's folder") << Utf8("--client") << QString(256, QLatin1Char('c')) << Utf8("at most 255");
 }
 
 void ConsolePaths::aNameThatNoStickHoldsIsRefused()
@@ -308,7 +307,8 @@ void ConsolePaths::aNameThatNoStickHoldsIsRefused()
     QFETCH(QString, name);
     QFETCH(QString, suggestion);
     const TConsole console;
-    VerifyMisused(console.Run({Utf8("paths"), option, name}), option + Utf8(": \"") + name, suggestion);
+    VerifyMisused(console.Run({Utf8("paths"), option, name}), Utf8("invalid value \"%1\" for %2").arg(name, option),
+                  suggestion);
     QVERIFY(!QFile::exists(console.DataFolder()));
 }
 

@@ -316,7 +316,7 @@ void ConsoleRunSources::aMalformedAddressIsMisuse()
     const TConsole console;
     const TConsole::tagResult result = console.Run({QLatin1String("run"), QLatin1String("--nmea"), source});
     QCOMPARE(result.status, 2);
-    QVERIFY2(result.errors.startsWith(QString::fromLatin1("cabsettings: run: \"%1\" is no source of NMEA").arg(source)),
+    QVERIFY2(result.errors.startsWith(QString::fromLatin1("cabsettings: run: invalid source \"%1\"").arg(source)),
              qPrintable(result.errors));
     QVERIFY2(result.errors.contains(accepted), qPrintable(result.errors));
     QCOMPARE(result.errors.count(QLatin1Char('\n')), 1);
@@ -338,9 +338,10 @@ void ConsoleRunSources::aLiveSourceTakesNoSpeed()
     const TConsole::tagResult result = console.Run(
         {QLatin1String("run"), QLatin1String("--nmea"), source, QLatin1String("--speed"), QLatin1String("1")});
     QCOMPARE(result.status, 2);
-    QCOMPARE(result.errors, QString::fromLatin1("cabsettings: run: --speed is for files; %1 comes as fast as it is "
-                                                "sent (see cabsettings run --help)\n")
-                                .arg(source));
+    QCOMPARE(result.errors,
+             QString::fromLatin1(
+                 "cabsettings: run: unexpected option --speed; %1 is not a file (see cabsettings run --help)\n")
+                 .arg(source));
     QCOMPARE(result.output, QString());
 }
 

@@ -223,14 +223,14 @@ void ConsoleSelections::aNameThatNoStickHoldsIsRefused_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("named");
     QTest::addColumn<QString>("suggestion");
-    QTest::newRow("separator") << Utf8("job") << Utf8("a/b") << Utf8("\"a/b\"") << Utf8("\"a_b\" would do");
-    QTest::newRow("another folder") << Utf8("client") << Utf8("..") << Utf8("\"..\"") << Utf8("\"_\" would do");
-    QTest::newRow("FAT") << Utf8("field") << Utf8("7:30?") << Utf8("\"7:30?\"") << Utf8("\"7_30_\" would do");
+    QTest::newRow("separator") << Utf8("job") << Utf8("a/b") << Utf8("\"a/b\"") << Utf8("did you mean \"a_b\"?");
+    QTest::newRow("another folder") << Utf8("client") << Utf8("..") << Utf8("\"..\"") << Utf8("did you mean \"_\"?");
+    QTest::newRow("FAT") << Utf8("field") << Utf8("7:30?") << Utf8("\"7:30?\"") << Utf8("did you mean \"7_30_\"?");
     QTest::newRow("full stop") << Utf8("vehicle") << Utf8("Tractor.") << Utf8("\"Tractor.\"")
-                               << Utf8("\"Tractor\" would do");
-    QTest::newRow("device") << Utf8("zones") << Utf8("nul") << Utf8("\"nul\"") << Utf8("\"_nul\" would do");
+                               << Utf8("did you mean \"Tractor\"?");
+    QTest::newRow("device") << Utf8("zones") << Utf8("nul") << Utf8("\"nul\"") << Utf8("did you mean \"_nul\"?");
     QTest::newRow("too long") << Utf8("pivot") << QString(252, QLatin1Char('x')) << Utf8("252 bytes")
-                              << QString(251, QLatin1Char('x')) + Utf8("\" would do");
+                              << Utf8("did you mean \"") + QString(251, QLatin1Char('x')) + Utf8("\"?");
 }
 
 void ConsoleSelections::aNameThatNoStickHoldsIsRefused()
@@ -251,7 +251,7 @@ void ConsoleSelections::wrongUsageSaysWhatIsAccepted_data()
     QTest::addColumn<QString>("accepted");
     QTest::newRow("no kind") << Utf8("select") << Utf8("missing") << Utf8("KIND [NAME]");
     QTest::newRow("unknown kind") << Utf8("select fish") << Utf8("\"fish\"") << Utf8("job, boundary, ab-line, pivot");
-    QTest::newRow("a parameter's name") << Utf8("select active.job x") << Utf8("\"active.job\"") << Utf8("vehicle");
+    QTest::newRow("a parameter's name") << Utf8("select active.job x") << Utf8("\"active.job\"") << Utf8("job");
     QTest::newRow("two names") << Utf8("select job a b") << Utf8("\"b\"") << Utf8("KIND [NAME]");
     QTest::newRow("unknown option") << Utf8("select job --clear") << Utf8("clear") << Utf8("select --help");
     QTest::newRow("selections with a kind") << Utf8("selections job") << Utf8("\"job\"") << Utf8("selections --help");

@@ -34,10 +34,7 @@ QStringList Values(const QStringList& words)
 QStringList UnitWords(const QStringList&)
 {
     TUnitAbbreviations::Initialize();
-    QStringList names;
-    for (const EUnitsType unit : UnitNames::All())
-        names.append(UnitNames::Shown(unit));
-    return names;
+    return UnitNames::AllShown();
 }
 
 QStringList Kinds(const QStringList&) { return ActiveItems::Kinds(); }

@@ -2,6 +2,7 @@
 
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
+#include "console/line/Messages.h"
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
 #include "console/terminal/UtcOffset.h"
@@ -38,10 +39,9 @@ struct tagSource
 };
 
 constexpr tagSource ByOperator = {"gps", "GPS", "operator", "chosen by the operator", true};
-constexpr tagSource ByGps = {"gps", "GPS", "gps", "that of the clock when GPS time came first", true};
-constexpr tagSource ByMachine = {"machine", "the machine's clock and time zone; nobody has set it", "nobody", "not set",
-                                 false};
-constexpr tagSource ByHand = {"hand", "set by hand, or by GPS at no offset from UTC", "nobody", "not set", false};
+constexpr tagSource ByGps = {"gps", "GPS", "gps", "clock less UTC when the first GPS time came", true};
+constexpr tagSource ByMachine = {"machine", "the machine's clock and time zone; not set", "nobody", "not set", false};
+constexpr tagSource ByHand = {"hand", "set by hand, or by GPS with no offset from UTC", "nobody", "not set", false};
 
 /// Whether the machine's zone is that far from UTC in winter or in summer: the clock of a first start stays with the
 /// season in which it was.
@@ -69,8 +69,8 @@ tagSource Source(TParameterStore& store)
 int RunShowClock(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("clock show"), QString(),
-                      QLatin1String("Prints the display's date and time, UTC, the offset between them, where the time "
-                                    "comes from and who has set the offset, as far as the settings tell."),
+                      QLatin1String("Prints the display's date and time, UTC, the offset between them, the source of "
+                                    "the time, and what set the offset, as far as the settings tell."),
                       QLatin1String("cabsettings clock"));
     line.AddJsonOption(
         QLatin1String("Prints an object: date and time as the display shows them, local, utc, utcFrom (offset "
@@ -130,7 +130,7 @@ QDate ReadDate(const QString& text, const TCommandLine& line)
 {
     const QDate date = HasShape(text, DateShape) ? QDate::fromString(text, QLatin1String("yyyy-MM-dd")) : QDate();
     if (!date.isValid())
-        line.Misused(QString::fromLatin1("\"%1\" is no date; YYYY-MM-DD is accepted, such as 2026-02-28").arg(text));
+        line.Misused(Messages::Invalid(QLatin1String("date"), text, QLatin1String("YYYY-MM-DD, such as 2026-02-28")));
     return date;
 }
 
@@ -141,7 +141,7 @@ QTime ReadTime(const QString& text, const TCommandLine& line)
     const QTime time = HasShape(text, TimeShape) ? QTime::fromString(text, format) : QTime();
     if (!time.isValid())
         line.Misused(
-            QString::fromLatin1("\"%1\" is no time; HH:MM or HH:MM:SS is accepted, from 00:00 to 23:59:59").arg(text));
+            Messages::Invalid(QLatin1String("time"), text, QLatin1String("HH:MM or HH:MM:SS from 00:00 to 23:59:59")));
     return time;
 }
 
@@ -151,9 +151,8 @@ bool IsInReach(const QDateTime& wanted, const TCommandLine& line)
     const qint64 distance = QDateTime::currentDateTimeUtc().secsTo(wanted);
     if (std::abs(distance) <= GreatestDistance)
         return true;
-    line.Misused(
-        QString::fromLatin1("\"%1\" is more than 68 years from the machine's clock; no clock is accepted there")
-            .arg(wanted.date().toString(Qt::ISODate)));
+    line.Misused(Messages::Invalid(QLatin1String("date"), wanted.date().toString(Qt::ISODate),
+                                   QLatin1String("a date within 68 years of the machine's clock")));
     return false;
 }
 
@@ -167,23 +166,23 @@ int SetClock(const tagContext& context, const std::function<void(TRegionSettings
     TPersistenceHold hold(session.Store());
     TRegionSettingsProxy region;
     set(region);
-    return hold.Release() ? STATUS_DONE : Fail(QLatin1String("the clock could not be stored"));
+    return hold.Release() ? STATUS_DONE : Fail(QLatin1String("cannot store the clock"));
 }
 
 int RunSetByHand(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(
         QLatin1String("clock set"), QLatin1String("[DATE] [TIME]"),
-        QLatin1String("Sets the display's clock by hand, as the operator does before GPS time comes: DATE "
-                      "is YYYY-MM-DD, TIME is HH:MM or HH:MM:SS, of local time. The offset from UTC "
-                      "becomes 0 until GPS tells it; set clock.offset-hours and clock.offset-by-operator "
-                      "choose one instead. A terminal that runs meanwhile keeps its own clock."),
+        QLatin1String("Sets the display's clock by hand, as the operator does before the first GPS time. DATE is "
+                      "YYYY-MM-DD, TIME is HH:MM or HH:MM:SS in local time. The offset from UTC becomes 0 until GPS "
+                      "time sets it. To choose an offset, set clock.offset-hours, clock.offset-minutes and "
+                      "clock.offset-by-operator. A terminal that is running keeps its own clock."),
         QLatin1String("cabsettings clock set 2026-03-05 14:05"));
     if (const auto status = line.Read(arguments, 1, 2))
         return *status;
     const QStringList words = line.Words().join(QLatin1Char('T')).split(QLatin1Char('T'));
     if (words.size() > 2)
-        return line.Misused(QString::fromLatin1("\"%1\" is too much; expected: [DATE] [TIME]").arg(words.at(2)));
+        return line.Misused(Messages::Unexpected(words.at(2), QLatin1String("[DATE] [TIME]")));
     const bool hasTime = words.size() == 2 || words.first().contains(QLatin1Char(':'));
     const bool hasDate = words.size() == 2 || !hasTime;
     const QDate date = hasDate ? ReadDate(words.first(), line) : QDate();
@@ -205,20 +204,17 @@ int RunSetByHand(const tagContext& context, const QStringList& arguments)
 
 int RunSetUtc(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(
-        QLatin1String("clock utc"), QLatin1String("DATETIME"),
-        QLatin1String("Sets the display's clock from UTC, as a GPS receiver does: DATETIME is "
-                      "YYYY-MM-DDTHH:MM:SSZ. Unless the operator has chosen an offset, it becomes the one "
-                      "between the clock as it stands and UTC. A terminal that runs meanwhile keeps its "
-                      "own clock."),
-        QLatin1String("cabsettings clock utc 2026-03-05T13:05:09Z"));
+    TCommandLine line(QLatin1String("clock utc"), QLatin1String("DATETIME"),
+                      QLatin1String("Sets the display's clock from UTC, as a GPS receiver does. DATETIME is "
+                                    "YYYY-MM-DDTHH:MM:SSZ. Unless the operator has chosen an offset, the offset "
+                                    "becomes the clock less UTC. A terminal that is running keeps its own clock."),
+                      QLatin1String("cabsettings clock utc 2026-03-05T13:05:09Z"));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const QString text = line.Words().first();
     const QStringList parts = text.left(text.size() - 1).split(QLatin1Char('T'));
     if (!text.endsWith(QLatin1Char('Z')) || parts.size() != 2)
-        return line.Misused(
-            QString::fromLatin1("\"%1\" is no UTC; YYYY-MM-DDTHH:MM:SSZ is accepted, with its Z").arg(text));
+        return line.Misused(Messages::Invalid(QLatin1String("time"), text, QLatin1String("YYYY-MM-DDTHH:MM:SSZ")));
     QDate date = ReadDate(parts.first(), line);
     if (!date.isValid())
         return STATUS_MISUSED;
@@ -228,8 +224,8 @@ int RunSetUtc(const tagContext& context, const QStringList& arguments)
     return SetClock(context, [&](TRegionSettingsProxy& region) { region.SetUTCTimeAndDate(time, date, true); });
 }
 
-const tagCommand Commands[] = {
-    {"show", "Prints the clock; so does clock alone.", RunShowClock},
+const std::vector<tagCommand> Commands = {
+    {"show", "Prints the clock; the default.", RunShowClock},
     {"set", "Sets the clock by hand.", RunSetByHand},
     {"utc", "Sets the clock as a GPS receiver does.", RunSetUtc},
 };
@@ -241,5 +237,5 @@ int RunClock(const tagContext& context, const QStringList& arguments)
     const QString word = arguments.value(1);
     if (word.isEmpty() || word == QLatin1String("--json"))
         return RunShowClock(context, arguments);
-    return Dispatch(QLatin1String("cabsettings clock"), Commands, context, arguments.mid(1));
+    return Dispatch(QLatin1String("clock"), Commands, context, arguments.mid(1));
 }

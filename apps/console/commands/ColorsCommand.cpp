@@ -2,6 +2,7 @@
 
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
+#include "console/line/Messages.h"
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
 
@@ -121,7 +122,7 @@ void PrintLevels(TParameterStore& store)
         rows.append({level->name.mid(Levels.size()), TParameterCatalogue::Text(*level, store.GetParameter(level->id)) +
                                                          QLatin1Char(' ') + level->unit});
     }
-    Print(QLatin1String("\nLevels by night:\n"));
+    Print(QLatin1String("\nLevels at night:\n"));
     PrintTable(rows);
 }
 
@@ -167,16 +168,14 @@ int RunColors(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(
         QLatin1String("colors"), QLatin1String("[day|night]"),
-        QLatin1String("Prints the colours of the map and the controls, by day, by night or both, as "
-                      "#rrggbb (#aarrggbb where translucent), the numbers of the background pictures, the "
-                      "levels by night, and which scheme is active. `cabsettings set display.day false` "
-                      "switches to the night."),
+        QLatin1String("Prints the colours of the map and the controls by day, by night or both, as #rrggbb (#aarrggbb "
+                      "when translucent), the numbers of the background pictures, the levels at night, and the active "
+                      "scheme. `cabsettings set display.day false` activates the scheme for the night."),
         QLatin1String("cabsettings colors night"));
-    line.AddOption(
-        QLatin1String(ColorOption),
-        QLatin1String("Paints a patch of each colour: always, never, or auto: on a terminal that can, unless "
-                      "NO_COLOR is set."),
-        QLatin1String("WHEN"), QLatin1String("auto"));
+    line.AddOption(QLatin1String(ColorOption),
+                   QLatin1String("Shows a sample of each colour: always, never or auto. With auto, samples appear on a "
+                                 "terminal that has colours, unless NO_COLOR is set."),
+                   QLatin1String("WHEN"), QLatin1String("auto"));
     line.AddJsonOption(
         QLatin1String("Prints an object: mode, colors (name, day, night), numbers (name, day, night), levels "
                       "(name, value, unit)."));
@@ -186,13 +185,13 @@ int RunColors(const tagContext& context, const QStringList& arguments)
     const QString wanted = line.Words().value(0);
     if (!line.Words().isEmpty()) {
         if (!modes.contains(wanted))
-            return line.Misused(
-                QString::fromLatin1("there is no scheme \"%1\"; day and night are accepted").arg(wanted));
+            return line.Misused(Messages::NotAmong(QLatin1String("scheme"), wanted, modes));
         modes = QStringList{wanted};
     }
     const QString when = line.Value(QLatin1String(ColorOption));
-    if (!QStringList{QLatin1String("always"), QLatin1String("never"), QLatin1String("auto")}.contains(when))
-        return line.Misused(QString::fromLatin1("--color takes always, never or auto, not \"%1\"").arg(when));
+    const QStringList whens = {QLatin1String("always"), QLatin1String("never"), QLatin1String("auto")};
+    if (!whens.contains(when))
+        return line.InvalidValue(QLatin1String(ColorOption), ParameterText::Alternatives(whens));
 
     TSession session;
     if (!session.Open(context, SESSION_STORE))

@@ -3,6 +3,7 @@
 #include "console/commands/Commands.h"
 #include "console/commands/SerializedFile.h"
 #include "console/line/CommandLine.h"
+#include "console/line/Messages.h"
 #include "console/line/Output.h"
 
 #include <QFile>
@@ -98,8 +99,7 @@ QStringList ReadLayout(const QString& text, const TCommandLine& line)
     for (const QString& type : std::as_const(types)) {
         if (Types().contains(type))
             continue;
-        line.Misused(QString::fromLatin1("--values: there is no type \"%1\"; the types are %2")
-                         .arg(type, Types().join(QLatin1String(", "))));
+        line.Misused(Messages::NotAmong(QLatin1String("type of value"), type, Types()));
         return {};
     }
     return types;
@@ -112,15 +112,16 @@ int RunDump(const tagContext&, const QStringList& arguments)
     TCommandLine line(
         QLatin1String("dump"), QLatin1String("FILE"),
         QLatin1String("Prints the blocks of a file that a serializer has written: versions, and values in hexadecimal "
-                      "with their offsets. The file does not tell the types of its values; without --values, a block "
-                      "is taken to reach to the next marker, even if that is a value that looks like one."),
+                      "with their offsets. The file does not hold the types of its values; --values names them. "
+                      "Without --values a block ends at the next marker, even when a value looks like that marker."),
         QLatin1String("cabsettings dump implement.bin --values string,float,ints"));
     line.AddOption(QLatin1String(ValuesOption),
-                   QString::fromLatin1("Types of the values of a block, with commas between: %1. Given again, they are "
-                                       "those of the next block; the last are also those of all further ones.")
+                   QString::fromLatin1("Types of the values of a block, separated by commas: %1. Each further --values "
+                                       "is for the next block, the last one for all that follow.")
                        .arg(Types().join(QLatin1String(", "))),
                    QLatin1String("TYPES"));
-    line.AddJsonOption(QLatin1String("Prints an array of blocks."));
+    line.AddJsonOption(
+        QLatin1String("Prints an array of objects: offset, version, values (offset, type, bytes, value)."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
 
@@ -136,12 +137,12 @@ int RunDump(const tagContext&, const QStringList& arguments)
     const QString path = line.Words().at(0);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Fail(QString::fromLatin1("\"%1\" cannot be read: %2").arg(path, file.errorString()));
+        return Fail(QString::fromLatin1("cannot read \"%1\": %2").arg(path, file.errorString()));
     const QByteArray bytes = file.read(LargestFile + 1);
     if (file.error() != QFileDevice::NoError)
-        return Fail(QString::fromLatin1("\"%1\" cannot be read: %2").arg(path, file.errorString()));
+        return Fail(QString::fromLatin1("cannot read \"%1\": %2").arg(path, file.errorString()));
     if (bytes.size() > LargestFile)
-        return Fail(QString::fromLatin1("\"%1\" is larger than 1 GiB").arg(path));
+        return Fail(QString::fromLatin1("cannot read \"%1\": it is larger than 1 GiB").arg(path));
 
     const tagContent content = Read(bytes, layouts);
     if (line.WantsJson())
@@ -150,7 +151,7 @@ int RunDump(const tagContext&, const QStringList& arguments)
         PrintText(content.blocks);
     if (!content.misfit)
         return STATUS_DONE;
-    return Fail(QString::fromLatin1("\"%1\" does not fit at offset %2 (%3): %4")
+    return Fail(QString::fromLatin1("invalid data in \"%1\" at offset %2 (%3): %4")
                     .arg(path, QLatin1String("0x") + InHex(content.misfit->offset))
                     .arg(content.misfit->offset)
                     .arg(content.misfit->reason));

@@ -81,7 +81,7 @@ void PrintDescription(const tagParameter& parameter, const QVariant& value)
                 {QLatin1String("  Value"),
                  value.isValid() ? WithUnit(parameter, ValueText(&parameter, value)) : QLatin1String(NotSet)},
                 {QLatin1String("  Default"), first.isValid() ? WithUnit(parameter, ValueText(&parameter, first))
-                                                             : QLatin1String("found by the terminal itself")},
+                                                             : QLatin1String("chosen by the terminal")},
                 {QLatin1String("  Accepts"), parameter.accepts},
                 {QLatin1String("  Changes"), parameter.readers}});
 }
@@ -90,14 +90,13 @@ void PrintDescription(const tagParameter& parameter, const QVariant& value)
 
 int RunList(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(
-        QLatin1String("list"), QLatin1String("[PATTERN]"),
-        QLatin1String("Lists the parameters: number, name, type and value. PATTERN is a part of the name, "
-                      "or a number or name with * and ?."),
-        QLatin1String("cabsettings list units"));
-    line.AddJsonOption(QLatin1String("Prints an array of objects."));
-    line.AddOption(QLatin1String(MarkdownOption), QLatin1String("Prints the table of the documentation: every "
-                                                                "parameter, and no values."));
+    TCommandLine line(QLatin1String("list"), QLatin1String("[PATTERN]"),
+                      QLatin1String("Lists the parameters: number, name, type and value. PATTERN is a part of a name, "
+                                    "or a name or a number with the wildcards * and ?."),
+                      QLatin1String("cabsettings list units"));
+    line.AddJsonOption(QLatin1String("Prints an array of objects, as `get --json` prints them."));
+    line.AddOption(QLatin1String(MarkdownOption),
+                   QLatin1String("Prints the table of the documentation: all parameters, without values."));
     if (const auto status = line.Read(arguments, 0, 1))
         return *status;
     if (line.IsSet(QLatin1String(MarkdownOption))) {
@@ -123,16 +122,16 @@ int RunList(const tagContext& context, const QStringList& arguments)
         PrintJson(array);
     else
         PrintTable(rows);
-    return rows.isEmpty() ? Fail(QString::fromLatin1("no parameter fits \"%1\"").arg(pattern)) : STATUS_DONE;
+    return rows.isEmpty() ? Fail(QString::fromLatin1("no parameter matches \"%1\"").arg(pattern)) : STATUS_DONE;
 }
 
 int RunDescribe(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("describe"), QLatin1String("PARAMETER"),
-                      QLatin1String("Explains a parameter, given by name or number: what it means, what it accepts, "
-                                    "what changes with it."),
+                      QLatin1String("Explains a parameter, given by name or number: its meaning, its default, the "
+                                    "accepted values and what depends on it."),
                       QLatin1String("cabsettings describe units.area"));
-    line.AddJsonOption(QLatin1String("Prints an object."));
+    line.AddJsonOption(QLatin1String("Prints an object, as `get --json` does."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const auto parameter = ReadParameter(line.Words().first(), line);
@@ -145,12 +144,12 @@ int RunDescribe(const tagContext& context, const QStringList& arguments)
 
     const QVariant value = store.GetParameter(parameter->id);
     if (!parameter->known && !value.isValid())
-        return Fail(QString::fromLatin1("%1 is not set, and the library does not use it").arg(parameter->Name()));
+        return Fail(QString::fromLatin1("%1 is not set").arg(parameter->Name()));
     if (line.WantsJson())
         PrintJson(ParameterJson(parameter->id, value));
     else if (parameter->known)
         PrintDescription(*parameter->known, value);
     else
-        Print(QString::fromLatin1("%1: the host's own; the library does not use it\n").arg(parameter->Name()));
+        Print(QString::fromLatin1("%1 belongs to the host; the library does not use it\n").arg(parameter->Name()));
     return STATUS_DONE;
 }

@@ -43,7 +43,7 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
     const bool isLogged =
         AddUserLogEntry(static_cast<EDiagnosticComponent>(*component), static_cast<EDiagnosticType>(*type), *code,
                         line.Words().at(0), line.Words().value(1));
-    return isLogged ? STATUS_DONE : Fail(QLatin1String("the entry could not be written to the user log"));
+    return isLogged ? STATUS_DONE : Fail(QLatin1String("cannot write the entry to the user log"));
 }
 
 /// Copies one log, and tells of it in words or in @p array. False when not every file could be copied, which is said.
@@ -58,21 +58,22 @@ bool ExportOne(TDiagnosticLogProxy& log, const char* name, const char* title, co
         Print(QString::fromLatin1("%1: %2 files copied\n").arg(QLatin1String(title)).arg(result.filesHandled));
     }
     if (!result.allCopied)
-        Fail(QString::fromLatin1("%1: not every file could be copied to %2").arg(QLatin1String(title), target));
+        Fail(QString::fromLatin1("%1: cannot copy every file to \"%2\"").arg(QLatin1String(title), target));
     return result.allCopied;
 }
 
 int RunExport(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("log export"), QLatin1String("DIR"),
-                      QLatin1String("Copies every file of both logs into a folder, down to the disk."),
-                      QLatin1String("cabsettings log export /media/usb"));
-    line.AddJsonOption(QLatin1String("Prints an array of objects: log, files (how many there are), complete."));
+    TCommandLine line(
+        QLatin1String("log export"), QLatin1String("DIR"),
+        QLatin1String("Copies the files of both logs into a folder, and waits until they are on the disk."),
+        QLatin1String("cabsettings log export /media/usb"));
+    line.AddJsonOption(QLatin1String("Prints an array of objects: log, files (their number), complete."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const QString target = line.Words().first();
     if (!QFileInfo(target).isDir())
-        return Fail(QString::fromLatin1("%1 is not a folder; logs are exported into an existing folder").arg(target));
+        return Fail(QString::fromLatin1("\"%1\" is not a folder; expected a folder that exists").arg(target));
 
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
@@ -88,7 +89,7 @@ int RunExport(const tagContext& context, const QStringList& arguments)
     return isUserCopied && isNmeaCopied ? STATUS_DONE : STATUS_FAILED;
 }
 
-const tagCommand Commands[] = {
+const std::vector<tagCommand> Commands = {
     {"add", "Adds an entry to the user log.", RunAdd},
     {"tail", "Prints the newest lines of a log.", RunLogTail},
     {"list", "Lists the files of both logs.", RunLogList},
@@ -99,5 +100,5 @@ const tagCommand Commands[] = {
 
 int RunLog(const tagContext& context, const QStringList& arguments)
 {
-    return Dispatch(QLatin1String("cabsettings log"), Commands, context, arguments.mid(1));
+    return Dispatch(QLatin1String("log"), Commands, context, arguments.mid(1));
 }

@@ -12,20 +12,16 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-namespace {} // namespace
-
 int RunLogList(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(
         QLatin1String("log list"), QLatin1String("[LOG]"),
-        QString::fromLatin1("Lists the files of both logs, or of one (%1), the oldest first: number, size "
-                            "in bytes, when it was written to last, in UTC; \"newest\" is the one to "
-                            "which the log goes on.")
+        QString::fromLatin1("Lists the files of both logs or of one (%1), the oldest first: number, size in bytes, "
+                            "time of the last change in UTC. The log goes on in the file marked newest.")
             .arg(LogNames().join(QLatin1String(", "))),
         QLatin1String("cabsettings log list"));
-    line.AddJsonOption(
-        QLatin1String("Prints an array of objects: log, file, path, number (null in a name without one), "
-                      "size, modified, newest."));
+    line.AddJsonOption(QLatin1String(
+        "Prints an array of objects: log, file, path, number (null in a name without one), size, modified, newest."));
     if (const auto status = line.Read(arguments, 0, 1))
         return *status;
     const QStringList wanted = line.Words().isEmpty() ? LogNames() : line.Words();

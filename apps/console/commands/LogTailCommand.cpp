@@ -131,17 +131,16 @@ int RunLogTail(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("log tail"), QLatin1String("LOG"),
                       QString::fromLatin1("Prints the newest lines of a log, across its files. LOG is one of: %1. "
-                                          "Control characters are shown as \\x1b.")
+                                          "Control characters are printed as \\x1b.")
                           .arg(LogNames().join(QLatin1String(", "))),
                       QLatin1String("cabsettings log tail --follow nmea"));
-    line.AddOption(QLatin1String(LinesOption), QLatin1String("How many lines."), QLatin1String("N"),
+    line.AddOption(QLatin1String(LinesOption), QLatin1String("Number of lines."), QLatin1String("N"),
                    QLatin1String("10"));
     line.AddOption(QLatin1String(FollowOption),
-                   QLatin1String("Goes on with the lines that come, from file to file, until an interrupt."));
+                   QLatin1String("Prints new lines as they come, from file to file, until an interrupt."));
     line.AddJsonOption(
-        QLatin1String("Prints an array of objects, with --follow one object on each line: file, text; of the "
-                      "user log also time, component, type, code, text1, text2, null in a line that is no "
-                      "entry."));
+        QLatin1String("Prints an array of objects, with --follow one object on each line: file, text; for the user log "
+                      "also time, component, type, code, text1, text2 (null in a line that is not an entry)."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const auto count = line.WholeNumber(QLatin1String(LinesOption), 0, std::numeric_limits<int>::max());
@@ -161,7 +160,7 @@ int RunLogTail(const tagContext& context, const QStringList& arguments)
     QString error;
     QList<tagLogLine> lines = tail.Read(&error);
     if (!isFollowing && TLogSeries(basePath).GetFiles().empty())
-        return Fail(QString::fromLatin1("the %1 log has no file in %2").arg(log, QFileInfo(basePath).path()));
+        return Fail(QString::fromLatin1("the %1 log has no file in \"%2\"").arg(log, QFileInfo(basePath).path()));
     if (!isFollowing && !tail.Unfinished().text.isEmpty())
         lines.append(tail.Unfinished());
     const TLinePrinter printer(log, line.WantsJson(), isFollowing);

@@ -16,20 +16,24 @@ int Store(TParameterStore& store, const tagParameterArgument& parameter, const Q
 {
     return store.SetParameter(parameter.id, value, true)
                ? STATUS_DONE
-               : Fail(QString::fromLatin1("%1 could not be stored").arg(parameter.Name()));
+               : Fail(QString::fromLatin1("cannot store %1").arg(parameter.Name()));
 }
 
-/// What was typed, as a value of a number that only the host knows: of the type that is asked for, or that it has.
+/// What was typed, as a value of a parameter that only the host knows: of the type that is asked for, or that it has.
+/// Invalid, with @p error, when it cannot be one.
 QVariant ReadHostValue(TParameterStore& store, const tagParameterArgument& parameter, const QString& typeAsked,
                        const QString& text, QString* error)
 {
-    if (typeAsked.isEmpty() && !store.HasParameter(parameter.id)) {
-        *error = QString::fromLatin1("has no value yet; say its type with --type: %1")
-                     .arg(ParameterText::TypeNames().join(QLatin1String(", ")));
+    const bool hasType = !typeAsked.isEmpty() || store.HasParameter(parameter.id);
+    if (!hasType) {
+        *error = QString::fromLatin1("%1 has no value yet; expected --type %2")
+                     .arg(parameter.Name(), ParameterText::Alternatives(ParameterText::TypeNames()));
         return QVariant();
     }
     const QString type = typeAsked.isEmpty() ? ParameterText::TypeName(store.GetParameter(parameter.id)) : typeAsked;
-    return ParameterText::ToValue(type, text, error);
+    QVariant value = ParameterText::ToValue(type, text, error);
+    *error = QString::fromLatin1("%1: %2").arg(parameter.Name(), *error);
+    return value;
 }
 
 } // namespace
@@ -37,10 +41,11 @@ QVariant ReadHostValue(TParameterStore& store, const tagParameterArgument& param
 int RunGet(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("get"), QLatin1String("PARAMETER"),
-                      QLatin1String("Prints the value of a parameter, given by name or number. By name, a choice is "
-                                    "printed as its name; by number, as its number."),
+                      QLatin1String("Prints the value of a parameter, given by name or number. Given by name, a choice "
+                                    "is printed as its name; given by number, as its number."),
                       QLatin1String("cabsettings get units.metric"));
-    line.AddJsonOption(QLatin1String("Prints an object with all that is known about it."));
+    line.AddJsonOption(
+        QLatin1String("Prints an object: number, name, type, value, text, default, accepts, unit, meaning, readers."));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const auto parameter = ReadParameter(line.Words().first(), line);
@@ -63,14 +68,14 @@ int RunGet(const tagContext& context, const QStringList& arguments)
 
 int RunSet(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("set"), QLatin1String("PARAMETER VALUE"),
-                      QLatin1String("Sets a parameter, given by name or number. `cabsettings describe` tells what it "
-                                    "accepts. A number that only the host uses takes what its type allows; one "
-                                    "without a value yet needs --type."),
-                      QLatin1String("cabsettings set units.area acre"));
+    TCommandLine line(
+        QLatin1String("set"), QLatin1String("PARAMETER VALUE"),
+        QLatin1String("Sets a parameter, given by name or number. `cabsettings describe` prints the accepted values. A "
+                      "parameter that belongs to the host keeps its type; a new one needs --type."),
+        QLatin1String("cabsettings set units.area acre"));
     line.AddOption(
         QLatin1String(TypeOption),
-        QString::fromLatin1("Type of the value: %1.").arg(ParameterText::TypeNames().join(QLatin1String(", "))),
+        QString::fromLatin1("Type of the value: %1.").arg(ParameterText::Alternatives(ParameterText::TypeNames())),
         QLatin1String("TYPE"));
     if (const auto status = line.Read(arguments, 2, 2))
         return *status;
@@ -79,8 +84,8 @@ int RunSet(const tagContext& context, const QStringList& arguments)
         return STATUS_MISUSED;
     const QString type = line.Value(QLatin1String(TypeOption));
     if (!type.isEmpty() && parameter->known && type != TParameterCatalogue::TypeName(parameter->known->type)) {
-        return line.Misused(QString::fromLatin1("%1 is of type %2")
-                                .arg(parameter->Name(), TParameterCatalogue::TypeName(parameter->known->type)));
+        return line.Misused(QString::fromLatin1("invalid type \"%1\" for %2; expected %3")
+                                .arg(type, parameter->Name(), TParameterCatalogue::TypeName(parameter->known->type)));
     }
 
     const QString text = line.Words().at(1);
@@ -97,15 +102,15 @@ int RunSet(const tagContext& context, const QStringList& arguments)
         return STATUS_FAILED;
     const QVariant value = ReadHostValue(session.Store(), *parameter, type, text, &error);
     if (!value.isValid())
-        return line.Misused(QString::fromLatin1("%1: %2").arg(parameter->Name(), error));
+        return line.Misused(error);
     return Store(session.Store(), *parameter, value);
 }
 
 int RunReset(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("reset"), QLatin1String("PARAMETER"),
-                      QLatin1String("Gives a parameter the value of a first start, or none where the terminal finds it "
-                                    "itself."),
+                      QLatin1String("Sets a parameter to its default. A parameter without a default loses its value, "
+                                    "and the terminal chooses a new one at its next start."),
                       QLatin1String("cabsettings reset colors.night.map"));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
@@ -113,8 +118,8 @@ int RunReset(const tagContext& context, const QStringList& arguments)
     if (!parameter)
         return STATUS_MISUSED;
     if (!parameter->known) {
-        return line.Misused(
-            QString::fromLatin1("%1 is the host's own, and has no value of a first start").arg(parameter->Name()));
+        return line.Misused(QString::fromLatin1("%1 belongs to the host; only the library's parameters have a default")
+                                .arg(parameter->Name()));
     }
 
     TSession session;

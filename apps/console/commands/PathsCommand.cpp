@@ -255,8 +255,8 @@ bool AreNamesAccepted(const TCommandLine& line)
         const QString problem = ItemNames::Problem(name, mostBytes);
         if (problem.isEmpty())
             continue;
-        line.Misused(QString::fromLatin1("--%1: \"%2\" %3; \"%4\" would do")
-                         .arg(QLatin1String(row.option), name, problem, ItemNames::Suggestion(name, mostBytes)));
+        line.Misused(QString::fromLatin1("invalid value \"%1\" for --%2: the name %3; did you mean \"%4\"?")
+                         .arg(name, QLatin1String(row.option), problem, ItemNames::Suggestion(name, mostBytes)));
         return false;
     }
     return true;
@@ -281,18 +281,17 @@ int RunPaths(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(
         QLatin1String("paths"), QString(),
-        QLatin1String(
-            "Prints where everything lies: the files of a client, farm, field and job, of what is active, the "
-            "logs, the stick, the folders. A name that is not given is the active one's; an empty one stands "
-            "for none. Nothing is made for names that are given; without any, the files of the active items "
-            "are listed too, and their folders made, as on the display. The folders of the logs are made in "
-            "any case, on the stick too."),
+        QLatin1String("Prints the paths of files and folders: those of a client, farm, field and job, of the selected "
+                      "items, of the logs and of the stick. A name that is not given is the selected one; an empty "
+                      "name means none. With names, no folders are created for them. Without names, the files of the "
+                      "selected items are listed too, and their folders are created, as on the display. The folders of "
+                      "the logs are always created, on the stick too."),
         QLatin1String("cabsettings paths --client Smith --farm North --field F1 --job J_1"));
     for (const tagNameOption& row : NameOptions) {
         const QString option = QLatin1String(row.option);
         line.AddOption(option, QString::fromLatin1("Name of the %1.").arg(option), QLatin1String("NAME"));
     }
-    line.AddJsonOption(QLatin1String("Prints an array of objects: name, path (null where there is none)."));
+    line.AddJsonOption(QLatin1String("Prints an array of objects: name, path (null without one)."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     if (!AreNamesAccepted(line))

@@ -76,17 +76,17 @@ void AddOptions(TCommandLine& line)
 {
     line.AddOption(
         QLatin1String("nmea"),
-        QLatin1String("The stream: a file or a pipe; - for standard input; tcp://HOST:PORT for a server that "
-                      "sends NMEA, which gpsd is asked for; serial:///dev/NAME?baud=N for a serial device, "
-                      "4800 baud when no rate is given."),
+        QLatin1String(
+            "Source of the stream: a file or a pipe; - for standard input; tcp://HOST:PORT for a server that sends "
+            "NMEA, or for gpsd; serial:///dev/NAME?baud=N for a serial device, at 4800 baud without baud=N."),
         QLatin1String("SOURCE"));
     line.AddOption(QLatin1String("speed"),
-                   QLatin1String("How many times as fast as it was recorded a file is played; 0 as fast as it can be "
-                                 "read. A pipe comes as fast as it is sent; servers and devices take no speed."),
+                   QLatin1String("Plays a file N times as fast as it was recorded; 0 plays it as fast as it can be "
+                                 "read. A pipe is read as fast as it is sent."),
                    QLatin1String("N"), QLatin1String("0"));
     line.AddOption(QLatin1String("now"),
-                   QLatin1String("Takes a file for a receiver of today: the clock begins at the machine's time, as it "
-                                 "does with pipes, servers and devices, and the first time of the file sets it."));
+                   QLatin1String("Plays a file as a live receiver: the clock begins at the machine's time, as with "
+                                 "pipes, servers and devices, and the first time of the file sets it."));
     line.AddJsonOption(QLatin1String("Prints the summary as an object."));
 }
 
@@ -94,24 +94,24 @@ void AddOptions(TCommandLine& line)
 
 int RunRun(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("run"), QString(),
-                      QLatin1String("Starts the terminal and feeds it an NMEA stream: the clock is set, the stream is "
-                                    "logged. Ends with the stream or on an interrupt, and prints a summary. If that "
-                                    "end takes longer than five seconds, another interrupt stops the program at once. "
-                                    "A server or a serial device that is not there, or no longer, is waited for. A "
-                                    "file is a recording: the clock begins at its first time, in the machine's time "
-                                    "zone."),
-                      QLatin1String("cabsettings run --nmea field.nmea\n"
-                                    "  cabsettings run --nmea - <field.nmea\n"
-                                    "  cabsettings run --nmea tcp://localhost:2947\n"
-                                    "  cabsettings run --nmea 'serial:///dev/ttyUSB0?baud=9600'"));
+    TCommandLine line(
+        QLatin1String("run"), QString(),
+        QLatin1String(
+            "Starts the terminal and feeds it an NMEA stream: the stream sets the clock and is logged. Ends at the end "
+            "of the stream or at an interrupt, and prints a summary. If closing takes longer than five seconds, "
+            "another interrupt stops the program at once. A server or a serial device that is missing is waited for. A "
+            "file is a recording: the clock begins at its first time, in the machine's time zone."),
+        QLatin1String("cabsettings run --nmea field.nmea\n"
+                      "  cabsettings run --nmea - <field.nmea\n"
+                      "  cabsettings run --nmea tcp://localhost:2947\n"
+                      "  cabsettings run --nmea 'serial:///dev/ttyUSB0?baud=9600'"));
     AddOptions(line);
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
     const QString source = line.Value(QLatin1String("nmea"));
     if (source.isEmpty())
-        return line.Misused(QLatin1String("--nmea is missing; it takes a file, or - for standard input, or the address "
-                                          "of a server or a serial device"));
+        return line.Misused(QLatin1String("missing option; expected --nmea SOURCE: a file, - for standard input, "
+                                          "tcp://HOST:PORT or serial:///dev/NAME"));
     QString error;
     const auto address = ReadNmeaAddress(source, &error);
     if (!address)
@@ -120,10 +120,10 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     if (!speed)
         return STATUS_MISUSED;
     if (*speed > 0 && !std::holds_alternative<tagFileAddress>(*address))
-        return line.Misused(QString::fromLatin1("--speed is for files; %1 comes as fast as it is sent").arg(source));
+        return line.Misused(QString::fromLatin1("unexpected option --speed; %1 is not a file").arg(source));
     const bool isNow = line.IsSet(QLatin1String("now"));
     if (isNow && !std::holds_alternative<tagFileAddress>(*address))
-        return line.Misused(QString::fromLatin1("--now is for files; %1 sends the time of today").arg(source));
+        return line.Misused(QString::fromLatin1("unexpected option --now; %1 is not a file").arg(source));
 
     const TQuitOnSignal quitOnSignal; // before any thread starts, so that none takes the signal instead
     TSession session;
@@ -140,6 +140,6 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     if (!problem.isEmpty())
         return Fail(problem);
     if (receiver.GetStatus().unloggedLines > 0)
-        return Fail(QString::fromLatin1("%1 lines could not be logged").arg(receiver.GetStatus().unloggedLines));
+        return Fail(QString::fromLatin1("cannot log %1 lines").arg(receiver.GetStatus().unloggedLines));
     return STATUS_DONE;
 }

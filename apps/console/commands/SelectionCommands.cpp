@@ -2,6 +2,7 @@
 
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
+#include "console/line/Messages.h"
 #include "console/line/Output.h"
 #include "console/terminal/ActiveItems.h"
 #include "console/terminal/Session.h"
@@ -24,21 +25,18 @@ QJsonObject Json(const tagParameter& item)
 int RunSelect(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("select"), QLatin1String("KIND [NAME]"),
-                      QString::fromLatin1("Makes an item the active one, as the operator does; an empty NAME selects "
-                                          "none. Without NAME, prints the active one. KIND is one of: %1.")
+                      QString::fromLatin1("Selects an item, as the operator does; an empty NAME clears the selection. "
+                                          "Without NAME, prints the selected item. KIND is one of: %1.")
                           .arg(ActiveItems::Kinds().join(QLatin1String(", "))),
                       QLatin1String("cabsettings select job \"North 40\""));
-    line.AddJsonOption(
-        QLatin1String("Prints an object: kind, name, and path, the item's file, null without one. Asking for "
-                      "the path makes its folder, as on the display."));
+    line.AddJsonOption(QLatin1String("Prints an object: kind, name, path (the item's file, null without one). Creates "
+                                     "the item's folder, as the display does."));
     if (const auto status = line.Read(arguments, 1, 2))
         return *status;
     const QString kind = line.Words().first();
     const tagParameter* const item = ActiveItems::Find(kind);
-    if (!item) {
-        return line.Misused(QString::fromLatin1("there is no kind \"%1\"; the kinds are %2")
-                                .arg(kind, ActiveItems::Kinds().join(QLatin1String(", "))));
-    }
+    if (!item)
+        return line.Misused(Messages::NotAmong(QLatin1String("kind"), kind, ActiveItems::Kinds()));
     const bool isGiven = line.Words().size() > 1;
     const QString name = line.Words().value(1);
     QString error;
@@ -49,7 +47,7 @@ int RunSelect(const tagContext& context, const QStringList& arguments)
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     if (isGiven && !ActiveItems::Select(session.Store(), *item, name))
-        return Fail(QString::fromLatin1("the %1 could not be stored").arg(kind));
+        return Fail(QString::fromLatin1("cannot store the %1").arg(kind));
     if (line.WantsJson())
         PrintJson(Json(*item));
     else if (!isGiven)
@@ -59,14 +57,12 @@ int RunSelect(const tagContext& context, const QStringList& arguments)
 
 int RunSelections(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(
-        QLatin1String("selections"), QString(),
-        QLatin1String("Lists what is active, by kind, and the path of its file. Asking for the paths makes "
-                      "the items' folders, as on the display."),
-        QLatin1String("cabsettings selections"));
-    line.AddJsonOption(
-        QLatin1String("Prints an array of objects: kind, name (empty when nothing is selected), path (null "
-                      "without one)."));
+    TCommandLine line(QLatin1String("selections"), QString(),
+                      QLatin1String("Lists the selected items by kind, with the paths of their files. Creates the "
+                                    "items' folders, as the display does."),
+                      QLatin1String("cabsettings selections"));
+    line.AddJsonOption(QLatin1String(
+        "Prints an array of objects: kind, name (empty when nothing is selected), path (null without one)."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
 

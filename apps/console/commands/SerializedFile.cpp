@@ -83,7 +83,7 @@ public:
     tagContent Read(const QList<QStringList>& layouts)
     {
         if (m_Size == 0)
-            Refuse(0, Name("the file is empty; it begins with the marker of a block, fe ed ba ac, and its version"));
+            Refuse(0, Name("the file is empty; expected the marker of a block, fe ed ba ac, and its version"));
         while (!m_Content.misfit && m_Position < m_Size) {
             if (!ReadHeader())
                 break;
@@ -110,7 +110,7 @@ private:
             if (found.at(i) == marker.at(i))
                 continue;
             Refuse(m_Position + i,
-                   QString::fromLatin1("a block begins with the marker %1, and here are %2")
+                   QString::fromLatin1("expected the marker of a block, %1; found %2")
                        .arg(QString::fromLatin1(marker.toHex(' ')), QString::fromLatin1(found.toHex(' '))));
             return false;
         }
@@ -164,7 +164,7 @@ private:
         if (type.lengthUnit == 0) {
             if (type.size == 1 && static_cast<unsigned char>(m_File.at(m_Position)) > 1) {
                 Refuse(m_Position,
-                       Name("a bool is 00 or 01, and here is ") + QString::fromLatin1(Bytes(m_Position, 1).toHex()));
+                       Name("expected a bool, 00 or 01; found ") + QString::fromLatin1(Bytes(m_Position, 1).toHex()));
                 return std::nullopt;
             }
             return type.size;
@@ -175,14 +175,13 @@ private:
             return LengthSize;
         const quint64 bytes = static_cast<quint64>(length) * static_cast<unsigned int>(type.lengthUnit);
         if (bytes % static_cast<unsigned int>(type.size) != 0) {
-            Refuse(m_Position,
-                   QString::fromLatin1("a value of type %1 claims %2 bytes, and its characters have two each")
-                       .arg(Name(type.name))
-                       .arg(bytes));
+            Refuse(m_Position, QString::fromLatin1("a value of type %1 claims %2 bytes; expected an even number")
+                                   .arg(Name(type.name))
+                                   .arg(bytes));
             return std::nullopt;
         }
         if (bytes > static_cast<quint64>(left - LengthSize)) {
-            Refuse(m_Position, QString::fromLatin1("a value of type %1 claims %2 bytes, and %3 are left")
+            Refuse(m_Position, QString::fromLatin1("a value of type %1 claims %2 bytes; the file has %3 more")
                                    .arg(Name(type.name))
                                    .arg(bytes)
                                    .arg(left - LengthSize));

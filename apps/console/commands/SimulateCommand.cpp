@@ -29,7 +29,7 @@ const tagRealOption RealOptions[] = {
     {"speed", "Speed on the line, km/h.", &tagFieldPlan::speed},
     {"turn-speed", "Speed in the headland turns, km/h.", &tagFieldPlan::turnSpeed},
     {"turn-radius", "Radius of the tightest turn, metres.", &tagFieldPlan::smallestTurnRadius},
-    {"noise", "How far a position is off at most, metres.", &tagFieldPlan::noise},
+    {"noise", "Greatest error of a position, metres.", &tagFieldPlan::noise},
 };
 
 struct tagWholeOption
@@ -90,8 +90,7 @@ std::optional<tagFieldPlan> ReadPlan(const TCommandLine& line)
     const QString start = line.Value(QLatin1String(StartOption));
     plan.start = QDateTime::fromString(start, Qt::ISODate);
     if (!plan.start.isValid() || plan.start.timeSpec() == Qt::LocalTime) {
-        line.Misused(
-            QString::fromLatin1("--start takes a time in UTC such as 2026-04-01T06:00:00Z, not \"%1\"").arg(start));
+        line.InvalidValue(QLatin1String(StartOption), QLatin1String("a time in UTC such as 2026-04-01T06:00:00Z"));
         return std::nullopt;
     }
     const QString problem = CheckFieldPlan(plan);
@@ -110,7 +109,7 @@ int WriteTo(QFile& file, TFieldSimulator& simulator)
             break;
     }
     if (!simulator.AtEnd() || !file.flush())
-        return Fail(QString::fromLatin1("cannot write %1: %2").arg(file.fileName(), file.errorString()));
+        return Fail(QString::fromLatin1("cannot write \"%1\": %2").arg(file.fileName(), file.errorString()));
     return STATUS_DONE;
 }
 
@@ -120,7 +119,7 @@ int RunSimulate(const tagContext&, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("simulate"), QString(),
                       QLatin1String("Writes the NMEA stream (RMC, GGA, VTG, ZDA) of a tractor that works a field along "
-                                    "parallel lines, turning at the headlands."),
+                                    "parallel lines and turns at the headlands."),
                       QLatin1String("cabsettings simulate --passes 12 --rate 10 --output field.nmea"));
     AddOptions(line);
     if (const auto status = line.Read(arguments, 0, 0))
@@ -134,7 +133,7 @@ int RunSimulate(const tagContext&, const QStringList& arguments)
     if (output != QLatin1String("-")) {
         QFile file(output);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            return Fail(QString::fromLatin1("cannot open %1: %2").arg(output, file.errorString()));
+            return Fail(QString::fromLatin1("cannot write \"%1\": %2").arg(output, file.errorString()));
         return WriteTo(file, simulator);
     }
     while (!simulator.AtEnd() && !OutputFailed())

@@ -117,13 +117,12 @@ int RunStorage(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(
         QLatin1String("storage"), QString(),
-        QLatin1String("Prints the size of the drives and of the memory and what of it is free, in bytes, "
-                      "and the load of the processor over the last minute (1: one core busy). Memory that "
-                      "caches files counts as free."),
+        QLatin1String(
+            "Prints the size and the free space of the drives and of the memory in bytes, and the load of the "
+            "processor over the last minute (1 means that one core is busy). Memory that caches files counts as free."),
         QLatin1String("cabsettings storage"));
-    line.AddJsonOption(
-        QLatin1String("Prints an object: drives (name, path, mounted, total, free), memory (total, free), "
-                      "load; null for what is not known."));
+    line.AddJsonOption(QLatin1String("Prints an object: drives (name, path, mounted, total, free), memory (total, "
+                                     "free), load. Unknown values are null."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
 

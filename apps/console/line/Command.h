@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <cstddef>
+#include <vector>
 
 /// Exit status of the program.
 enum EStatus : int
@@ -27,14 +27,8 @@ struct tagCommand
     int (*run)(const tagContext& context, const QStringList& arguments); ///< arguments[0] is the command's own name
 };
 
-/// Runs the command that arguments[0] names, with what stands behind it; prints the list of commands for "--help", and
-/// says what is accepted for anything else.
-int Dispatch(const QString& program, const tagCommand* commands, std::size_t count, const tagContext& context,
+/// Runs the command that arguments[0] names, with what stands behind it. Prints the list of commands for "--help", and
+/// a message for anything else.
+/// @param group the commands' common first word, "log"; empty for the program's own.
+int Dispatch(const QString& group, const std::vector<tagCommand>& commands, const tagContext& context,
              const QStringList& arguments);
-
-template <std::size_t Count>
-int Dispatch(const QString& program, const tagCommand (&commands)[Count], const tagContext& context,
-             const QStringList& arguments)
-{
-    return Dispatch(program, commands, Count, context, arguments);
-}

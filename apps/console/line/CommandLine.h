@@ -1,23 +1,33 @@
 #pragma once
 
-#include "console/line/Manual.h"
+#include "console/line/Usage.h"
 
-#include <QCommandLineParser>
-#include <QList>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
 
 /// The command line of one command: its options, its help, and what is wrong with what was typed.
+///
+/// \code
+/// TCommandLine line("get", "PARAMETER", "Prints the value of a parameter.", "cabsettings get units.metric");
+/// line.AddJsonOption("Prints an object.");
+/// if (const auto status = line.Read(arguments, 1, 1))
+///     return *status;
+/// \endcode
+///
+/// Options are typed with two dashes, those of one letter with one; their value follows as the next argument or behind
+/// "=". A negative number is an argument, and everything behind "--" is.
 class TCommandLine
 {
 public:
-    /// @param usage what stands behind the command's name, for instance "NUMBER VALUE".
+    /// @param arguments what stands behind the command's name, for instance "PARAMETER VALUE".
     /// @param description one paragraph.
     /// @param example a complete line to try.
-    TCommandLine(const QString& command, const QString& usage, const QString& description, const QString& example);
+    TCommandLine(const QString& command, const QString& arguments, const QString& description, const QString& example);
 
+    /// @param name without its dashes.
     void AddOption(const QString& name, const QString& description, const QString& valueName = QString(),
                    const QString& defaultValue = QString());
 
@@ -26,36 +36,42 @@ public:
     void AddJsonOption(const QString& description);
     bool WantsJson() const;
 
-    /// Reads the arguments, the command's name first. A status when there is nothing more to do: help was asked for and
-    /// printed, or the line was wrong, which was said.
-    /// @param fewest @param most how many words are expected that are no options.
+    /// Reads the arguments, the command's name first. A status when there is nothing more to do: help was printed, or
+    /// the line was wrong and a message told so.
+    /// @param fewest @param most how many arguments are expected beside the options.
     std::optional<int> Read(const QStringList& arguments, int fewest, int most);
 
-    bool IsSet(const QString& option) const { return m_Parser.isSet(option); }
-    QString Value(const QString& option) const { return m_Parser.value(option); }
-    QStringList Values(const QString& option) const { return m_Parser.values(option); }
-    QStringList Words() const;
+    bool IsSet(const QString& option) const;
 
-    /// The option's value as a finite number; a line on standard error and nothing when it is none, or outside a range.
+    /// The value that was given last; the default when none was.
+    QString Value(const QString& option) const;
+
+    /// All values, in the order in which they were given.
+    QStringList Values(const QString& option) const;
+
+    /// The arguments that are no options.
+    QStringList Words() const { return m_Words; }
+
+    /// The option's value as a finite number; nothing, after a message, when it is none, or outside a range.
     std::optional<double> Number(const QString& option) const;
     std::optional<double> Number(const QString& option, double least, double greatest) const;
     std::optional<int> WholeNumber(const QString& option, int least, int greatest) const;
 
-    /// Says what is wrong, points to the help and gives the status for it.
+    /// Prints a message about what was typed, with a pointer to the help, and returns STATUS_MISUSED.
     int Misused(const QString& text) const;
 
-private:
-    bool TakesNextAsValue(const QString& argument) const;
+    /// Misused() for the value of an option.
+    int InvalidValue(const QString& option, const QString& expected) const;
 
-    /// @p arguments with negative numbers marked as the words that they are: the parser would take them for options.
-    QStringList WithNumbersAsWords(QStringList arguments) const;
-    void PrintHelp() const;
+private:
+    /// Takes the arguments apart. Empty, or what is wrong with them.
+    QString Parse(const QStringList& arguments);
+
+    /// Takes the option at @p at, and moves @p at to its value when that is the next argument.
+    QString TakeOption(const QStringList& arguments, int* at);
     void PrintWordsToCome() const;
 
-    QString m_Command;
-    QString m_Usage;
-    QString m_Example;
-    QString m_Description;
-    QList<Manual::tagOption> m_Options;
-    QCommandLineParser m_Parser;
+    tagUsage m_Usage;
+    QHash<QString, QStringList> m_Given; ///< the values of the options that were given, by name with dashes
+    QStringList m_Words;
 };

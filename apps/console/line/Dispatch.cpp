@@ -1,47 +1,68 @@
 #include "console/line/Command.h"
 #include "console/line/Completion.h"
+#include "console/line/Messages.h"
 #include "console/line/Output.h"
 
-#include <QList>
+#include "parameters/ParameterText.h"
 
 #include <algorithm>
 
-int Dispatch(const QString& program, const tagCommand* commands, std::size_t count, const tagContext& context,
-             const QStringList& arguments)
+namespace {
+
+using TCommands = std::vector<tagCommand>;
+
+QStringList Names(const TCommands& commands)
+{
+    QStringList names;
+    for (const tagCommand& command : commands)
+        names.append(QLatin1String(command.name));
+    return names;
+}
+
+void PrintHelp(const QString& group, const TCommands& commands)
+{
+    const QString start = (QLatin1String("cabsettings [--data DIR] ") + group).trimmed();
+    QList<QStringList> rows;
+    for (const tagCommand& command : commands)
+        rows.append({QLatin1String("  ") + QLatin1String(command.name), QLatin1String(command.summary)});
+    PrintLine(QString::fromLatin1("Usage: %1 COMMAND ...\n\nCommands:").arg(start));
+    PrintTable(rows);
+    PrintLine(QString::fromLatin1("\nRun %1 COMMAND --help for the help of a command.").arg(start));
+}
+
+int SayWhatIsExpected(const QString& group, const QString& word, const QStringList& names)
+{
+    QString problem = Messages::NotAmong(QLatin1String("command"), word, names);
+    if (word.isEmpty())
+        problem = QLatin1String("missing command; expected ") + ParameterText::Alternatives(names);
+    else if (word.startsWith(QLatin1Char('-')))
+        problem = Messages::Unknown(QLatin1String("option"), word, {}, ParameterText::Alternatives(names));
+    if (group.isEmpty())
+        return Misuse(QString::fromLatin1("%1 (see cabsettings --help)").arg(problem));
+    return Misuse(QString::fromLatin1("%1: %2 (see cabsettings %1 --help)").arg(group, problem));
+}
+
+} // namespace
+
+int Dispatch(const QString& group, const TCommands& commands, const tagContext& context, const QStringList& arguments)
 {
     const QString word = arguments.value(0);
+    const QStringList names = Names(commands);
     if (word == QLatin1String("--help") || word == QLatin1String("-h")) {
-        QList<QStringList> rows;
-        for (std::size_t i = 0; i < count; ++i)
-            rows.append({QLatin1String("  ") + QLatin1String(commands[i].name), QLatin1String(commands[i].summary)});
-        Print(QString::fromLatin1("Usage: %1 COMMAND ...\n\nCommands:\n").arg(program));
-        PrintTable(rows);
-        Print(QString::fromLatin1("\n%1 COMMAND --help tells more of each.\n").arg(program));
+        PrintHelp(group, commands);
         return STATUS_DONE;
     }
-
-    QStringList names;
-    for (std::size_t i = 0; i < count; ++i)
-        names.append(QLatin1String(commands[i].name));
     if (arguments.size() == 1 && Completion::IsAsked(arguments)) {
         PrintLine(names.join(QLatin1Char('\n')));
         return STATUS_DONE;
     }
-
     if (word == QLatin1String("--manual")) {
-        for (std::size_t i = 0; i < count; ++i)
-            commands[i].run(context, {QLatin1String(commands[i].name), word});
+        for (const tagCommand& command : commands)
+            command.run(context, {QLatin1String(command.name), word});
         return STATUS_DONE;
     }
-
-    const tagCommand* const command = std::find_if(commands, commands + count, [&word](const tagCommand& candidate) {
-        return word == QLatin1String(candidate.name);
-    });
-    if (command != commands + count)
-        return command->run(context, arguments);
-
-    const QString problem = word.isEmpty() ? QLatin1String("a command is missing")
-                                           : QString::fromLatin1("there is no command \"%1\"").arg(word);
-    return Misuse(QString::fromLatin1("%1; the commands are %2 (see %3 --help)")
-                      .arg(problem, names.join(QLatin1String(", ")), program));
+    const auto index = names.indexOf(word);
+    if (index < 0)
+        return SayWhatIsExpected(group, word, names);
+    return commands[static_cast<std::size_t>(index)].run(context, arguments);
 }

@@ -19,11 +19,11 @@ cabsettings \- settings, units, paths and logs of an in\-cab guidance display
 .B cabsettings
 [\fB\-\-data\fR \fIDIR\fR] \fICOMMAND\fR ...
 .SH DESCRIPTION
-Works on the folder that stands for a terminal: its parameters, its drives and its logs. Several programs may work on
-one folder at the same time.
+Works on a data folder, which stands for one terminal: its parameters, its drives and its logs. Several programs may use
+one data folder at the same time.
 .TP
 \fB\-\-data\fR \fIDIR\fR
-The folder. Unless it is given, it is \fIcabsettings\fR in the user's own data folder.
+The data folder. Default: \fIcabsettings\fR in the user's data folder.
 .TP
 \fB\-\-version\fR
 Prints the version.
@@ -31,12 +31,12 @@ Prints the version.
 )";
 
 const char* const Tail = R"(.SH EXIT STATUS
-0 when all is done, 1 when the thing itself failed, 2 when the command line was wrong. What was wrong, and what is
-accepted, stands on standard error.
+0 for success, 1 for a failure, 2 for a wrong command line. A message on standard error then names what is wrong and
+what is expected.
 .SH ENVIRONMENT
 .TP
 \fBXDG_DATA_HOME\fR
-Where the user's own data folder is.
+The user's data folder. Default: \fI~/.local/share\fR.
 )";
 
 } // namespace
@@ -49,19 +49,18 @@ bool Manual::IsAsked(const QStringList& arguments)
 void Manual::PrintHead() { Print(QString::fromLatin1(Head)); }
 void Manual::PrintTail() { Print(QString::fromLatin1(Tail)); }
 
-void Manual::PrintCommand(const QString& synopsis, const QString& description, const QList<tagOption>& options,
-                          const QString& example)
+void Manual::PrintCommand(const tagUsage& usage)
 {
-    PrintLine(QLatin1String(".SS ") + Escaped(synopsis));
-    PrintLine(Escaped(description));
-    for (const tagOption& option : options) {
+    PrintLine(QLatin1String(".SS ") + Escaped(usage.Synopsis()));
+    PrintLine(Escaped(usage.description));
+    for (const tagOption& option : usage.options) {
         const QString value =
-            option.valueName.isEmpty() ? QString() : QString::fromLatin1(" \\fI%1\\fR").arg(option.valueName);
+            option.TakesValue() ? QString::fromLatin1(" \\fI%1\\fR").arg(option.valueName) : QString();
         PrintLine(QLatin1String(".TP"));
         PrintLine(QString::fromLatin1("\\fB%1\\fR%2").arg(Escaped(option.name), value));
-        PrintLine(Escaped(option.description));
+        PrintLine(Escaped(option.Help()));
     }
     PrintLine(QLatin1String(".PP\nExample:\n.RS\n.EX"));
-    PrintLine(Escaped(example));
+    PrintLine(Escaped(usage.example));
     PrintLine(QLatin1String(".EE\n.RE"));
 }

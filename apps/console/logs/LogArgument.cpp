@@ -1,5 +1,6 @@
 #include "console/logs/LogArgument.h"
 
+#include "console/line/Messages.h"
 #include "console/logs/LogFiles.h"
 #include "console/terminal/Session.h"
 
@@ -9,8 +10,7 @@ bool IsLog(const QString& word, const TCommandLine& line)
 {
     if (LogNames().contains(word))
         return true;
-    line.Misused(
-        QString::fromLatin1("there is no log \"%1\"; the logs are %2").arg(word, LogNames().join(QLatin1String(", "))));
+    line.Misused(Messages::NotAmong(QLatin1String("log"), word, LogNames()));
     return false;
 }
 

@@ -40,7 +40,7 @@ QList<tagLogLine> TLogTail::Read(QString* error)
         const qint64 start = before <= file.size() ? before : 0; // a shorter one is another file of that name
         const QByteArray bytes = file.isOpen() && file.seek(start) ? file.readAll() : QByteArray();
         if (file.error() != QFileDevice::NoError)
-            *error = QString::fromLatin1("%1 cannot be read: %2").arg(file.fileName(), file.errorString());
+            *error = QString::fromLatin1("cannot read \"%1\": %2").arg(file.fileName(), file.errorString());
         read.insert(name, start + bytes.size());
         if (!bytes.isEmpty())
             m_LastFile = name;

@@ -1,4 +1,5 @@
 #include "console/terminal/ParameterArgument.h"
+#include "console/line/Messages.h"
 
 #include "parameters/ParameterText.h"
 
@@ -37,10 +38,8 @@ std::optional<tagParameterArgument> ReadParameter(const QString& word, const TCo
     if (isNumber && number >= 0)
         return tagParameterArgument{static_cast<EParamID>(number), nullptr, true};
 
-    const QStringList near = TParameterCatalogue::Near(word);
-    line.Misused(QString::fromLatin1("\"%1\" is no parameter; %2")
-                     .arg(word, near.isEmpty() ? QLatin1String("a name or a number of `cabsettings list` is accepted")
-                                               : QLatin1String("near it: ") + near.join(QLatin1String(", "))));
+    line.Misused(Messages::Unknown(QLatin1String("parameter"), word, TParameterCatalogue::Near(word),
+                                   QLatin1String("a name or a number that `cabsettings list` prints")));
     return std::nullopt;
 }
 

@@ -6,18 +6,22 @@
 
 #include <optional>
 
-/// A way from one unit to another, under the measures in use.
+/// A conversion from one unit to another, under the measures in use.
 class TConversionRoute
 {
 public:
-    /// Finds the way, through the hub when neither unit is one. Nothing, with @p problem saying why and what is
-    /// accepted, when the units measure different quantities or the measures in use have no such conversion.
+    /// Both units must measure the same quantity, and the library must convert both to their hub and from it. Otherwise
+    /// nothing, and @p problem tells why.
     static std::optional<TConversionRoute> Find(EUnitsType from, EUnitsType to, QString* problem);
 
-    double operator()(double value) const;
+    /// Nothing when the result is not a finite number.
+    std::optional<double> Convert(double value) const;
 
-    /// Which settings decided the size of a gallon or fluid ounce, "US gallons: parameter 8953 is false, 8954 is true";
-    /// empty when none is involved.
+    /// "m to km"
+    QString Units() const;
+
+    /// Which settings decided the size of a gallon or fluid ounce: "US measures, because parameter 8953 …". Empty when
+    /// neither unit depends on them.
     QString Decision() const;
 
 private:

@@ -1,8 +1,10 @@
 #include "console/units/UnitArguments.h"
 
+#include "console/line/Messages.h"
+#include "console/line/Number.h"
 #include "console/units/UnitNames.h"
 
-#include <cmath>
+#include "parameters/ParameterText.h"
 
 namespace {
 
@@ -26,7 +28,7 @@ constexpr tagSystem Systems[] = {
 void AddMeasuresOption(TCommandLine& line)
 {
     line.AddOption(QLatin1String(SystemOption),
-                   QLatin1String("Measures for this call, whatever is stored: metric, us or english."),
+                   QLatin1String("Uses these measures instead of the stored ones: metric, us or english."),
                    QLatin1String("SYSTEM"));
 }
 
@@ -38,8 +40,8 @@ std::optional<int> OpenUnits(TSession& session, const tagContext& context, const
         if (wanted == QLatin1String(system.name))
             chosen = &system;
     }
-    if (!wanted.isEmpty() && !chosen)
-        return line.Misused(QString::fromLatin1("--system takes metric, us or english, not \"%1\"").arg(wanted));
+    if (line.IsSet(QLatin1String(SystemOption)) && !chosen)
+        return line.InvalidValue(QLatin1String(SystemOption), QLatin1String("metric, us or english"));
 
     if (!session.Open(context, SESSION_UNITS))
         return STATUS_FAILED;
@@ -53,20 +55,19 @@ std::optional<int> OpenUnits(TSession& session, const tagContext& context, const
 std::optional<EUnitsType> ReadUnit(const TCommandLine& line, const QString& text)
 {
     const auto unit = UnitNames::Find(text);
-    if (!unit)
-        line.Misused(QString::fromLatin1("there is no unit \"%1\"; \"cabsettings units\" lists what is accepted: an "
-                                         "abbreviation, a name or a number")
-                         .arg(text));
+    if (!unit) {
+        line.Misused(
+            Messages::Unknown(QLatin1String("unit"), text, ParameterText::Near(text, UnitNames::AllShown()),
+                              QLatin1String("an abbreviation, a name or a number that `cabsettings units` prints")));
+    }
     return unit;
 }
 
 std::optional<double> ReadNumber(const TCommandLine& line, const QString& text)
 {
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    if (isNumber && std::isfinite(number))
-        return number;
-    line.Misused(
-        QString::fromLatin1("\"%1\" is not a number; digits with a full stop are accepted, such as 12.5").arg(text));
-    return std::nullopt;
+    const auto number = FiniteNumber(text);
+    if (!number) {
+        line.Misused(Messages::Invalid(QLatin1String("number"), text, QLatin1String(FiniteNumberForm)));
+    }
+    return number;
 }

@@ -41,7 +41,7 @@ constexpr tagQuantity QuantityTable[] = {
     {UNITS_METERS, "distance"},
     {UNITS_HECTARES, "area"},
     {UNITS_METERS_PER_MIN, "speed per minute"},
-    {UNITS_KPH, "speed"},
+    {UNITS_METERS_PER_SECOND, "speed"},
     {UNITS_HZ_PER_KPH, "speed calibration"},
     {UNITS_HECTARES_PER_HOUR, "productivity"},
     {UNITS_LITERS, "volume"},
@@ -52,8 +52,11 @@ constexpr tagQuantity QuantityTable[] = {
     {UNITS_M_PER_PULSE, "wheel calibration"},
     {UNITS_PULSES_PER_L, "flow calibration"},
     {UNITS_KG, "weight"},
+    {UNITS_KG_N, "nitrogen weight"},
     {UNITS_KG_PER_HA, "weight rate"},
+    {UNITS_KG_N_PER_HA, "nitrogen rate"},
     {UNITS_KG_PER_MIN, "discharge"},
+    {UNITS_KG_N_PER_MIN, "nitrogen discharge"},
     {UNITS_KG_PER_REV, "weight per revolution"},
     {UNITS_KG_PER_L, "density"},
     {UNITS_PULSES_PER_KG_N, "nitrogen calibration"},
@@ -98,9 +101,17 @@ QString UnitNames::Shown(EUnitsType unit)
     return abbreviation.isEmpty() ? Name(unit) : abbreviation;
 }
 
+QStringList UnitNames::AllShown()
+{
+    QStringList names;
+    for (const tagUnit& unit : UnitTable)
+        names.append(Shown(unit.type));
+    return names;
+}
+
 QString UnitNames::Quantity(EUnitsType unit)
 {
-    const EUnitsType hub = TUnits::DetermineDefaultUnitFromUnitsType(unit);
+    const EUnitsType hub = TUnits::GetConversionHub(unit);
     for (const tagQuantity& quantity : QuantityTable) {
         if (quantity.hub == hub)
             return QLatin1String(quantity.name);
@@ -120,7 +131,8 @@ QStringList UnitNames::Quantities()
 QString UnitNames::Family(EUnitsType unit)
 {
     const tagUnit* const row = FindUnit(unit);
-    return row ? QLatin1String(FamilyNames[row->family]) : QString();
+    return row ? QLatin1String(FamilyNames[TUnits::DependsOnUSMeasures(unit) ? FAMILY_IMPERIAL_OR_US : row->family])
+               : QString();
 }
 
 std::optional<EUnitsType> UnitNames::Find(const QString& text)

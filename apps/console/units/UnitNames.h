@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -18,12 +19,13 @@ QString Name(EUnitsType unit);
 
 /// The abbreviation, or the name of a unit that has none.
 QString Shown(EUnitsType unit);
+QStringList AllShown();
 
-/// The quantity that the unit measures, "liquid rate"; every unit of a quantity has one hub.
+/// The quantity that the unit measures, "liquid rate". Nitrogen is a substance of its own: "nitrogen rate".
 QString Quantity(EUnitsType unit);
 QStringList Quantities();
 
-/// The measuring system, "metric".
+/// The measuring system: "metric"; "imperial or US" when the settings decide, as for gallons.
 QString Family(EUnitsType unit);
 
 /// Finds a unit by abbreviation, name or number. Nothing when there is none.

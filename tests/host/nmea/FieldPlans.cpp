@@ -64,29 +64,39 @@ void FieldPlans::whatIsBeyondIsRefusedByName_data()
         QTest::newRow(error) << change << QString::fromLatin1(error);
     };
 
-    row("latitude (degrees): 85.1 is not from -85 to 85", [](tagFieldPlan& plan) { plan.latitude = 85.1; });
-    row("latitude (degrees): nan is not from -85 to 85", [](tagFieldPlan& plan) { plan.latitude = NaN; });
-    row("longitude (degrees): -180.5 is not from -180 to 180", [](tagFieldPlan& plan) { plan.longitude = -180.5; });
-    row("altitude (m): 9001 is not from -500 to 9000", [](tagFieldPlan& plan) { plan.altitude = 9001; });
-    row("heading (degrees): -1 is not from 0 to 360", [](tagFieldPlan& plan) { plan.heading = -1; });
-    row("pass length (m): 0.9 is not from 1 to 5000", [](tagFieldPlan& plan) { plan.passLength = 0.9; });
-    row("pass length (m): inf is not from 1 to 5000", [](tagFieldPlan& plan) { plan.passLength = Infinity; });
-    row("swath width (m): 0 is not from 0.5 to 100", [](tagFieldPlan& plan) { plan.swathWidth = 0; });
-    row("speed (km/h): 60.5 is not from 0.5 to 60", [](tagFieldPlan& plan) { plan.speed = 60.5; });
-    row("turn speed (km/h): 8 is not from 0.5 to 7.5", [](tagFieldPlan& plan) {
+    row("invalid latitude (degrees) 85.1; expected a number from -85 to 85",
+        [](tagFieldPlan& plan) { plan.latitude = 85.1; });
+    row("invalid latitude (degrees) nan; expected a number from -85 to 85",
+        [](tagFieldPlan& plan) { plan.latitude = NaN; });
+    row("invalid longitude (degrees) -180.5; expected a number from -180 to 180",
+        [](tagFieldPlan& plan) { plan.longitude = -180.5; });
+    row("invalid altitude (m) 9001; expected a number from -500 to 9000",
+        [](tagFieldPlan& plan) { plan.altitude = 9001; });
+    row("invalid heading (degrees) -1; expected a number from 0 to 360", [](tagFieldPlan& plan) { plan.heading = -1; });
+    row("invalid pass length (m) 0.9; expected a number from 1 to 5000",
+        [](tagFieldPlan& plan) { plan.passLength = 0.9; });
+    row("invalid pass length (m) inf; expected a number from 1 to 5000",
+        [](tagFieldPlan& plan) { plan.passLength = Infinity; });
+    row("invalid swath width (m) 0; expected a number from 0.5 to 100",
+        [](tagFieldPlan& plan) { plan.swathWidth = 0; });
+    row("invalid speed (km/h) 60.5; expected a number from 0.5 to 60", [](tagFieldPlan& plan) { plan.speed = 60.5; });
+    row("invalid turn speed (km/h) 8; expected a number from 0.5 to 7.5", [](tagFieldPlan& plan) {
         plan.speed = 7.5;
         plan.turnSpeed = 8;
     });
-    row("smallest turn radius (m): 0 is not from 1 to 50", [](tagFieldPlan& plan) { plan.smallestTurnRadius = 0; });
-    row("number of passes: 0 is not from 1 to 1000", [](tagFieldPlan& plan) { plan.passes = 0; });
-    row("rate (Hz): 21 is not from 1 to 20", [](tagFieldPlan& plan) { plan.rate = 21; });
-    row("position noise (m): -0.01 is not from 0 to 10", [](tagFieldPlan& plan) { plan.noise = -0.01; });
-    row("start: 2000-12-31T00:00:00Z is not a time from 2001-01-01 to 2098-12-31",
+    row("invalid smallest turn radius (m) 0; expected a number from 1 to 50",
+        [](tagFieldPlan& plan) { plan.smallestTurnRadius = 0; });
+    row("invalid number of passes 0; expected a number from 1 to 1000", [](tagFieldPlan& plan) { plan.passes = 0; });
+    row("invalid rate (Hz) 21; expected a number from 1 to 20", [](tagFieldPlan& plan) { plan.rate = 21; });
+    row("invalid position noise (m) -0.01; expected a number from 0 to 10",
+        [](tagFieldPlan& plan) { plan.noise = -0.01; });
+    row("invalid start time \"2000-12-31T00:00:00Z\"; expected a date from 2001-01-01 to 2098-12-31",
         [](tagFieldPlan& plan) { plan.start = Utc(2000, 12, 31); });
-    row("start: 2099-01-01T00:00:00Z is not a time from 2001-01-01 to 2098-12-31",
+    row("invalid start time \"2099-01-01T00:00:00Z\"; expected a date from 2001-01-01 to 2098-12-31",
         [](tagFieldPlan& plan) { plan.start = Utc(2099, 1, 1); });
-    row("start:  is not a time from 2001-01-01 to 2098-12-31", [](tagFieldPlan& plan) { plan.start = QDateTime(); });
-    row("talker: XX is not GN or GP", [](tagFieldPlan& plan) { plan.talker = "XX"; });
+    row("invalid start time \"\"; expected a date from 2001-01-01 to 2098-12-31",
+        [](tagFieldPlan& plan) { plan.start = QDateTime(); });
+    row("invalid talker \"XX\"; expected GN or GP", [](tagFieldPlan& plan) { plan.talker = "XX"; });
 }
 
 void FieldPlans::whatIsBeyondIsRefusedByName()

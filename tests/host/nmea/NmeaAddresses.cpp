@@ -145,7 +145,7 @@ void NmeaAddresses::whatWasExpectedIsSaid()
     QFETCH(QString, expected);
     QString error;
     QVERIFY(!ReadNmeaAddress(text, &error));
-    QCOMPARE(error, QString::fromLatin1("\"%1\" is no source of NMEA; expected %2").arg(text, expected));
+    QCOMPARE(error, QString::fromLatin1("invalid source \"%1\"; expected %2").arg(text, expected));
 }
 
 QTEST_APPLESS_MAIN(NmeaAddresses)

@@ -44,44 +44,43 @@ void ItemNamesTest::whatCannotBeAPathIsRefused_data()
     const auto row = [](const char* name, const char* problem, const char* suggestion) {
         QTest::newRow(name) << QString::fromUtf8(name) << QString::fromUtf8(problem) << QString::fromUtf8(suggestion);
     };
-    const char* const leaves = ", and would leave its folder";
-    const char* const fat = ", which a FAT stick cannot hold";
-    row("a/b", qPrintable(QLatin1String("holds the separator \"/\"") + QLatin1String(leaves)), "a_b");
-    row("/", qPrintable(QLatin1String("holds the separator \"/\"") + QLatin1String(leaves)), "_");
-    row("../up", qPrintable(QLatin1String("holds the separator \"/\"") + QLatin1String(leaves)), ".._up");
-    row("a\\b", qPrintable(QLatin1String("holds the separator \"\\\"") + QLatin1String(leaves)), "a_b");
-    row(".", "would be another folder", "_");
-    row("..", "would be another folder", "_");
-    row("...", "ends in a full stop or a blank, which a FAT stick drops", "_");
+    const char* const fat = ", which FAT file systems do not allow";
+    row("a/b", "contains the separator \"/\"", "a_b");
+    row("/", "contains the separator \"/\"", "_");
+    row("../up", "contains the separator \"/\"", ".._up");
+    row("a\\b", "contains the separator \"\\\"", "a_b");
+    row(".", "refers to another folder", "_");
+    row("..", "refers to another folder", "_");
+    row("...", "ends in a full stop or a blank, which FAT file systems remove", "_");
     for (const char* character : {"\"", "*", ":", "<", ">", "?", "|"}) {
         const QByteArray name = QByteArray("a") + character;
-        const QByteArray problem = QByteArray("holds \"") + character + "\"" + fat;
+        const QByteArray problem = QByteArray("contains \"") + character + "\"" + fat;
         row(name.constData(), problem.constData(), "a_");
     }
-    row("a\tb", "holds the control character U+0009, which a FAT stick cannot hold", "a_b");
-    row("a\nb", "holds the control character U+000a, which a FAT stick cannot hold", "a_b");
-    row("\x7f", "holds the control character U+007f, which a FAT stick cannot hold", "_");
-    row("\xc2\x85x", "holds the control character U+0085, which a FAT stick cannot hold", "x");
-    row("F1.", "ends in a full stop or a blank, which a FAT stick drops", "F1");
-    row("F1 ", "ends in a full stop or a blank, which a FAT stick drops", "F1");
-    row("F1. .", "ends in a full stop or a blank, which a FAT stick drops", "F1");
-    row(" ", "ends in a full stop or a blank, which a FAT stick drops", "_");
-    row(" F1", "begins with a blank, which nobody sees", "F1");
-    row("CON", "is reserved: a FAT stick cannot hold it", "_CON");
-    row("nul", "is reserved: a FAT stick cannot hold it", "_nul");
-    row("Aux.txt", "is reserved: a FAT stick cannot hold it", "_Aux.txt");
-    row("com1", "is reserved: a FAT stick cannot hold it", "_com1");
-    row("LPT9.a.b", "is reserved: a FAT stick cannot hold it", "_LPT9.a.b");
-    row("prn .x", "is reserved: a FAT stick cannot hold it", "_prn .x");
+    row("a\tb", "contains the control character U+0009, which FAT file systems do not allow", "a_b");
+    row("a\nb", "contains the control character U+000a, which FAT file systems do not allow", "a_b");
+    row("\x7f", "contains the control character U+007f, which FAT file systems do not allow", "_");
+    row("\xc2\x85x", "contains the control character U+0085, which FAT file systems do not allow", "x");
+    row("F1.", "ends in a full stop or a blank, which FAT file systems remove", "F1");
+    row("F1 ", "ends in a full stop or a blank, which FAT file systems remove", "F1");
+    row("F1. .", "ends in a full stop or a blank, which FAT file systems remove", "F1");
+    row(" ", "ends in a full stop or a blank, which FAT file systems remove", "_");
+    row(" F1", "begins with a blank", "F1");
+    row("CON", "is reserved on FAT file systems", "_CON");
+    row("nul", "is reserved on FAT file systems", "_nul");
+    row("Aux.txt", "is reserved on FAT file systems", "_Aux.txt");
+    row("com1", "is reserved on FAT file systems", "_com1");
+    row("LPT9.a.b", "is reserved on FAT file systems", "_LPT9.a.b");
+    row("prn .x", "is reserved on FAT file systems", "_prn .x");
 
     QTest::newRow("a zero") << QString(QChar(0))
-                            << QStringLiteral("holds the control character U+0000, which a FAT "
-                                              "stick cannot hold")
+                            << QStringLiteral("contains the control character U+0000, which FAT "
+                                              "file systems do not allow")
                             << QStringLiteral("_");
-    QTest::newRow("a high half") << QString(QChar(0xD83D)) << QStringLiteral("holds half a character")
+    QTest::newRow("a high half") << QString(QChar(0xD83D)) << QStringLiteral("contains an incomplete character")
                                  << QStringLiteral("_");
-    QTest::newRow("a low half") << QLatin1Char('a') + QString(QChar(0xDE9C)) << QStringLiteral("holds half a character")
-                                << QStringLiteral("a_");
+    QTest::newRow("a low half") << QLatin1Char('a') + QString(QChar(0xDE9C))
+                                << QStringLiteral("contains an incomplete character") << QStringLiteral("a_");
 }
 
 void ItemNamesTest::whatCannotBeAPathIsRefused()
@@ -119,7 +118,7 @@ void ItemNamesTest::lengthCountsBytes()
     QFETCH(bool, isAccepted);
     const QString problem = ItemNames::Problem(name, most);
     QCOMPARE(problem.isEmpty(), isAccepted);
-    QCOMPARE(problem.contains(QString::fromLatin1("and %1 are accepted").arg(most)), !isAccepted);
+    QCOMPARE(problem.contains(QString::fromLatin1("at most %1 are allowed").arg(most)), !isAccepted);
     const QString suggestion = ItemNames::Suggestion(name, most);
     QCOMPARE(static_cast<int>(suggestion.toUtf8().size()), bytes);
     QVERIFY(name.startsWith(suggestion));
