@@ -1,5 +1,6 @@
 #include "diagnostics/DiagnosticTexts.h"
 
+#include "diagnostics/EConsoleEvent.h"
 #include "diagnostics/EReceiverEvent.h"
 #include "parameters/TParameterCatalogue.h"
 
@@ -17,6 +18,7 @@ struct tagText
 };
 
 constexpr tagText Texts[] = {
+    {DIAG_COMPONENT_CONSOLE, DIAG_TYPE_EVENT, CONSOLE_EVENT_LINES_LOST, "Lines lost"},
     {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIRST_FIX, "First fix"},
     {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_LOST, "Fix lost"},
     {DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_REGAINED, "Fix regained"},

@@ -1,5 +1,7 @@
 #include "diagnostics/UserLogEntries.h"
 
+#include "diagnostics/KeptLogs.h"
+#include "diagnostics/TLogKeeper.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 
 #include <algorithm>
@@ -27,6 +29,9 @@ QString WithoutLineBreaks(const QString& text)
 bool AddUserLogEntry(EDiagnosticComponent component, EDiagnosticType type, int code, const QString& text1,
                      const QString& text2)
 {
-    return TUserDiagnosticLogProxy().AddEntry(component, type, code, WithoutLineBreaks(text1),
-                                              WithoutLineBreaks(text2));
+    TUserDiagnosticLogProxy log;
+    const auto write = [&] {
+        return log.AddEntry(component, type, code, WithoutLineBreaks(text1), WithoutLineBreaks(text2));
+    };
+    return UserLogKeeper().Write(log, write).isWritten;
 }

@@ -16,6 +16,9 @@ CABHOST_EXPORT QString WithoutLineBreaks(const QString& text);
 ///     if (!AddUserLogEntry(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_DTC, 512, nozzleName, state))
 ///         ++lostEntries;
 ///
+/// If the log had closed because it could not make its file, it is opened again first. False when the entry is lost: it
+/// is counted, and the number of lost lines is written to the log as soon as that is possible.
+///
 /// Settings must be set. May be called from any thread.
 CABHOST_EXPORT bool AddUserLogEntry(EDiagnosticComponent component, EDiagnosticType type, int code,
                                     const QString& text1, const QString& text2);

@@ -1,8 +1,8 @@
 #include "nmea/TNmeaReceiver.h"
 
 #include "diagnostics/EReceiverEvent.h"
+#include "diagnostics/KeptLogs.h"
 #include "diagnostics/UserLogEntries.h"
-#include "logs/TNEMADiagnosticLogProxy.h"
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TFixTracker.h"
 #include "region/TRegionSettingsProxy.h"
@@ -34,8 +34,7 @@ Receiver::~TNmeaReceiver() = default;
 void Receiver::Receive(const QByteArray& line)
 {
     ++m_Status.lines;
-    if (!TNEMADiagnosticLogProxy().Log(line.constData(), static_cast<int>(line.size())))
-        ++m_Status.unloggedLines;
+    m_Status.unloggedLines += WriteNmeaLine(line);
 
     switch (CheckNmeaLine(line)) {
     case NMEA_RIGHT_CHECKSUM:

@@ -47,7 +47,7 @@ public:
         qint64 sentences = 0;     ///< with a right checksum, whether of use here or not
         qint64 badChecksums = 0;  ///< sentences with a wrong checksum
         qint64 damagedLines = 0;  ///< sentences without a checksum, empty lines, and other text
-        qint64 unloggedLines = 0; ///< lines that the NMEA log did not take: it is closed, or the disk is full
+        qint64 unloggedLines = 0; ///< lines that the NMEA log has lost: it was closed, or the disk was full
 
         bool hasFix = false;
         QDateTime utc; ///< the last valid time; invalid before the first

@@ -1,5 +1,6 @@
 #include "terminal/TTerminal.h"
 
+#include "diagnostics/KeptLogs.h"
 #include "diagnostics/TOneLineLogAccessor.h"
 #include "platform/TLocalTime.h"
 #include "region/TRegionSettings.h"
@@ -78,6 +79,8 @@ void TTerminal::Stop()
 {
     UserLogAccessorPtr = nullptr;
     m_UserLogAccessor.reset();
+    if (m_Settings)
+        FinishLogs();
     m_Settings.reset(); // closes the logs, which still need the store
     Settings = nullptr;
     QCoreApplication::removeTranslator(&m_Translator);

@@ -261,8 +261,9 @@ void ConsoleRun::nowTakesTheMachinesTime()
     const TConsole console;
     // Three hours behind the machine: the machine's clock, in UTC, is taken for a local time three hours ahead.
     const QDateTime recorded = QDateTime::currentDateTimeUtc().addSecs(-3 * 3600);
-    const QByteArray time = recorded.toString(QLatin1String("HHmmss")).toLatin1();
-    const QByteArray stream = Rmc(time.constData(), 'A', recorded.toString(QLatin1String("ddMMyy")).toLatin1());
+    const QByteArray time = QLocale::c().toString(recorded, QLatin1String("HHmmss")).toLatin1();
+    const QByteArray stream =
+        Rmc(time.constData(), 'A', QLocale::c().toString(recorded, QLatin1String("ddMMyy")).toLatin1());
     WriteFile(console.Path("stream.nmea"), stream);
     const QStringList arguments = {QLatin1String("run"), QLatin1String("--nmea")};
     const TConsole::tagResult result =

@@ -1,6 +1,7 @@
 #include "TestHost.h"
 
 #include "diagnostics/EReceiverEvent.h"
+#include "diagnostics/KeptLogs.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 #include "nmea/NmeaChecksum.h"
@@ -112,6 +113,7 @@ void NmeaReceiver::init()
 
 void NmeaReceiver::cleanup()
 {
+    FinishLogs();
     Settings = nullptr;
     delete m_Settings;
     delete m_Store;
