@@ -11,7 +11,9 @@
 ///
 /// The reference is valid until the same thread calls the function again. May be called from any thread.
 ///
-///     DiagnosticText(DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_LOST); // "Fix lost"
-///     DiagnosticText(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_METRIC);                 // "units.metric"
-///     DiagnosticText(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_EVENT, 77);                         // "77"
+/// \code
+/// DiagnosticText(DIAG_COMPONENT_GPS_RECEIVER, DIAG_TYPE_EVENT, RECEIVER_EVENT_FIX_LOST); // "Fix lost"
+/// DiagnosticText(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_METRIC);                 // "units.metric"
+/// DiagnosticText(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_EVENT, 77);                         // "77"
+/// \endcode
 CABHOST_EXPORT const QString& DiagnosticText(EDiagnosticComponent component, EDiagnosticType type, int code);

@@ -6,7 +6,9 @@
 /// The user log as a QObject, with AddUserLogEntry() behind it: a text with line breaks stays one line of the log.
 /// TTerminal publishes one as UserLogAccessorPtr.
 ///
-///     UserLogAccessorPtr->AddEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_ACTIVE_JOB, oldName, newName);
+/// \code
+/// UserLogAccessorPtr->AddEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_ACTIVE_JOB, oldName, newName);
+/// \endcode
 ///
 /// May be used from any thread while a terminal is started.
 class CABHOST_EXPORT TOneLineLogAccessor : public TUserLogAccessor

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The log writes Latin-1, in which the last two become "?"; but the text may be shown elsewhere, too.
+/// The log writes Latin-1, in which the last two become "?". They are replaced all the same: a blank reads better.
 constexpr ushort LineBreaks[] = {0x0A, 0x0B, 0x0C, 0x0D, 0x1C, 0x1D, 0x1E, 0x85, 0x2028, 0x2029};
 
 bool IsLineBreak(QChar character)

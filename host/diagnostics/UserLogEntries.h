@@ -11,10 +11,12 @@
 CABHOST_EXPORT QString WithoutLineBreaks(const QString& text);
 
 /// Adds an entry to the user log, as TUserDiagnosticLogProxy::AddEntry() does, with the line breaks of both texts
-/// replaced: a text that an operator has typed cannot look like a second entry. For all texts that come from outside.
+/// replaced. A text that an operator typed can then not look like another entry.
 ///
-///     if (!AddUserLogEntry(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_DTC, 512, nozzleName, state))
-///         ++lostEntries;
+/// \code
+/// if (!AddUserLogEntry(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_DTC, 512, nozzleName, state))
+///     ++lostEntries;
+/// \endcode
 ///
 /// If the log had closed because it could not make its file, it is opened again first. False when the entry is lost: it
 /// is counted, and the number of lost lines is written to the log as soon as that is possible.

@@ -7,8 +7,8 @@ namespace {
 
 const double Acceleration = 0.5; // m/s², of a tractor with an implement
 
-/// Strings segments together.
-struct tagWay
+/// A path that is put together from its beginning.
+struct tagPath
 {
     tagPose end;
     std::vector<tagSegment> segments;
@@ -24,29 +24,29 @@ struct tagWay
 
 double MetresPerSecond(double kilometresPerHour) { return kilometresPerHour / 3.6; }
 
-void AddPass(tagWay& way, const tagFieldPlan& plan)
+void AddPass(tagPath& path, const tagFieldPlan& plan)
 {
     const double slow = MetresPerSecond(plan.turnSpeed);
     // A short pass ends before the full speed is reached.
     const double fast = std::min(MetresPerSecond(plan.speed), std::sqrt(slow * slow + Acceleration * plan.passLength));
     const double ramp = (fast * fast - slow * slow) / (2 * Acceleration);
-    way.Add(ramp, 0, slow, fast);
-    way.Add(plan.passLength - 2 * ramp, 0, fast, fast);
-    way.Add(ramp, 0, fast, slow);
+    path.Add(ramp, 0, slow, fast);
+    path.Add(plan.passLength - 2 * ramp, 0, fast, fast);
+    path.Add(ramp, 0, fast, slow);
 }
 
 /// @param side 1 to the right, -1 to the left.
-void AddTurn(tagWay& way, const tagFieldPlan& plan, double side)
+void AddTurn(tagPath& path, const tagFieldPlan& plan, double side)
 {
     const double pi = std::acos(-1.0);
     const double speed = MetresPerSecond(plan.turnSpeed);
     const double radius = std::max(plan.swathWidth / 2, plan.smallestTurnRadius);
-    // Swings out, goes round, and swings back, on three circles that touch. Where the swath leaves room for the
-    // semicircle there is nothing to swing.
+    // Three arcs on circles that touch: away from the next pass, round to it, and back into its line. A swath that is
+    // wide enough for the semicircle makes the first and the last arc empty.
     const double swing = std::acos(std::min(1.0, (plan.swathWidth + 2 * radius) / (4 * radius)));
-    way.Add(swing * radius, -side / radius, speed, speed);
-    way.Add((pi + 2 * swing) * radius, side / radius, speed, speed);
-    way.Add(swing * radius, -side / radius, speed, speed);
+    path.Add(swing * radius, -side / radius, speed, speed);
+    path.Add((pi + 2 * swing) * radius, side / radius, speed, speed);
+    path.Add(swing * radius, -side / radius, speed, speed);
 }
 
 } // namespace
@@ -57,11 +57,11 @@ double tagSegment::SpeedAt(double time) const { return entrySpeed + (exitSpeed -
 
 tagPose tagSegment::PoseAt(double time) const { return PoseAfter((entrySpeed + SpeedAt(time)) / 2 * time); }
 
-tagPose tagSegment::PoseAfter(double way) const
+tagPose tagSegment::PoseAfter(double distance) const
 {
-    // Along the chord, which lies half of the turn to the side of the start.
-    const double half = curvature * way / 2;
-    const double chord = std::abs(half) > 0 ? way * std::sin(half) / half : way;
+    // Along the chord. Its heading is half of the turn away from the start's.
+    const double half = curvature * distance / 2;
+    const double chord = std::abs(half) > 0 ? distance * std::sin(half) / half : distance;
     return {start.east + chord * std::sin(start.heading + half), start.north + chord * std::cos(start.heading + half),
             start.heading + 2 * half};
 }
@@ -69,12 +69,12 @@ tagPose tagSegment::PoseAfter(double way) const
 std::vector<tagSegment> DrivenPath(const tagFieldPlan& plan)
 {
     const double pi = std::acos(-1.0);
-    tagWay way;
-    way.end.heading = plan.heading * pi / 180;
-    AddPass(way, plan);
+    tagPath path;
+    path.end.heading = plan.heading * pi / 180;
+    AddPass(path, plan);
     for (int pass = 1; pass < plan.passes; ++pass) {
-        AddTurn(way, plan, pass % 2 == 1 ? 1 : -1);
-        AddPass(way, plan);
+        AddTurn(path, plan, pass % 2 == 1 ? 1 : -1);
+        AddPass(path, plan);
     }
-    return way.segments;
+    return path.segments;
 }

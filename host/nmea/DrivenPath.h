@@ -12,20 +12,25 @@ struct tagPose
     double heading = 0; ///< radians, clockwise from the plane's north
 };
 
-/// A piece of the way: straight or an arc, at a speed that changes evenly.
+/// A part of the path: a straight line or an arc, driven with a constant acceleration.
 struct tagSegment
 {
     tagPose start;
     double length;     ///< metres
     double curvature;  ///< 1 / radius in metres, positive to the right; 0 is straight
     double entrySpeed; ///< metres per second, above 0
-    double exitSpeed;
+    double exitSpeed;  ///< metres per second, above 0
 
-    double Duration() const;             ///< seconds
-    double SpeedAt(double time) const;   ///< metres per second, @p time in seconds since the start
-    tagPose PoseAt(double time) const;   ///< the same
-    tagPose PoseAfter(double way) const; ///< metres from the start
+    /// Seconds.
+    double Duration() const;
+
+    /// Speed in metres per second, and pose, @p time seconds after the start.
+    double SpeedAt(double time) const;
+    tagPose PoseAt(double time) const;
+
+    /// Pose @p distance metres after the start.
+    tagPose PoseAfter(double distance) const;
 };
 
-/// The way over the whole field, from (0, 0), each piece starting where the one before it ends.
+/// The path of the tractor over the whole field, from (0, 0). Each segment starts where the one before it ends.
 std::vector<tagSegment> DrivenPath(const tagFieldPlan& plan);

@@ -36,7 +36,7 @@ QString CheckFieldPlan(const tagFieldPlan& plan)
                 .arg(QLatin1String(row.name), Number(row.value), Number(row.least), Number(row.most));
     }
 
-    // Dates go out with two digits of the year, which are read as years from 2000 on; and a field may take weeks.
+    // RMC gives two digits of the year, which are read as a year from 2000 on. A drive may take weeks.
     const QDate first(2001, 1, 1);
     const QDate last(2098, 12, 31);
     const QDate date = plan.start.toUTC().date();

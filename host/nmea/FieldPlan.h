@@ -6,29 +6,35 @@
 #include <QDateTime>
 #include <QString>
 
-/// A field to be worked along parallel lines, and the receiver that watches.
+/// A simulated drive: a tractor works a field along parallel lines, and its receiver sends NMEA.
 ///
-/// The tractor starts at the given place, works every pass from end to end, and turns into the next one, which lies to
-/// the right of the first: by a semicircle between the two lines, or, when they are too close for its smallest circle,
-/// by a loop that swings out first.
+/// The tractor starts at the given place and drives each pass from end to end. The second pass lies to the right of the
+/// first, the third beyond it, and so on. The turn from one pass to the next is a semicircle. If the passes are too
+/// close for the smallest turn radius, the turn is a loop that begins away from the next pass.
+///
+/// \code
+/// tagFieldPlan plan;
+/// plan.passes = 4;
+/// const QString problem = CheckFieldPlan(plan); // empty: TFieldSimulator(plan) can be used
+/// \endcode
 struct tagFieldPlan
 {
     QDateTime start = QDateTime(QDate(2024, 5, 1), QTime(6, 0), Qt::UTC);
     double latitude = 52.0;          ///< degrees, north positive
     double longitude = 10.0;         ///< degrees, east positive
     double altitude = 80.0;          ///< metres above sea level; the field is flat
-    double heading = 15.0;           ///< degrees from true north, of the first pass at its start
+    double heading = 15.0;           ///< of the first pass at its start, degrees from true north
     double passLength = 400.0;       ///< metres
     double swathWidth = 12.0;        ///< metres from one pass to the next
-    double speed = 10.0;             ///< km/h in the pass; the tractor brakes at its end and speeds up at its start
-    double turnSpeed = 6.0;          ///< km/h in the turn
+    double speed = 10.0;             ///< km/h in a pass; less near its start and its end
+    double turnSpeed = 6.0;          ///< km/h in a turn
     double smallestTurnRadius = 6.5; ///< metres
     int passes = 10;
     int rate = 5;             ///< epochs per second
-    double noise = 0.0;       ///< metres; the most that a position is off, to the east and to the north each
-    unsigned noiseSeed = 1;   ///< the same seed, the same noise
-    QByteArray talker = "GN"; ///< the two letters that the sentences start with
+    double noise = 0.0;       ///< greatest error of a position in metres, to the east and to the north
+    unsigned noiseSeed = 1;   ///< the same seed gives the same noise
+    QByteArray talker = "GN"; ///< first two letters of each sentence: "GN" or "GP"
 };
 
-/// Empty for a plan that can be worked, else what is wrong: the field, its value, and what is accepted.
+/// Empty when the simulator accepts @p plan, else what is wrong: the member, its value, and what is accepted.
 CABHOST_EXPORT QString CheckFieldPlan(const tagFieldPlan& plan);

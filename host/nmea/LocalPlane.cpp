@@ -54,7 +54,7 @@ tagGroundPose TLocalPlane::ToGround(double east, double north, double heading) c
     const double y = m_Origin[1] + offset[1];
     const double z = m_Origin[2] + offset[2];
 
-    // Bowring's formula, good to far below a millimetre near the ground.
+    // Bowring's formula. Its error near the ground is far below a millimetre.
     const double distance = std::hypot(x, y); // from the axis
     const double reduced = std::atan2(z * SemiMajorAxis, distance * SemiMinorAxis);
     const double latitude = std::atan2(z + SecondEccentricity2 * SemiMinorAxis * Cube(std::sin(reduced)),

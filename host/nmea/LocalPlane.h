@@ -2,16 +2,16 @@
 
 #include <array>
 
-/// A place on the WGS84 ellipsoid and a direction there, in degrees; the course is 0 to 360 from true north.
+/// A place on the WGS84 ellipsoid and a direction there.
 struct tagGroundPose
 {
-    double latitude;
-    double longitude;
-    double course;
+    double latitude;  ///< degrees, north positive
+    double longitude; ///< degrees, east positive
+    double course;    ///< degrees from true north, 0 to 360
 };
 
-/// The plane that touches the WGS84 ellipsoid at one place, and the way back down from it. True to 1 in 100 000 within
-/// 25 km, at every latitude, and across the antimeridian.
+/// The plane that touches the WGS84 ellipsoid at one place. Brings points of the plane back to the ellipsoid.
+/// Distances are exact to 1 in 100 000 within 25 km, at every latitude and across the antimeridian.
 class TLocalPlane
 {
 public:
@@ -19,13 +19,14 @@ public:
     TLocalPlane(double latitude, double longitude);
 
     /// @param east, north in metres on the plane.
-    /// @param heading in radians from the plane's north, which leaves true north as the meridians close in.
+    /// @param heading in radians from the plane's north; the result is from true north at the point.
     tagGroundPose ToGround(double east, double north, double heading) const;
 
 private:
     using TVector = std::array<double, 3>;
 
-    /// The directions of a place in space; the axes go to longitude 0, to 90 degrees east, and to the pole.
+    /// East and north of a place, as vectors from the centre of the Earth. The axes point to longitude 0, to 90 degrees
+    /// east, and to the north pole.
     struct tagDirections
     {
         TVector east;

@@ -11,7 +11,7 @@ namespace {
 
 const int GreatestPort = 65535;
 
-/// The first is what a receiver talks when nobody has told it otherwise.
+/// The first is the standard's own rate, with which receivers are delivered.
 const int BaudRates[] = {4800, 9600, 19200, 38400, 57600, 115200, 230400, 460800, 921600};
 
 std::optional<NmeaAddress> ReadTcp(const QString& text)

@@ -18,8 +18,8 @@ QByteArray Digits(qint64 value, int width) { return QByteArray::number(value).ri
 
 QByteArray Decimals(double value, int decimals) { return QByteArray::number(value, 'f', decimals); }
 
-/// Degrees, minutes with seven decimals, a comma, and the side. Counted in the last decimal, so that a minute never
-/// reads 60.
+/// Degrees, minutes with seven decimals, a comma, and the side. Rounded as a whole number of the last decimal, so that
+/// the minutes are never 60.
 QByteArray Angle(double degrees, int degreeDigits, const char* sides)
 {
     const qint64 unitsPerMinute = 10000000;
@@ -30,7 +30,7 @@ QByteArray Angle(double degrees, int degreeDigits, const char* sides)
            Digits(minutes % unitsPerMinute, 7) + ',' + sides[degrees < 0];
 }
 
-/// Degrees with two decimals, counted in hundredths, so that the full circle reads 0.
+/// Degrees with two decimals. Rounded as a whole number of hundredths, so that 359.999 becomes 0.
 QByteArray Course(double degrees)
 {
     const qint64 hundredths = std::llround(degrees * 100) % 36000;

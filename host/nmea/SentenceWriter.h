@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QDateTime>
 
-/// What a receiver knows at one moment.
+/// Time, position and movement of a receiver at one moment.
 struct tagEpoch
 {
     QDateTime utc;
@@ -14,5 +14,5 @@ struct tagEpoch
     double course;    ///< degrees from true north, 0 to 360
 };
 
-/// RMC, GGA, VTG and ZDA of a receiver with an RTK fix, with checksums and line ends.
+/// The sentences RMC, GGA, VTG and ZDA of a receiver with an RTK fix, with checksums and line ends.
 QByteArray WriteSentences(const QByteArray& talker, const tagEpoch& epoch);

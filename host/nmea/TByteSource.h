@@ -4,29 +4,32 @@
 #include <QObject>
 #include <QString>
 
-/// Where the bytes of a stream come from. What is recorded waits to be read, what is live comes by itself.
+/// A source of bytes. A recording is read piece by piece; a live source sends by itself.
 class TByteSource : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Opens what is not open yet. Of a recording, each call gives one piece or the end; a live source is called once.
+    /// Opens the source at the first call. For a recording, each call gives one piece or the end. For a live source,
+    /// one call is enough.
     virtual void Read() = 0;
 
-    /// Nothing follows. May be called from a slot of any signal here; without effect when closed.
+    /// Closes the source; no signal follows. May be called from a slot of any signal of this class. Does nothing when
+    /// the source is closed.
     virtual void Close() = 0;
 
-    /// Known when it is open.
+    /// Whether the source is a file. Valid after it was opened.
     virtual bool IsRecording() const = 0;
 
 signals:
-    /// 64 KiB at most.
+    /// At most 64 KiB.
     void Received(const QByteArray& bytes);
 
-    /// A live source is gone, or not there yet: what comes next does not continue what came before. Once for each loss.
+    /// A live source is lost, or not available yet. Bytes that come later do not continue those that came before.
+    /// Emitted once for each loss.
     void Lost(const QString& reason);
     void Regained();
 
-    /// @param error says what could not be opened or read and why; empty at a good end.
+    /// @param error what could not be opened or read, and why; empty after a good end.
     void Ended(const QString& error);
 };

@@ -10,7 +10,7 @@ namespace {
 
 const double MillisecondsPerSecond = 1000;
 
-/// From -@p most to @p most. Not std::uniform_real_distribution, whose numbers are the library's own choice.
+/// A number from -@p most to @p most. Not by std::uniform_real_distribution: its results differ between C++ libraries.
 double Noise(std::mt19937& engine, double most)
 {
     return most * (2 * static_cast<double>(engine()) / static_cast<double>(std::mt19937::max()) - 1);
@@ -24,7 +24,7 @@ struct TFieldSimulator::tagState
         : plan(fieldPlan), plane(plan.latitude, plan.longitude), path(DrivenPath(plan)), noise(plan.noiseSeed)
     {}
 
-    /// Of the next epoch; a whole number, as the sentences can tell no other.
+    /// Time of the next epoch since the start; a whole number, because the sentences have three decimals of a second.
     qint64 Milliseconds() const { return (epoch * 1000 + plan.rate / 2) / plan.rate; }
     double SecondsInSegment() const
     {
@@ -37,9 +37,9 @@ struct TFieldSimulator::tagState
     const TLocalPlane plane;
     const std::vector<tagSegment> path;
     std::mt19937 noise;
-    qint64 epoch = 0;        ///< number of the next one
-    std::size_t segment = 0; ///< where it lies
-    double segmentStart = 0; ///< seconds
+    qint64 epoch = 0;        ///< the next one
+    std::size_t segment = 0; ///< the one in which the next epoch lies
+    double segmentStart = 0; ///< seconds since the start
 };
 
 void TFieldSimulator::tagState::FindSegment()

@@ -7,23 +7,29 @@
 
 #include <memory>
 
-/// Writes what a receiver on a tractor that works a field would send: at each epoch RMC, GGA, VTG and ZDA, with right
-/// checksums, each ended by carriage return and line feed. Position, speed, course and time agree with one another, and
-/// the same plan gives the same bytes. Used by one thread.
+/// Writes the NMEA stream of a receiver on a tractor that works a field: RMC, GGA, VTG and ZDA for each epoch, with
+/// checksum, carriage return and line feed. Position, speed, course and time are consistent with each other. The same
+/// plan gives the same bytes. Use it from one thread.
+///
+/// \code
+/// TFieldSimulator simulator(plan);
+/// while (!simulator.AtEnd())
+///     file.write(simulator.NextEpoch());
+/// \endcode
 class CABHOST_EXPORT TFieldSimulator
 {
 public:
-    /// @param plan one that CheckFieldPlan() accepts; for any other there are no epochs.
+    /// @param plan one that CheckFieldPlan() accepts; any other gives no epochs.
     explicit TFieldSimulator(const tagFieldPlan& plan);
     ~TFieldSimulator();
 
     TFieldSimulator(const TFieldSimulator&) = delete;
     TFieldSimulator& operator=(const TFieldSimulator&) = delete;
 
-    /// Whether the last pass is done.
+    /// Whether the end of the last pass is reached.
     bool AtEnd() const;
 
-    /// The sentences of the next epoch, the first standing at the plan's start; empty at the end.
+    /// The sentences of the next epoch. The time of the first one is the plan's start. Empty at the end.
     QByteArray NextEpoch();
 
 private:

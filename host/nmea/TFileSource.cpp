@@ -44,7 +44,7 @@ bool TFileSource::Open()
         return false;
     }
     m_IsRecording = S_ISREG(status.st_mode);
-    if (!m_IsRecording) { // it tells when there is something to read
+    if (!m_IsRecording) {
         m_Notifier = std::make_unique<QSocketNotifier>(m_Fd, QSocketNotifier::Read);
         connect(m_Notifier.get(), &QSocketNotifier::activated, this, &TFileSource::ReadPiece);
     }

@@ -6,7 +6,8 @@
 
 #include <memory>
 
-/// A file, a pipe, a device as it is set up, or the standard input. Files are recordings, the others are live.
+/// A file, a pipe, a device or the standard input. A regular file is a recording, also on standard input; everything
+/// else is live.
 class TFileSource : public TByteSource
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ private:
     void Fail(const char* what, int error);
 
     const QString m_Path;
-    std::unique_ptr<QSocketNotifier> m_Notifier; ///< of what is live; it may be the one that is calling
+    std::unique_ptr<QSocketNotifier> m_Notifier; ///< of a live source; not deleted in Close(), which it may have called
     int m_Fd;
     bool m_IsRecording;
 };

@@ -36,7 +36,7 @@ void TLinkSource::Made()
 
 void TLinkSource::Failed(const QString& reason)
 {
-    if (!m_IsOpen || m_Pause.isActive()) // news of what is over already
+    if (!m_IsOpen || m_Pause.isActive()) // closed, or reported already
         return;
     Disconnect();
     m_Pause.start(m_NextPause);

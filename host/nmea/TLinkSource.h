@@ -4,14 +4,15 @@
 
 #include <QTimer>
 
-/// A link to a receiver. Making it is tried until it stands, at first and after each loss, for ever. The pause before
-/// the next try doubles up to the longest one; once something has been received it is the shortest one again.
+/// A connection to a receiver. At the start and after each loss it tries to connect until it succeeds, without limit.
+/// The pause before the next attempt doubles up to the longest pause. After bytes were received, it is the shortest
+/// pause again.
 class TLinkSource : public TByteSource
 {
     Q_OBJECT
 
 public:
-    /// Milliseconds.
+    /// @param shortestPause, longestPause in milliseconds.
     explicit TLinkSource(int shortestPause = 250, int longestPause = 8000);
 
     void Read() override;
@@ -19,16 +20,19 @@ public:
     bool IsRecording() const override { return false; }
 
 protected:
-    /// Tries to make the link, and sooner or later tells how it went: Made() or Failed().
+    /// Starts an attempt to connect. Call Made() or Failed() when its result is known.
     virtual void Connect() = 0;
 
-    /// Leaves no link, and no try to make one.
+    /// Ends the connection, or the attempt.
     virtual void Disconnect() = 0;
 
+    /// To be called when the connection is made.
     void Made();
-    void Failed(const QString& reason); ///< also when what was made is lost; may be told more than once
+
+    /// To be called when an attempt has failed or the connection is lost. Further calls for the same loss do nothing.
+    void Failed(const QString& reason);
+
     void Deliver(const QByteArray& bytes);
-    bool IsOpen() const { return m_IsOpen; }
 
 private:
     const int m_ShortestPause;
@@ -36,5 +40,5 @@ private:
     int m_NextPause;
     QTimer m_Pause;
     bool m_IsOpen;
-    bool m_IsLost; ///< and that has been said
+    bool m_IsLost; ///< Lost() was emitted, Regained() was not
 };

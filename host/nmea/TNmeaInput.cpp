@@ -51,7 +51,7 @@ void TNmeaInput::Start()
 
 void TNmeaInput::Stop()
 {
-    if (m_IsRunning && !m_Source->IsRecording()) { // what has been sent is received, be the last line complete or not
+    if (m_IsRunning && !m_Source->IsRecording()) {
         TNmeaLineSplitter received = std::exchange(m_Splitter, TNmeaLineSplitter());
         for (QByteArray line = received.TakeLine(); !line.isEmpty(); line = received.TakeLine())
             emit LineReceived(line);
@@ -128,7 +128,7 @@ QByteArray TNmeaInput::NextLine()
     return line;
 }
 
-/// Milliseconds until the line is due; none for what is not paced.
+/// Milliseconds until the line is due; 0 or less: now.
 double TNmeaInput::Wait() const { return m_StreamTime ? m_DueAt - static_cast<double>(m_Elapsed.elapsed()) : 0; }
 
 void TNmeaInput::End(const QString& error)

@@ -15,41 +15,48 @@
 class TByteSource;
 class TNmeaStreamTime;
 
-/// Reads an NMEA stream from wherever it comes and hands on its lines as received, from the event loop of its thread,
-/// to which it returns after every 64 KiB at most.
+/// Reads an NMEA stream from a file, a pipe, a server or a serial device, and emits its lines as received. Works in the
+/// event loop of its thread, and returns to it after at most 64 KiB.
 ///
-/// A server and a serial device may come and go: they are waited for and opened again for as long as it takes, with a
-/// pause between the tries that grows to eight seconds. Only a server whose host has never been found is an error. What
-/// came of a line before a loss is handed on with a line end, so that neither here nor in a log does it run into the
-/// line that comes next. Silence is no loss. A server that is gpsd is asked for NMEA; its own answers are lines too.
+/// \code
+/// TNmeaInput input(*ReadNmeaAddress(QLatin1String("tcp://localhost:2947"), &error));
+/// QObject::connect(&input, &TNmeaInput::LineReceived, [&](const QByteArray& line) { receiver.Receive(line); });
+/// input.Start();
+/// \endcode
+///
+/// A server or a serial device may be absent at the start, or get lost: it is tried again without limit, with pauses
+/// that grow to eight seconds. A server whose name cannot be resolved is no exception. Silence is not a loss.
+///
+/// If the source is lost within a line, the part that was received is emitted with a line end, so that it does not run
+/// into the next line, here or in a log. If a server is gpsd, it is asked for NMEA; its own answers are emitted as
+/// lines.
 class CABHOST_EXPORT TNmeaInput : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param speed of a file, which is played by the times of its own sentences: how many times as fast as it was
-    ///        recorded. 0, and what is no positive number: as fast as it can be read. Everything that is no file comes
-    ///        as fast as it is sent.
+    /// @param speed how many times as fast as it was recorded a file is played, by the times in its sentences. As fast
+    ///        as it can be read if @p speed is 0 or not a positive number. Other sources ignore it.
     explicit TNmeaInput(const NmeaAddress& address, double speed = 0, QObject* parent = nullptr);
     ~TNmeaInput() override;
 
-    /// Opens and reads as soon as the event loop runs. For one stream; call it once.
+    /// Opens the source and reads, as soon as the event loop runs. Call it once.
     void Start();
 
-    /// Ends the stream here; Finished() follows before the return. What a file holds further on is not handed on; of a
-    /// live source, a line that has come in part is. Without effect before Start() and after the end. May be called
-    /// from a slot of any signal here.
+    /// Ends the stream; Finished() is emitted before the return. From a live source, everything that was received is
+    /// emitted first, an incomplete last line included; from a file, nothing more. Does nothing before Start() and
+    /// after the end. May be called from a slot of any signal of this class.
     void Stop();
 
 signals:
     void LineReceived(const QByteArray& line);
 
-    /// A server or a serial device is gone, or not there to begin with, and is tried again and again. Once for each
-    /// loss, with the reason; SourceRegained() when it is there.
+    /// A server or a serial device is lost, or was not there at the start. It is tried again until SourceRegained().
+    /// Emitted once for each loss.
     void SourceLost(const QString& reason);
     void SourceRegained();
 
-    /// Once, at the end. @p error says what could not be opened or read and why, when not @p ok; else it is empty.
+    /// Emitted once, at the end. @p error is what could not be opened or read, and why; empty when @p ok.
     void Finished(bool ok, const QString& error);
 
 private:
@@ -64,12 +71,12 @@ private:
 
     const double m_Speed;
     std::unique_ptr<TByteSource> m_Source;
-    std::unique_ptr<TNmeaStreamTime> m_StreamTime; ///< of what is paced
+    std::unique_ptr<TNmeaStreamTime> m_StreamTime; ///< of a file that is played by its times; else null
     TNmeaLineSplitter m_Splitter;
-    QByteArray m_Waiting; ///< the line that is not due yet
-    double m_DueAt;       ///< milliseconds on m_Elapsed
+    QByteArray m_Waiting; ///< a line that is not due yet
+    double m_DueAt;       ///< when the last line read is due, milliseconds on m_Elapsed
     QElapsedTimer m_Elapsed;
     QTimer m_Timer;
     bool m_IsRunning;
-    bool m_IsAtEnd; ///< of what can be read
+    bool m_IsAtEnd; ///< the source has no more bytes
 };

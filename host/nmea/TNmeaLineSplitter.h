@@ -4,12 +4,17 @@
 
 #include <QByteArray>
 
-/// Cuts a stream of bytes into lines, byte for byte: put together again in order, the lines are the stream. What a line
-/// holds does not matter, and how the stream was cut into calls of Append() does not either.
+/// Cuts a stream of bytes into lines. No byte is lost or changed: all lines together are the stream. Lines may hold any
+/// bytes, and may come in any number of pieces.
 ///
-/// A line ends with a line feed, which belongs to it as a carriage return before it does. Of what goes on for longer
-/// than MaxLineLength, every MaxLineLength bytes are handed on as if they were a line, so that a wrong line speed or a
-/// file that is no text cannot fill the memory. Used by one thread.
+/// \code
+/// splitter.Append(bytes.constData(), bytes.size());
+/// for (QByteArray line = splitter.TakeLine(); !line.isEmpty(); line = splitter.TakeLine())
+///     receiver.Receive(line);
+/// \endcode
+///
+/// A line ends with a line feed, which is part of the line. A line that is longer than MaxLineLength is cut there, so
+/// that a wrong baud rate or a binary file does not fill the memory. Use it from one thread.
 class CABHOST_EXPORT TNmeaLineSplitter
 {
 public:
@@ -18,13 +23,14 @@ public:
 
     void Append(const char* data, int length);
 
-    /// The next line; empty when there is no complete one.
+    /// Removes and returns the next line; empty when no line is complete.
     QByteArray TakeLine();
 
-    /// At the end of the stream, when TakeLine() has no more: the last line if it has no line end, else empty.
+    /// Removes and returns everything that is left. Call it at the end of the stream, after the last TakeLine(): it is
+    /// the last line when that has no line end, else empty.
     QByteArray TakeRest();
 
 private:
     QByteArray m_Buffer;
-    int m_Start = 0; ///< what stands before it has been taken
+    int m_Start = 0; ///< of the first line that was not taken
 };

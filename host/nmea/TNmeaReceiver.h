@@ -12,10 +12,11 @@ class TFixTracker;
 
 /// Takes the lines of a GPS receiver: writes them to the NMEA log, sets the clock, and reports events in the user log.
 ///
-///     TNmeaReceiver receiver;
-///     QObject::connect(&input, &TNmeaInput::LineReceived, [&](const QByteArray& line) { receiver.Receive(line); });
-///     ... // at the end of the stream
-///     receiver.Finish();
+/// \code
+/// TNmeaReceiver receiver;
+/// QObject::connect(&input, &TNmeaInput::LineReceived, [&](const QByteArray& line) { receiver.Receive(line); });
+/// QObject::connect(&input, &TNmeaInput::Finished, [&] { receiver.Finish(); });
+/// \endcode
 ///
 /// Every line goes to the NMEA log as received, before anything else. After that a line is used only if its checksum is
 /// right. A sentence without a checksum is not used: it may have been cut short.

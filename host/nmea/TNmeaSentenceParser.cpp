@@ -6,6 +6,6 @@ TNmeaSentenceParser::tagSentence TNmeaSentenceParser::Parse(const QByteArray& li
 {
     tagSentence sentence;
     if (parsePosInfoFromNmeaData(line.constData(), static_cast<int>(line.size()), &sentence.info, &sentence.hasFix))
-        sentence.type = line.mid(3, 3); // behind "$" and two letters for the talker
+        sentence.type = line.mid(3, 3); // after "$" and the two letters of the talker
     return sentence;
 }

@@ -4,7 +4,7 @@
 #include <QGeoPositionInfo>
 #include <QNmeaPositionInfoSource>
 
-/// One sentence at a time through QtPositioning's NMEA source, without its device, its timers and its event loop.
+/// Reads single sentences with the parser of QtPositioning, without its device, timers and event loop.
 class TNmeaSentenceParser : private QNmeaPositionInfoSource
 {
 public:
@@ -13,10 +13,10 @@ public:
     struct tagSentence
     {
         QByteArray type;       ///< "RMC", "GGA", ...; empty for a line that QtPositioning does not read
-        bool hasFix = false;   ///< as the sentence itself says; false for those that do not say
-        QGeoPositionInfo info; ///< what the sentence carries; its time may have no date
+        bool hasFix = false;   ///< false, too, for a sentence that does not tell
+        QGeoPositionInfo info; ///< the values of the sentence; its time may have no date
     };
 
-    /// Lines without a right checksum are not read.
+    /// @param line with or without its line end. Not read unless its checksum is right.
     tagSentence Parse(const QByteArray& line);
 };

@@ -4,13 +4,13 @@
 
 #include <QTime>
 
-/// How far into a recording each of its lines stands, told by the times of day that its sentences carry.
+/// The time at which each line of a recording was received, from the times of day in its sentences.
 class TNmeaStreamTime
 {
 public:
-    /// Milliseconds from the first time in the stream to @p line, which is the one behind the line of the last call. A
-    /// line without a time of its own belongs to the one before it. Time that runs backwards, and a gap of more than a
-    /// minute, count as no time: there another recording begins, or the receiver had no time to tell.
+    /// Milliseconds from the first time of the recording to @p line. Call it for each line, in order. A line without a
+    /// time gets the time of the line before it. A step back and a gap of more than a minute count as 0: another
+    /// recording begins there, or the receiver knew no time.
     qint64 Advance(const QByteArray& line);
 
 private:

@@ -3,9 +3,9 @@
 TSerialSource::TSerialSource(const tagSerialAddress& address)
 {
     m_Port.setPortName(address.device);
-    m_Port.setBaudRate(address.baud); // the rest is as Qt has it: 8N1, no flow control
+    m_Port.setBaudRate(address.baud); // Qt's defaults for the rest: 8N1, no flow control
     connect(&m_Port, &QSerialPort::readyRead, this, [this] { Deliver(m_Port.readAll()); });
-    // Later, when the port is done with it: it may be opened again only then.
+    // Queued: the port can be opened again only after its own slot has returned.
     connect(&m_Port, &QSerialPort::errorOccurred, this, &TSerialSource::OnError, Qt::QueuedConnection);
 }
 
@@ -19,7 +19,7 @@ void TSerialSource::Connect()
 
 void TSerialSource::Disconnect()
 {
-    if (m_Port.isOpen()) // else closing is an error of its own
+    if (m_Port.isOpen()) // to close a closed port is an error
         m_Port.close();
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 const qint64 BufferSize = 0x10000;
 
-/// What gpsd says to everybody, and what makes it send NMEA.
+/// How gpsd greets every client, and the request for NMEA.
 const char GpsdGreeting[] = R"({"class":"VERSION")";
 const char GpsdRequest[] = "?WATCH={\"enable\":true,\"nmea\":true};\n";
 const int GreetingLength = static_cast<int>(sizeof GpsdGreeting) - 1;
@@ -22,7 +22,8 @@ struct tagSocketOption
     int value;
 };
 
-/// A receiver talks every second. A silent peer is asked whether it is still there, and gone when it does not answer.
+/// Receivers send every second. After ten seconds of silence the system asks the peer for a sign of life; without an
+/// answer the connection is lost within half a minute.
 const tagSocketOption WatchPeer[] = {
     {SOL_SOCKET, SO_KEEPALIVE, 1},
     {IPPROTO_TCP, TCP_KEEPIDLE, 10}, // seconds
@@ -32,14 +33,13 @@ const tagSocketOption WatchPeer[] = {
 
 } // namespace
 
-TTcpSource::TTcpSource(const tagTcpAddress& address) : m_Address(address), m_HostIsKnown(false)
+TTcpSource::TTcpSource(const tagTcpAddress& address) : m_Address(address)
 {
-    m_Socket.setProxy(QNetworkProxy::NoProxy); // the receiver is in the cab, whatever all_proxy says
+    m_Socket.setProxy(QNetworkProxy::NoProxy); // the receiver is in the cab: all_proxy does not apply
     m_Socket.setReadBufferSize(BufferSize);
-    connect(&m_Socket, &QTcpSocket::hostFound, this, [this] { m_HostIsKnown = true; });
     connect(&m_Socket, &QTcpSocket::connected, this, &TTcpSource::OnConnected);
     connect(&m_Socket, &QTcpSocket::readyRead, this, &TTcpSource::OnReadyRead);
-    // Later, when the socket is done with it: it may be used again only then.
+    // Queued: the socket can be used again only after its own slot has returned.
     connect(&m_Socket, &QTcpSocket::errorOccurred, this, &TTcpSource::OnError, Qt::QueuedConnection);
 }
 
@@ -61,15 +61,7 @@ void TTcpSource::OnConnected()
     Made();
 }
 
-void TTcpSource::OnError()
-{
-    if (!IsOpen()) // it was closed in the meantime
-        return;
-    if (m_Socket.error() == QTcpSocket::HostNotFoundError && !m_HostIsKnown)
-        emit Ended(QString::fromLatin1("cannot find the host %1").arg(m_Address.host));
-    else
-        Failed(m_Socket.errorString());
-}
+void TTcpSource::OnError() { Failed(m_Socket.errorString()); }
 
 void TTcpSource::OnReadyRead()
 {

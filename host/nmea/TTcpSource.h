@@ -5,8 +5,8 @@
 
 #include <QTcpSocket>
 
-/// A server that sends NMEA. One that turns out to be gpsd is asked to; its own answers come along with the stream.
-/// A peer that is gone without a word, switched off or out of reach, is noticed within half a minute.
+/// A server that sends NMEA. gpsd, which is known by its greeting, is asked for NMEA; its answers are part of the
+/// stream. A peer that is switched off or out of reach is noticed within half a minute.
 class TTcpSource : public TLinkSource
 {
     Q_OBJECT
@@ -26,6 +26,5 @@ private:
 
     const tagTcpAddress m_Address;
     QTcpSocket m_Socket;
-    QByteArray m_Beginning; ///< of what the server sends, as far as it tells gpsd from others
-    bool m_HostIsKnown;     ///< it has been found once: it exists
+    QByteArray m_Beginning; ///< the first bytes of the connection, as many as the greeting has
 };

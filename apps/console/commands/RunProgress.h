@@ -5,8 +5,8 @@
 #include <QObject>
 #include <QTimer>
 
-/// A line on the terminal that tells how a run is going: lines, fix, clock, log files. Quiet when standard error is no
-/// terminal.
+/// Shows the progress of a run in one line on the terminal: lines received, fix, clock, log file. Shows nothing when
+/// standard error is not a terminal.
 class TRunProgress : public QObject
 {
     Q_OBJECT
@@ -14,10 +14,10 @@ class TRunProgress : public QObject
 public:
     explicit TRunProgress(const TNmeaReceiver& receiver);
 
-    /// Wipes the line from the terminal.
+    /// Removes the line from the terminal.
     ~TRunProgress() override;
 
-    /// Says one line on standard error, whatever it is, behind the program's name; what is shown makes way for it.
+    /// Writes a message to standard error, after the program's name, in place of the line.
     void Say(const QString& text);
 
 private:
