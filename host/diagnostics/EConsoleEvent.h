@@ -4,5 +4,5 @@
 /// their names; see DiagnosticText(). The numbers never change.
 enum EConsoleEvent : int
 {
-    CONSOLE_EVENT_LINES_LOST = 100, ///< text1: number of lines; text2: "from to", local times in ISO form
+    CONSOLE_EVENT_LINES_LOST = 10000, ///< text1: number of lines; text2: "from to", local times in ISO form
 };

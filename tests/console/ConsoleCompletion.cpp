@@ -88,6 +88,10 @@ void ConsoleCompletion::bashCompletes()
     QFETCH(QString, line);
     QFETCH(QString, completed);
     QProcess bash;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"),
+                       QStringLiteral("C")); // bash complains of a locale that is not installed
+    bash.setProcessEnvironment(environment);
     bash.start(QStringLiteral("bash"),
                {QStringLiteral("--norc"), QStringLiteral("-c"),
                 QStringLiteral(". \"$1\"; COMP_WORDS=(\"$2\" $3); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _cabsettings; "

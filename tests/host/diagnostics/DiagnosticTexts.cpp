@@ -1,4 +1,5 @@
 #include "diagnostics/DiagnosticTexts.h"
+#include "diagnostics/EConsoleEvent.h"
 #include "diagnostics/EReceiverEvent.h"
 #include "parameters/TParameterCatalogue.h"
 
@@ -11,6 +12,7 @@ class DiagnosticTexts : public QObject
     Q_OBJECT
 
 private slots:
+    void eventsOfTheTerminalHaveNames();
     void receiverEventsHaveNames_data();
     void receiverEventsHaveNames();
     void whatHasNoNameIsItsNumber_data();
@@ -19,6 +21,12 @@ private slots:
     void codesWithoutANameTakeOnePlace();
     void eachThreadHasItsOwnText();
 };
+
+void DiagnosticTexts::eventsOfTheTerminalHaveNames()
+{
+    QCOMPARE(DiagnosticText(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_EVENT, CONSOLE_EVENT_LINES_LOST),
+             QString::fromLatin1("Lines lost"));
+}
 
 void DiagnosticTexts::receiverEventsHaveNames_data()
 {
