@@ -57,8 +57,8 @@ struct tagNumber
     const char* unit;
 };
 
-/// A name that the operator gives; see ItemNames.
-struct tagItemName
+/// An item or folder that the operator names; which names are accepted is in the namespace ItemNames.
+struct tagItem
 {
     tagAbout about;
     bool hasExtension; ///< of an item's file; else of a folder
@@ -242,7 +242,7 @@ inline constexpr tagDrive Drives[] = {
      "an absolute path"},
 };
 
-inline constexpr tagItemName ItemNames[] = {
+inline constexpr tagItem Items[] = {
     {{PARAM_ACTIVE_JOB, "active.job", "the active job", "paths of the job, its coverage and reports"}, true, false},
     {{PARAM_ACTIVE_BOUNDARY, "active.boundary", "the active boundary", "its path"}, true, false},
     {{PARAM_ACTIVE_AB_LINE, "active.ab-line", "the active straight guidance line", "its path"}, true, false},

@@ -63,7 +63,7 @@ tagParameter Parameter(const tagDrive& row)
     return parameter;
 }
 
-tagParameter Parameter(const tagItemName& row)
+tagParameter Parameter(const tagItem& row)
 {
     tagParameter parameter = Begin(row.about, PARAMETER_STRING);
     parameter.mostBytes = row.hasExtension ? ItemNames::MostBytesOfItem : ItemNames::MostBytes;
@@ -98,7 +98,7 @@ QList<tagParameter> AllParameters()
     Append(&parameters, Selections);
     Append(&parameters, Numbers);
     Append(&parameters, Drives);
-    Append(&parameters, ParameterRows::ItemNames);
+    Append(&parameters, Items);
     for (const tagColor& row : Colors) {
         parameters.append(ColorParameter(row.day, "day", row, row.firstByDay));
         parameters.append(ColorParameter(row.night, "night", row, row.firstByNight));

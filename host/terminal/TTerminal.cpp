@@ -6,9 +6,9 @@
 #include "region/TRegionSettings.h"
 #include "settings/TSettings.h"
 #include "stores/TPersistenceHold.h"
-#include "terminal/Catalogue.h"
 #include "terminal/DataFolder.h"
 #include "terminal/FirstStartValues.h"
+#include "terminal/Translation.h"
 #include "units/TUnitAbbreviations.h"
 
 #include <QCoreApplication>
@@ -65,7 +65,7 @@ bool TTerminal::Start(const QString& dataFolder, QString* error)
     }
 
     TRegionSettings::InitializeLanguageStrings();
-    InstallCatalogue(m_Translator);
+    InstallTranslation(m_Translator);
     TUnitAbbreviations::Initialize();
     RestoreSettings();
     m_UserLogAccessor = std::make_unique<TOneLineLogAccessor>();

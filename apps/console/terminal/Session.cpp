@@ -5,7 +5,7 @@
 #include "platform/TConfigManager.h"
 #include "region/TRegionSettings.h"
 #include "stores/TPersistenceHold.h"
-#include "terminal/Catalogue.h"
+#include "terminal/Translation.h"
 #include "terminal/DataFolder.h"
 #include "terminal/FirstStartValues.h"
 #include "units/TUnitAbbreviations.h"
@@ -67,6 +67,6 @@ void TSession::UseUnits(TParameterStore& store)
 void TSession::UseOperatorsLanguage()
 {
     TRegionSettings::InitializeLanguageStrings();
-    InstallCatalogue(m_Translator);
+    InstallTranslation(m_Translator);
     TUnitAbbreviations::Initialize();
 }

@@ -1,11 +1,11 @@
-#include "terminal/Catalogue.h"
+#include "terminal/Translation.h"
 
 #include "region/TRegionSettings.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
 
-bool InstallCatalogue(QTranslator& translator)
+bool InstallTranslation(QTranslator& translator)
 {
     const QString extension = TRegionSettings().GetLanguageExtension();
     return translator.load(QLatin1String(":/translations/cabsettings") + extension) &&
