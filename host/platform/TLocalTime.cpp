@@ -2,77 +2,112 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdlib>
 #include <ctime>
 #include <limits>
 
-// The display's clock is the machine's UTC clock plus an offset in seconds. It never sets the machine's own clock, and
-// it keeps away from the machine's time zone: the operator's local time is what the offset makes it, a stored offset
-// means the same after a change to summer time, and no call reads a zone file, which Qt's own date and time would do
-// twice for every log line.
+// The display's clock is the machine's UTC clock plus an offset. Setting it never sets the machine's clock. The clock
+// does not use the machine's time zone: the operator's local time follows from the offset alone, so a stored offset
+// keeps its meaning when summer time begins, and no call reads a zone file, which Qt's own date and time would do twice
+// for every log line.
+//
+// What is promised:
+// - SetDateTime() changes the clock only when it is wrong by a second or more. So the clock stays within a second of
+//   the time that it was set to last, and lines of a receiver that are early or late by less do not move it.
+// - When it changes the clock, the second that was given begins at that moment.
+// - The clock never runs backwards by less than two seconds. It stands still until the time has come.
+// - Offsets are in milliseconds inside and in whole seconds outside, rounded up: after a restart the clock shows the
+//   time that it would have shown, or up to a second more.
 
 namespace {
 
-const qint64 SecondsPerDay = static_cast<qint64>(24) * 60 * 60;
+const qint64 MillisecondsPerSecond = 1000;
+const qint64 MillisecondsPerDay = 24 * 60 * 60 * MillisecondsPerSecond;
+const qint64 NanosecondsPerMillisecond = 1000000;
 const qint64 JulianDayOf1970 = 2440588;
 
-std::atomic<int> Offset{0};
+const qint64 Smallest = std::numeric_limits<qint64>::min();
+const qint64 LongestStandstill = 2 * MillisecondsPerSecond;
 
-struct tagInstant
-{
-    qint64 seconds; ///< since 1970-01-01 00:00 on the machine's clock, UTC
-    int milliseconds;
-};
+std::atomic<qint64> OffsetInMilliseconds{0};
+std::atomic<qint64> StandsUntil{Smallest}; ///< a time that the clock has shown, and does not go behind
 
-tagInstant MachineTime()
+/// Milliseconds since 1970-01-01 00:00 UTC on the machine's clock.
+qint64 MachineTime()
 {
     timespec now = {};
     clock_gettime(CLOCK_REALTIME, &now);
-    return {now.tv_sec, static_cast<int>(now.tv_nsec / 1000000)};
+    return now.tv_sec * MillisecondsPerSecond + now.tv_nsec / NanosecondsPerMillisecond;
 }
 
-/// The display's time as days since 1970 and milliseconds of the day.
-struct tagLocal
+/// The clock's time in milliseconds since 1970-01-01 00:00, local.
+qint64 ShownTime()
 {
-    qint64 day;
-    int milliseconds;
+    // In this order: a new offset is never seen without the standstill that goes with it.
+    const qint64 offset = OffsetInMilliseconds.load();
+    const qint64 stands = StandsUntil.load();
+    const qint64 now = MachineTime() + offset;
+    return now < stands && stands - now <= LongestStandstill ? stands : now;
+}
 
-    QDate Date() const { return QDate::fromJulianDay(JulianDayOf1970 + day); }
-    QTime Time() const { return QTime::fromMSecsSinceStartOfDay(milliseconds); }
+void Change(qint64 offset, qint64 standsUntil)
+{
+    StandsUntil.store(standsUntil);
+    OffsetInMilliseconds.store(offset);
+}
+
+struct tagShown
+{
+    QDate date;
+    QTime time;
 };
 
-tagLocal Now()
+tagShown Now()
 {
-    const tagInstant machine = MachineTime();
-    const qint64 seconds = machine.seconds + Offset.load(std::memory_order_relaxed);
-    const qint64 secondOfDay = (seconds % SecondsPerDay + SecondsPerDay) % SecondsPerDay;
-    return {(seconds - secondOfDay) / SecondsPerDay, static_cast<int>(secondOfDay * 1000) + machine.milliseconds};
+    const qint64 now = ShownTime();
+    const qint64 timeOfDay = (now % MillisecondsPerDay + MillisecondsPerDay) % MillisecondsPerDay;
+    return {QDate::fromJulianDay(JulianDayOf1970 + (now - timeOfDay) / MillisecondsPerDay),
+            QTime::fromMSecsSinceStartOfDay(static_cast<int>(timeOfDay))};
 }
+
+qint64 Milliseconds(int seconds) { return seconds * MillisecondsPerSecond; }
 
 } // namespace
 
-QDate TLocalTime::currentDate() { return Now().Date(); }
-QTime TLocalTime::currentTime() { return Now().Time(); }
+QDate TLocalTime::currentDate() { return Now().date; }
+QTime TLocalTime::currentTime() { return Now().time; }
 
-// Marked as UTC so that no zone of the machine's moves it; the value is the operator's local time.
+// Marked as UTC so that the machine's time zone does not move it; the value is the operator's local time.
 QDateTime TLocalTime::currentDateTime()
 {
-    const tagLocal now = Now();
-    return QDateTime(now.Date(), now.Time(), Qt::UTC);
+    const tagShown now = Now();
+    return QDateTime(now.date, now.time, Qt::UTC);
 }
 
-// A date or time that does not exist leaves the clock as it is; an offset beyond 68 years is cut there.
+// A date or time that does not exist leaves the clock as it is. An offset beyond 68 years is limited to that.
 int TLocalTime::SetDateTime(int year, int month, int day, int hour, int minute, int second)
 {
     const QDate date(year, month, day);
     const QTime time(hour, minute, second);
     if (!date.isValid() || !time.isValid())
         return GetOffset();
-    const qint64 wanted = (date.toJulianDay() - JulianDayOf1970) * SecondsPerDay + QTime(0, 0).secsTo(time);
-    const qint64 offset = wanted - MachineTime().seconds;
-    SetOffset(
-        static_cast<int>(std::clamp<qint64>(offset, std::numeric_limits<int>::min(), std::numeric_limits<int>::max())));
+    const qint64 wanted = (date.toJulianDay() - JulianDayOf1970) * MillisecondsPerDay + time.msecsSinceStartOfDay();
+    const qint64 machine = MachineTime();
+    const qint64 error = machine + OffsetInMilliseconds.load() - wanted;
+    if (std::abs(error) >= MillisecondsPerSecond) {
+        const bool standsStill = error > 0 && error < LongestStandstill;
+        Change(std::clamp(wanted - machine, Milliseconds(std::numeric_limits<int>::min()),
+                          Milliseconds(std::numeric_limits<int>::max())),
+               standsStill ? ShownTime() : Smallest);
+    }
     return GetOffset();
 }
 
-int TLocalTime::GetOffset() { return Offset.load(std::memory_order_relaxed); }
-void TLocalTime::SetOffset(int offset) { Offset.store(offset, std::memory_order_relaxed); }
+int TLocalTime::GetOffset()
+{
+    const qint64 offset = OffsetInMilliseconds.load();
+    const qint64 seconds = offset / MillisecondsPerSecond; // towards zero, which rounds up what is negative
+    return static_cast<int>(seconds + (offset % MillisecondsPerSecond > 0 ? 1 : 0));
+}
+
+void TLocalTime::SetOffset(int offset) { Change(Milliseconds(offset), Smallest); }

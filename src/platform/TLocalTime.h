@@ -17,6 +17,10 @@ public:
 
     /// Sets the clock and returns the offset that now applies to it, in the host's own measure; the library stores the
     /// offset and hands it back to SetOffset() at the next start.
+    ///
+    /// While time comes from GPS this is called once a second, with whole seconds whose lines are early or late by
+    /// parts of a second. The clock must not follow them to and fro: the ready host's clock changes only when it is
+    /// wrong by a second or more, and stands still rather than run backwards by less than two seconds.
     static int SetDateTime(int year, int month, int day, int hour, int minute, int second);
 
     /// The offset in force; 0 means that none has been applied yet.

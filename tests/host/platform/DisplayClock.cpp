@@ -1,15 +1,50 @@
 #include "platform/TLocalTime.h"
+#include "region/TRegionSettingsProxy.h"
+#include "stores/TParameterStore.h"
+#include "terminal/TTerminal.h"
 
 #include <QtTest>
 
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <atomic>
 #include <ctime>
+
+namespace {
+
+const qint64 Running = -1;
+
+// On 32-bit machines times have 64 bits here.
+#ifdef SYS_clock_gettime64
+const long ClockCall = SYS_clock_gettime64;
+#else
+const long ClockCall = SYS_clock_gettime;
+#endif
+
+/// Milliseconds since 1970 at which the machine's clock stands still, or Running.
+std::atomic<qint64> StoppedAt{Running};
+
+} // namespace
+
+/// Takes the place of the C library's function, for the host's library too.
+extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec* now) noexcept
+{
+    const qint64 stoppedAt = StoppedAt;
+    if (clock != CLOCK_REALTIME || stoppedAt == Running)
+        return static_cast<int>(syscall(ClockCall, clock, now));
+    now->tv_sec = static_cast<time_t>(stoppedAt / 1000);
+    now->tv_nsec = static_cast<decltype(now->tv_nsec)>(stoppedAt % 1000 * 1000000);
+    return 0;
+}
 
 class DisplayClock : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { TLocalTime::SetOffset(0); }
+    void init();
+    void cleanup() { StoppedAt = Running; }
 
     void withoutAnOffsetItShowsTheMachinesUtc();
     void anOffsetMovesDateAndTime_data();
@@ -17,6 +52,16 @@ private slots:
     void itShowsWhatItWasSetTo_data();
     void itShowsWhatItWasSetTo();
     void theOffsetBringsASettingBack();
+    void jitterNeverMovesIt_data();
+    void jitterNeverMovesIt();
+    void jitterNeverTurnsItBack_data();
+    void jitterNeverTurnsItBack();
+    void jitterWritesNothingToTheStore();
+    void anErrorOfASecondIsMended_data();
+    void anErrorOfASecondIsMended();
+    void aClockThatStandsStillCanBeSet();
+    void aStoredOffsetShowsTheSameSecondOrTheNext_data();
+    void aStoredOffsetShowsTheSameSecondOrTheNext();
     void whatDoesNotExistLeavesItAlone_data();
     void whatDoesNotExistLeavesItAlone();
     void offsetsBeyondTheRangeAreCut();
@@ -26,11 +71,53 @@ private slots:
 
 namespace {
 
+/// 2024-03-05 14:05:00 UTC.
+const qint64 Base = 1709647500000;
+
+/// When in its second the machine sees a receiver's line, and by how much the following lines are early or late.
+const QList<int> Phases = {0, 1, 2, 250, 500, 750, 997, 998, 999};
+const QList<int> Jitter = {0, 1, -1, 2, -2, 3, 400, -400, 600, -600, 999, -999};
+
+/// From line to line; long enough to keep early and late ones in order.
+const qint64 Step = 2000;
+
+/// The display's time in milliseconds since 1970.
+qint64 Shown() { return TLocalTime::currentDateTime().toMSecsSinceEpoch(); }
+
+int Set(const QDateTime& utc)
+{
+    const QDate date = utc.date();
+    const QTime time = utc.time();
+    return TLocalTime::SetDateTime(date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second());
+}
+
+QDateTime Utc(qint64 milliseconds) { return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC); }
+
+/// Counts what would be written to a disk.
+class TCountingStore : public TParameterStore
+{
+public:
+    int transactions = 0;
+
+protected:
+    bool Persist(const QMap<int, QVariant>&) override
+    {
+        ++transactions;
+        return true;
+    }
+};
+
 /// The display's time between two looks at the machine's clock, as seconds since 1970 in UTC.
 qint64 ShownSeconds() { return TLocalTime::currentDateTime().toMSecsSinceEpoch() / 1000; }
 qint64 MachineSeconds() { return std::time(nullptr); }
 
 } // namespace
+
+void DisplayClock::init()
+{
+    StoppedAt = Running;
+    TLocalTime::SetOffset(0);
+}
 
 void DisplayClock::withoutAnOffsetItShowsTheMachinesUtc()
 {
@@ -105,6 +192,157 @@ void DisplayClock::theOffsetBringsASettingBack()
     TLocalTime::SetOffset(offset);
     QCOMPARE(TLocalTime::currentDate(), QDate(2031, 7, 8));
     QCOMPARE(TLocalTime::currentTime().hour(), 9);
+}
+
+void DisplayClock::jitterNeverMovesIt_data()
+{
+    QTest::addColumn<int>("phase");
+    QTest::addColumn<int>("ahead");
+    for (const int phase : Phases) {
+        for (const int ahead : {2, 3600, -7200, 1000000000})
+            QTest::addRow("at %d ms, %d s ahead", phase, ahead) << phase << ahead;
+    }
+}
+
+void DisplayClock::jitterNeverMovesIt()
+{
+    QFETCH(int, phase);
+    QFETCH(int, ahead);
+    qint64 due = Base + phase;
+    StoppedAt = due;
+    const int offset = Set(Utc(Base + ahead * 1000LL));
+    for (int round = 0; round < 3; ++round) {
+        for (const int jitter : Jitter) {
+            due += Step;
+            StoppedAt = due + jitter;
+            const qint64 before = Shown();
+            QCOMPARE(Set(Utc(due - phase + ahead * 1000LL)), offset);
+            QCOMPARE(Shown(), before);
+        }
+    }
+}
+
+void DisplayClock::jitterNeverTurnsItBack_data()
+{
+    QTest::addColumn<int>("phase");
+    for (const int phase : Phases)
+        QTest::addRow("at %d ms", phase) << phase;
+}
+
+// A stored offset leaves open when the second begins: the clock may be wrong by nearly a second from the start.
+void DisplayClock::jitterNeverTurnsItBack()
+{
+    QFETCH(int, phase);
+    TLocalTime::SetOffset(3600);
+    qint64 due = Base + phase;
+    qint64 last = 0;
+    QSet<int> offsets;
+    for (int round = 0; round < 3; ++round) {
+        for (const int jitter : Jitter) {
+            due += Step;
+            StoppedAt = due + jitter / 2;
+            QVERIFY(Shown() >= last);
+            last = Shown();
+            offsets += Set(Utc(due - phase + 3600 * 1000));
+            QVERIFY(Shown() >= last);
+            last = Shown();
+        }
+    }
+    QVERIFY2(offsets.size() <= 2, "the clock changes once at most");
+}
+
+void DisplayClock::jitterWritesNothingToTheStore()
+{
+    const QTemporaryDir folder;
+    TCountingStore store;
+    TTerminal terminal(store);
+    QString error;
+    const int phase = 999;
+    const int ahead = 30000; // within the minute, which the offset from UTC leaves out
+    qint64 due = Base + phase;
+    StoppedAt = due;
+    QVERIFY2(terminal.Start(folder.path(), &error), qPrintable(error));
+    const auto receive = [](qint64 milliseconds) {
+        QDate date = Utc(milliseconds).date();
+        QTime time = Utc(milliseconds).time();
+        TRegionSettingsProxy().SetUTCTimeAndDate(time, date, true);
+    };
+    receive(Base + ahead);
+    store.transactions = 0;
+    for (const int jitter : Jitter) {
+        due += Step;
+        StoppedAt = due + jitter;
+        receive(due - phase + ahead);
+    }
+    QCOMPARE(store.transactions, 0);
+}
+
+void DisplayClock::anErrorOfASecondIsMended_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<int>("shownError");
+    for (const int error : {0, 1, -1, 500, -500, 999, -999})
+        QTest::addRow("%d ms, kept", error) << error << error;
+    for (const int error : {-1000, -1001, 2000, 2001, 60000, -60000, 86400000, -86400000})
+        QTest::addRow("%d ms, mended", error) << error << 0;
+    for (const int error : {1000, 1001, 1999})
+        QTest::addRow("%d ms, stands still", error) << error << error;
+}
+
+void DisplayClock::anErrorOfASecondIsMended()
+{
+    QFETCH(int, error);
+    QFETCH(int, shownError);
+    StoppedAt = Base + 250;
+    Set(Utc(Base + 60000));
+    QCOMPARE(Shown(), Base + 60000);
+    StoppedAt = Base + 250 + 10000 + error;
+    Set(Utc(Base + 70000));
+    QCOMPARE(Shown(), Base + 70000 + shownError);
+    const bool standsStill = shownError >= 1000;
+    StoppedAt = StoppedAt + 500;
+    QCOMPARE(Shown(), Base + 70000 + shownError + (standsStill ? 0 : 500));
+    StoppedAt = StoppedAt + 2000;
+    QCOMPARE(Shown(), Base + 70000 + 2500 + (standsStill ? 0 : shownError));
+}
+
+void DisplayClock::aClockThatStandsStillCanBeSet()
+{
+    StoppedAt = Base;
+    Set(Utc(Base + 60000));
+    StoppedAt = Base + 1500;
+    Set(Utc(Base + 60000)); // stands still
+    QCOMPARE(Shown(), Base + 61500);
+    Set(Utc(Base + 30000));
+    QCOMPARE(Shown(), Base + 30000);
+    StoppedAt = Base + 3000;
+    Set(Utc(Base + 30000)); // stands still
+    QCOMPARE(Shown(), Base + 31500);
+    TLocalTime::SetOffset(0);
+    QCOMPARE(Shown(), Base + 3000);
+}
+
+void DisplayClock::aStoredOffsetShowsTheSameSecondOrTheNext_data()
+{
+    QTest::addColumn<int>("phase");
+    QTest::addColumn<int>("ahead");
+    for (const int phase : Phases) {
+        for (const int ahead : {2, 3600, -7200})
+            QTest::addRow("at %d ms, %d s ahead", phase, ahead) << phase << ahead;
+    }
+}
+
+void DisplayClock::aStoredOffsetShowsTheSameSecondOrTheNext()
+{
+    QFETCH(int, phase);
+    QFETCH(int, ahead);
+    const qint64 wanted = Base + ahead * 1000LL;
+    StoppedAt = Base + phase;
+    const int offset = Set(Utc(wanted));
+    QCOMPARE(Shown(), wanted);
+    TLocalTime::SetOffset(offset);
+    QCOMPARE(TLocalTime::GetOffset(), offset);
+    QVERIFY(Shown() >= wanted && Shown() < wanted + 1000);
 }
 
 void DisplayClock::whatDoesNotExistLeavesItAlone_data()
