@@ -1,5 +1,8 @@
 #include "stores/DurableFiles.h"
 
+#include "platform/DurableCopy.h"
+
+#include <QByteArray>
 #include <QFileInfo>
 
 #include <cerrno>
@@ -11,30 +14,16 @@
 
 namespace DurableFiles {
 
-namespace {
-
-// What was opened is closed again whether or not it could be synced; the reason is that of the first failure.
-bool Sync(const QString& path, int flags, QString* reason)
+// Not strerror(), which translates to the machine's language.
+QString SystemText()
 {
-    const int file = open(path.toUtf8().constData(), flags | O_CLOEXEC);
-    const bool isSynced = file >= 0 && fsync(file) == 0;
-    if (!isSynced)
-        *reason = SystemReason(QLatin1String("cannot sync"), path);
-    if (file >= 0)
-        close(file);
-    return isSynced;
+    const char* const text = strerrordesc_np(errno);
+    return text ? QString::fromLatin1(text) : QString::fromLatin1("error %1").arg(errno);
 }
-
-bool SyncFolderOf(const QString& path, QString* reason)
-{
-    return Sync(QFileInfo(path).path(), O_RDONLY | O_DIRECTORY, reason);
-}
-
-} // namespace
 
 QString SystemReason(const QString& doing, const QString& path)
 {
-    return QString::fromLatin1("%1 %2: %3").arg(doing, path, QString::fromLocal8Bit(std::strerror(errno)));
+    return QString::fromLatin1("%1 %2: %3").arg(doing, path, SystemText());
 }
 
 bool Identify(const QString& path, tagIdentity* identity)
@@ -52,13 +41,35 @@ bool Exists(const QString& path)
     return Identify(path, &identity);
 }
 
-bool SyncContent(const QString& path, QString* reason) { return Sync(path, O_RDONLY, reason); }
+bool SyncContent(const QString& path, QString* reason)
+{
+    const int file = open(path.toUtf8().constData(), O_RDONLY | O_CLOEXEC);
+    const bool isSynced = file >= 0 && fsync(file) == 0;
+    if (!isSynced)
+        *reason = SystemReason(QLatin1String("cannot sync"), path);
+    if (file >= 0)
+        close(file);
+    return isSynced;
+}
 
 bool Rename(const QString& source, const QString& target, QString* reason)
 {
-    if (std::rename(source.toUtf8().constData(), target.toUtf8().constData()) == 0)
-        return SyncFolderOf(target, reason);
-    *reason = SystemReason(QLatin1String("cannot rename"), source);
+    if (std::rename(source.toUtf8().constData(), target.toUtf8().constData()) != 0) {
+        *reason = SystemReason(QLatin1String("cannot rename"), source);
+        return false;
+    }
+    const QString folder = QFileInfo(target).path();
+    if (SyncFolder(folder.toUtf8()))
+        return true;
+    *reason = SystemReason(QLatin1String("cannot sync"), folder);
+    return false;
+}
+
+bool Copy(const QString& source, const QString& target, QString* reason)
+{
+    if (CopyDurably(source.toUtf8(), target.toUtf8(), false))
+        return true;
+    *reason = SystemReason(QLatin1String("cannot copy"), source);
     return false;
 }
 

@@ -4,22 +4,25 @@
 
 #include <sys/types.h>
 
-/// File operations that are on the disk when they return. Names go to the system in UTF-8, as the database passes them.
-/// Those that can fail give a reason that names the file.
+/// File operations whose result is on the disk when they return. Names are passed to the system in UTF-8, as the
+/// database passes them. Operations that can fail give a reason that names the file.
 namespace DurableFiles {
 
 bool Exists(const QString& path);
 
-/// Waits until the disk holds the content of a file.
+/// Waits until the content of a file is on the disk.
 bool SyncContent(const QString& path, QString* reason);
 
-/// Renames within a folder, replacing @p target.
+/// Renames a file within its folder; an existing @p target is replaced.
 bool Rename(const QString& source, const QString& target, QString* reason);
 
-/// True also when there was no such file.
+/// Copies a file. Returns false when @p target exists.
+bool Copy(const QString& source, const QString& target, QString* reason);
+
+/// Removes a file. Returns true when there is no such file.
 bool Remove(const QString& path, QString* reason);
 
-/// Which file it is that a name stands for, whatever happens to the name later.
+/// Identifies a file, whatever happens to its name later.
 struct tagIdentity
 {
     dev_t device;
@@ -28,10 +31,13 @@ struct tagIdentity
     bool operator==(const tagIdentity& other) const { return device == other.device && number == other.number; }
 };
 
-/// False when there is no such file.
+/// The identity of the file that @p path names. Returns false when there is no such file.
 bool Identify(const QString& path, tagIdentity* identity);
 
-/// "@p doing @p path: ..." with the system's words for the error that has just occurred.
+/// The system's text for the value of errno, in English.
+QString SystemText();
+
+/// "@p doing @p path: " and SystemText().
 QString SystemReason(const QString& doing, const QString& path);
 
 } // namespace DurableFiles

@@ -1,5 +1,6 @@
 #include "stores/StoreHeader.h"
 
+#include "stores/DurableFiles.h"
 #include "stores/StoreTable.h"
 
 #include <QtEndian>
@@ -50,7 +51,7 @@ tagStoreFinding RecogniseStoreFile(const QString& path)
             return {STORE_FILE_MISSING, QLatin1String("missing")};
         if (errno == EIO)
             return {STORE_FILE_FOREIGN, QLatin1String("a file whose beginning cannot be read")};
-        return {STORE_FILE_INACCESSIBLE, QString::fromLocal8Bit(std::strerror(errno))};
+        return {STORE_FILE_INACCESSIBLE, DurableFiles::SystemText()};
     }
     if (length == 0)
         return {STORE_FILE_EMPTY, QLatin1String("an empty file")};

@@ -5,9 +5,9 @@
 #include "platform/TConfigManager.h"
 #include "region/TRegionSettings.h"
 #include "stores/TPersistenceHold.h"
-#include "terminal/Translation.h"
 #include "terminal/DataFolder.h"
 #include "terminal/FirstStartValues.h"
+#include "terminal/Translation.h"
 #include "units/TUnitAbbreviations.h"
 
 #include <QDir>

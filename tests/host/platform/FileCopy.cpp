@@ -1,9 +1,16 @@
+#include "FolderSyncError.h"
 #include "platform/TFileSystemHelper.h"
 
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <thread>
 
 class FileCopy : public QObject
 {
@@ -22,11 +29,22 @@ private slots:
     void permissionsFollowTheSource();
     void copyingAFileOntoItselfKeepsIt();
     void aFullDiskKeepsTheOldFile();
+    void whatAKilledCopyLeftIsRemovedByTheNext();
+    void aCopyOfAnotherProcessGoesOn();
+    void aCopyOfAnotherThreadGoesOn();
+    void otherHiddenFilesStay();
+    void copiesAtTheSameTimeAllSucceed();
+    void aFolderNeedNotBeSynced_data();
+    void aFolderNeedNotBeSynced();
     void extensionsAreLowerCaseWithOneDot_data();
     void extensionsAreLowerCaseWithOneDot();
 
 private:
     QString Path(const char* name) const { return m_Folder->filePath(QString::fromUtf8(name)); }
+    QStringList Hidden() const
+    {
+        return QDir(m_Folder->path()).entryList({QLatin1String(".cabsettings-copy-*")}, QDir::Files | QDir::Hidden);
+    }
 
     QScopedPointer<QTemporaryDir> m_Folder;
 };
@@ -46,9 +64,81 @@ QByteArray Read(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
+const rlim_t SizeLimit = 100000;
+const int BeyondLimit = 300000;
+
+/// From here on a file of this process cannot grow beyond SizeLimit: the write that tries raises SIGXFSZ.
+void LimitFiles()
+{
+    struct rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = SizeLimit;
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+/// The opposite of LimitFiles().
+void UnlimitFiles()
+{
+    struct rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = limit.rlim_max;
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+int Reached[2]; ///< a pipe: gets a byte when a copy has reached the limit
+int GoOn[2];    ///< a pipe: a copy at the limit goes on when its writing end is closed
+
+void StopAtLimit(int)
+{
+    char byte = 0;
+    if (write(Reached[1], &byte, 1) == 1 && read(GoOn[0], &byte, 1) != 0)
+        _exit(EXIT_FAILURE);
+}
+
+/// How this program runs again as a process that copies.
+const QLatin1String Copy("--copy");               ///< ends when it has copied
+const QLatin1String CopyAndDie("--copy-and-die"); ///< is killed in the middle
+const QLatin1String
+    CopyAndStop("--copy-and-stop"); ///< tells on its standard output that it is in the middle, and stays
+
+int RunCopy(const QStringList& arguments)
+{
+    struct rlimit none = {0, 0};
+    setrlimit(RLIMIT_CORE, &none);
+    if (arguments.at(1) != Copy)
+        LimitFiles();
+    if (arguments.at(1) == CopyAndStop) {
+        Reached[1] = STDOUT_FILENO;
+        if (pipe(GoOn) != 0)
+            return 2;
+        signal(SIGXFSZ, StopAtLimit);
+    }
+    return TFileSystemHelper::FileCopy(arguments.at(2), arguments.at(3), true) ? 0 : 1;
+}
+
+/// A process that copies. Ended when it is destroyed.
+class TCopyProcess : public QProcess
+{
+public:
+    TCopyProcess(const QString& how, const QString& source, const QString& target)
+    {
+        setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        start(QCoreApplication::applicationFilePath(), {how, source, target});
+    }
+    ~TCopyProcess() override
+    {
+        kill();
+        waitForFinished();
+    }
+};
+
 } // namespace
 
-void FileCopy::init() { m_Folder.reset(new QTemporaryDir); }
+void FileCopy::init()
+{
+    m_Folder.reset(new QTemporaryDir);
+    FolderSyncError = 0;
+}
 
 void FileCopy::theCopyIsComplete_data()
 {
@@ -144,13 +234,123 @@ void FileCopy::aFullDiskKeepsTheOldFile()
     const QString program = QCoreApplication::applicationFilePath();
     QProcess copy;
     copy.setProcessChannelMode(QProcess::ForwardedChannels);
-    copy.start(QLatin1String("sh"),
-               {QLatin1String("-c"), QLatin1String("trap '' XFSZ; ulimit -f 100; exec \"$@\""), QLatin1String("sh"),
-                program, QLatin1String("--copy"), Path("source"), Path("target")});
+    copy.start(QLatin1String("sh"), {QLatin1String("-c"), QLatin1String("trap '' XFSZ; ulimit -f 100; exec \"$@\""),
+                                     QLatin1String("sh"), program, Copy, Path("source"), Path("target")});
     QVERIFY(copy.waitForFinished());
     QCOMPARE(copy.exitCode(), 1);
     QCOMPARE(Read(Path("target")), QByteArray("old"));
     QCOMPARE(QDir(m_Folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void FileCopy::whatAKilledCopyLeftIsRemovedByTheNext()
+{
+    Write(Path("source"), QByteArray(BeyondLimit, 'n'));
+    for (int i = 0; i < 2; ++i) {
+        TCopyProcess copy(CopyAndDie, Path("source"), Path("target"));
+        QVERIFY(copy.waitForFinished());
+        QCOMPARE(copy.exitStatus(), QProcess::CrashExit);
+        QCOMPARE(Hidden().size(), 1);
+    }
+    QVERIFY(!QFileInfo::exists(Path("target")));
+    QVERIFY(TFileSystemHelper::FileCopy(Path("source"), Path("target"), true));
+    QCOMPARE(Hidden(), QStringList());
+    QCOMPARE(Read(Path("target")).size(), BeyondLimit);
+}
+
+void FileCopy::aCopyOfAnotherProcessGoesOn()
+{
+    Write(Path("source"), QByteArray(BeyondLimit, 'n'));
+    {
+        TCopyProcess copy(CopyAndStop, Path("source"), Path("target"));
+        QVERIFY(copy.waitForReadyRead());
+        const QStringList running = Hidden();
+        QCOMPARE(running.size(), 1);
+        QVERIFY(TFileSystemHelper::FileCopy(Path("source"), Path("other"), true));
+        QCOMPARE(Hidden(), running);
+    }
+    QCOMPARE(Hidden().size(), 1);
+    QVERIFY(TFileSystemHelper::FileCopy(Path("source"), Path("other"), true));
+    QCOMPARE(Hidden(), QStringList());
+}
+
+void FileCopy::aCopyOfAnotherThreadGoesOn()
+{
+    Write(Path("source"), QByteArray(BeyondLimit, 'n'));
+    Write(Path("small"), "s");
+    QCOMPARE(pipe(Reached), 0);
+    QCOMPARE(pipe(GoOn), 0);
+    LimitFiles();
+    signal(SIGXFSZ, StopAtLimit);
+    bool isCopied = true;
+    std::thread thread([&] { isCopied = TFileSystemHelper::FileCopy(Path("source"), Path("target"), true); });
+    char byte = 0;
+    const bool isReached = read(Reached[0], &byte, 1) == 1;
+    const QStringList running = Hidden();
+    const bool isOtherCopied = TFileSystemHelper::FileCopy(Path("small"), Path("other"), true);
+    const QStringList afterwards = Hidden();
+    close(GoOn[1]);
+    thread.join();
+    signal(SIGXFSZ, SIG_DFL);
+    UnlimitFiles();
+
+    QVERIFY(isReached);
+    QVERIFY(isOtherCopied);
+    QCOMPARE(running.size(), 1);
+    QCOMPARE(afterwards, running);
+    QVERIFY(!isCopied); // the limit
+    QCOMPARE(Hidden(), QStringList());
+}
+
+void FileCopy::otherHiddenFilesStay()
+{
+    Write(Path("source"), "x");
+    for (const char* name : {".cabsettings-copy-12345", ".cabsettings-copy-1234567", ".copy-123456", ".hidden"})
+        Write(Path(name), "somebody's");
+    QVERIFY(QDir().mkdir(Path(".cabsettings-copy-folder")));
+    QVERIFY(QFile::link(Path("source"), Path(".cabsettings-copy-linked")));
+    const QDir folder(m_Folder->path());
+    const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    const QStringList before = folder.entryList(all);
+    QVERIFY(TFileSystemHelper::FileCopy(Path("source"), Path("source"), true));
+    QCOMPARE(QDir(m_Folder->path()).entryList(all), before);
+}
+
+void FileCopy::copiesAtTheSameTimeAllSucceed()
+{
+    Write(Path("source"), QByteArray(10000, 'n'));
+    const int threads = 4;
+    const int copies = 200;
+    std::atomic<int> succeeded{0};
+    std::vector<std::thread> workers;
+    for (int number = 0; number < threads; ++number)
+        workers.emplace_back([&, number] {
+            const QString target = Path("target") + QString::number(number);
+            for (int i = 0; i < copies; ++i)
+                succeeded += TFileSystemHelper::FileCopy(Path("source"), target, true) ? 1 : 0;
+        });
+    for (std::thread& worker : workers)
+        worker.join();
+    QCOMPARE(succeeded.load(), threads * copies);
+    QCOMPARE(Hidden(), QStringList());
+}
+
+void FileCopy::aFolderNeedNotBeSynced_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<bool>("isCopied");
+    QTest::newRow("EINVAL") << EINVAL << true;
+    QTest::newRow("ENOTSUP") << ENOTSUP << true;
+    QTest::newRow("ENOSYS") << ENOSYS << true;
+    QTest::newRow("EIO") << EIO << false;
+}
+
+void FileCopy::aFolderNeedNotBeSynced()
+{
+    QFETCH(int, error);
+    QFETCH(bool, isCopied);
+    Write(Path("source"), "x");
+    FolderSyncError = error;
+    QCOMPARE(TFileSystemHelper::FileCopy(Path("source"), Path("target"), true), isCopied);
 }
 
 void FileCopy::extensionsAreLowerCaseWithOneDot_data()
@@ -177,8 +377,8 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--copy"))
-        return TFileSystemHelper::FileCopy(arguments.value(2), arguments.value(3), true) ? 0 : 1;
+    if (arguments.size() == 4 && arguments.at(1).startsWith(Copy))
+        return RunCopy(arguments);
     FileCopy test;
     return QTest::qExec(&test, argc, argv);
 }

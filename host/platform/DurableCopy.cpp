@@ -1,0 +1,112 @@
+#include "platform/DurableCopy.h"
+
+#include "platform/TUnfinishedCopy.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <iterator>
+
+namespace {
+
+/// What file systems answer that cannot sync a folder, or do not let it be opened.
+constexpr int CannotSyncFolders[] = {EINVAL, ENOTSUP, ENOSYS, EBADF, EACCES, EPERM};
+
+/// A file descriptor that is closed at the end of its scope, with errno left as it was.
+class TDescriptor
+{
+public:
+    explicit TDescriptor(int fd) : m_Fd(fd) {}
+    ~TDescriptor()
+    {
+        const int error = errno;
+        if (m_Fd >= 0)
+            close(m_Fd);
+        errno = error;
+    }
+    TDescriptor(const TDescriptor&) = delete;
+    TDescriptor& operator=(const TDescriptor&) = delete;
+
+    int Get() const { return m_Fd; }
+    bool IsOpen() const { return m_Fd >= 0; }
+
+private:
+    const int m_Fd;
+};
+
+bool WriteAll(int fd, const char* data, ssize_t length)
+{
+    while (length > 0) {
+        const ssize_t written = write(fd, data, static_cast<std::size_t>(length));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        data += written;
+        length -= written;
+    }
+    return true;
+}
+
+bool CopyContents(int from, int to)
+{
+    std::array<char, 0x10000> buffer;
+    for (;;) {
+        const ssize_t count = read(from, buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return count == 0;
+        if (!WriteAll(to, buffer.data(), count))
+            return false;
+    }
+}
+
+bool FillAndSync(const QByteArray& source, int to)
+{
+    const TDescriptor from(open(source.constData(), O_RDONLY | O_CLOEXEC));
+    struct stat status = {};
+    if (!from.IsOpen() || fstat(from.Get(), &status) != 0)
+        return false;
+    if (!S_ISREG(status.st_mode)) {
+        errno = EINVAL;
+        return false;
+    }
+    // The copy is as readable as its source. FAT has no permissions, which is no reason to fail.
+    static_cast<void>(fchmod(to, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
+    return CopyContents(from.Get(), to) && fsync(to) == 0;
+}
+
+QByteArray FolderOf(const QByteArray& path)
+{
+    const int separator = static_cast<int>(path.lastIndexOf('/'));
+    if (separator < 0)
+        return QByteArray(".");
+    return separator == 0 ? QByteArray("/") : path.left(separator);
+}
+
+} // namespace
+
+bool CopyDurably(const QByteArray& source, const QByteArray& target, bool overwrite)
+{
+    if (!overwrite && access(target.constData(), F_OK) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    const QByteArray folder = FolderOf(target);
+    TUnfinishedCopy copy(folder);
+    return copy.Descriptor() >= 0 && FillAndSync(source, copy.Descriptor()) && copy.MoveTo(target, overwrite) &&
+           SyncFolder(folder);
+}
+
+bool SyncFolder(const QByteArray& folder)
+{
+    const TDescriptor fd(open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (fd.IsOpen() && fsync(fd.Get()) == 0)
+        return true;
+    return std::find(std::begin(CannotSyncFolders), std::end(CannotSyncFolders), errno) != std::end(CannotSyncFolders);
+}

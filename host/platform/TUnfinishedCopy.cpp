@@ -1,0 +1,123 @@
+#include "platform/TUnfinishedCopy.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+const char Prefix[] = "/.cabsettings-copy-";
+const char Placeholder[] = "XXXXXX"; // replaced by mkostemp()
+const int Attempts = 10;
+
+/// Whether @p path names the open, regular file @p descriptor.
+bool IsNamed(const QByteArray& path, int descriptor)
+{
+    struct stat named = {};
+    struct stat opened = {};
+    return lstat(path.constData(), &named) == 0 && fstat(descriptor, &opened) == 0 && S_ISREG(opened.st_mode) &&
+           named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
+}
+
+void RemoveUnlessInUse(const QByteArray& path)
+{
+    const int file = open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0)
+        return;
+    if (flock(file, LOCK_EX | LOCK_NB) == 0 && IsNamed(path, file))
+        unlink(path.constData());
+    close(file);
+}
+
+void RemoveLeftovers(const QByteArray& folder)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.constData()), closedir);
+    if (!entries)
+        return;
+    const QByteArray pattern = QByteArray(Prefix) + Placeholder;
+    while (const dirent* entry = readdir(entries.get())) {
+        const QByteArray name = QByteArray("/") + entry->d_name;
+        if (name.startsWith(Prefix) && name.size() == pattern.size())
+            RemoveUnlessInUse(folder + name);
+    }
+}
+
+/// Renames a file unless @p target exists. FAT drivers of older kernels have no such operation; there, another program
+/// may make the target between the test and the renaming.
+bool RenameWithoutReplacing(const QByteArray& source, const QByteArray& target)
+{
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    if (access(target.constData(), F_OK) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return rename(source.constData(), target.constData()) == 0;
+}
+
+} // namespace
+
+TUnfinishedCopy::TUnfinishedCopy(const QByteArray& folder) : m_Descriptor(-1)
+{
+    RemoveLeftovers(folder);
+    for (int attempt = 0; attempt < Attempts && m_Descriptor < 0 && Make(folder); ++attempt)
+        LockOrDrop();
+}
+
+TUnfinishedCopy::~TUnfinishedCopy()
+{
+    const int error = errno;
+    if (!m_Path.isEmpty())
+        unlink(m_Path.constData());
+    Close();
+    errno = error;
+}
+
+bool TUnfinishedCopy::Make(const QByteArray& folder)
+{
+    m_Path = folder + Prefix + Placeholder;
+    m_Descriptor = mkostemp(m_Path.data(), O_CLOEXEC);
+    if (m_Descriptor < 0)
+        m_Path.clear();
+    return m_Descriptor >= 0;
+}
+
+// Another process that removes leftovers may find the new file before it is locked, and then removes it. Where a file
+// system has no locks, no leftovers are removed.
+void TUnfinishedCopy::LockOrDrop()
+{
+    const bool isLockedElsewhere = flock(m_Descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    struct stat status = {};
+    const bool isRemoved = fstat(m_Descriptor, &status) == 0 && status.st_nlink == 0;
+    if (isLockedElsewhere || isRemoved) {
+        Close();
+        m_Path.clear();
+        errno = EWOULDBLOCK;
+    }
+}
+
+void TUnfinishedCopy::Close()
+{
+    if (m_Descriptor >= 0)
+        close(m_Descriptor);
+    m_Descriptor = -1;
+}
+
+// The file stays locked until it has its new name.
+bool TUnfinishedCopy::MoveTo(const QByteArray& target, bool overwrite)
+{
+    const bool isMoved =
+        overwrite ? rename(m_Path.constData(), target.constData()) == 0 : RenameWithoutReplacing(m_Path, target);
+    if (isMoved)
+        m_Path.clear();
+    return isMoved;
+}
