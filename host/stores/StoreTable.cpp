@@ -4,19 +4,22 @@
 
 #include <QByteArray>
 #include <QCryptographicHash>
+#include <QStringList>
 
 namespace StoreTable {
 
 namespace {
 
-// Every file of this schema carries exactly this text, which is therefore never reworded.
+// Part of every file of this schema, and compared with it: the text must not change.
 const QString Schema = QLatin1String("CREATE TABLE parameters (id INTEGER PRIMARY KEY, type TEXT NOT NULL, "
                                      "value TEXT NOT NULL, digest TEXT)");
 
+const QString Removal = QLatin1String("DELETE FROM parameters WHERE id = ?");
+
 constexpr int DigestLength = 16;
 
-// SQLite checks the structure of its file, not the bytes of the values. A row that was written by hand may go without
-// (NULL), so that a value can be repaired with the shell of SQLite.
+// SQLite checks the structure of its file, not the bytes of the values. A row without a digest (NULL) is accepted, so
+// that a value can be edited with the shell of SQLite.
 QString Digest(qlonglong id, const tagStoredValue& stored)
 {
     const QString text = QString::fromLatin1("%1 %2 ").arg(id).arg(stored.type) + stored.text;
@@ -26,7 +29,7 @@ QString Digest(qlonglong id, const tagStoredValue& stored)
 
 tagStoreFinding Damaged(const QString& words) { return {STORE_FILE_DAMAGED, words}; }
 
-// The connection's failure if there is one, else the finding itself.
+// The failure of the connection if there is one, else the finding itself.
 tagStoreFinding Verdict(TSqliteConnection& connection, const tagStoreFinding& finding)
 {
     const TSqliteConnection::tagFailure failure = connection.TakeFailure();
@@ -51,24 +54,49 @@ tagStoreFinding CheckStructure(TSqliteConnection& connection)
     return {STORE_FILE_CLEAN, QString()};
 }
 
-tagStoreFinding CheckRows(TSqliteConnection& connection, tagContent* content)
+void ReadInto(TSqliteConnection& connection, tagContent* content)
 {
     const auto rows = connection.Run(QLatin1String("SELECT id, type, value, digest FROM parameters"));
     for (const TSqliteConnection::TRow& row : rows) {
-        const qlonglong id = row.at(0).toLongLong();
+        const qlonglong number = row.at(0).toLongLong();
+        const int id = static_cast<int>(number);
         const tagStoredValue stored = {row.at(1).toString(), row.at(2).toString()};
-        if (!row.at(3).isNull() && row.at(3).toString() != Digest(id, stored))
-            return Damaged(QString::fromLatin1("its parameter %1 does not match its digest").arg(id));
-        if (id != static_cast<int>(id))
-            continue; // written by hand, it is no parameter's
         QVariant value;
-        if (DecodeValue(stored, &value))
-            content->values.insert(static_cast<int>(id), value);
+        if (!row.at(3).isNull() && row.at(3).toString() != Digest(number, stored))
+            content->damaged.append(number);
+        else if (!IsParameter(number))
+            continue;
+        else if (DecodeValue(stored, &value))
+            content->values.insert(id, value);
         else
-            content->unreadable.insert(static_cast<int>(id),
-                                       QString::fromLatin1("%1 \"%2\"").arg(stored.type, stored.text));
+            content->unreadable.insert(id, QString::fromLatin1("%1 \"%2\"").arg(stored.type, stored.text));
     }
-    return {STORE_FILE_CLEAN, QString()};
+}
+
+void WriteRows(TSqliteConnection& connection, const QMap<int, QVariant>& changes)
+{
+    for (auto change = changes.constBegin(); change != changes.constEnd(); ++change) {
+        const int id = change.key();
+        tagStoredValue stored;
+        if (EncodeValue(change.value(), &stored))
+            connection.Run(QLatin1String("INSERT OR REPLACE INTO parameters VALUES (?, ?, ?, ?)"),
+                           {id, stored.type, stored.text, Digest(id, stored)});
+        else
+            connection.Run(Removal, {id});
+    }
+}
+
+void Begin(TSqliteConnection& connection) { connection.Run(QLatin1String("BEGIN IMMEDIATE")); }
+
+QString Commit(TSqliteConnection& connection)
+{
+    connection.Run(QLatin1String("COMMIT"));
+    QString reason = connection.TakeFailure().text;
+    if (!reason.isEmpty()) {
+        connection.Run(QLatin1String("ROLLBACK")); // fails where the failure has rolled back already
+        connection.TakeFailure();
+    }
+    return reason;
 }
 
 } // namespace
@@ -90,28 +118,34 @@ tagStoreFinding Read(TSqliteConnection& connection, tagContent* content)
 tagStoreFinding ReadRows(TSqliteConnection& connection, tagContent* content)
 {
     *content = {};
-    return Verdict(connection, CheckRows(connection, content));
+    ReadInto(connection, content);
+    return Verdict(connection, {STORE_FILE_CLEAN, QString()});
+}
+
+QString DamageText(const QList<qlonglong>& damaged)
+{
+    if (damaged.size() == 1)
+        return QString::fromLatin1("its parameter %1 does not match its digest").arg(damaged.first());
+    QStringList numbers;
+    for (const qlonglong number : damaged)
+        numbers += QString::number(number);
+    return QString::fromLatin1("its parameters %1 do not match their digests").arg(numbers.join(QLatin1String(", ")));
 }
 
 QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes)
 {
-    connection.Run(QLatin1String("BEGIN IMMEDIATE"));
-    for (auto change = changes.constBegin(); change != changes.constEnd(); ++change) {
-        const int id = change.key();
-        tagStoredValue stored;
-        if (EncodeValue(change.value(), &stored))
-            connection.Run(QLatin1String("INSERT OR REPLACE INTO parameters VALUES (?, ?, ?, ?)"),
-                           {id, stored.type, stored.text, Digest(id, stored)});
-        else
-            connection.Run(QLatin1String("DELETE FROM parameters WHERE id = ?"), {id});
-    }
-    connection.Run(QLatin1String("COMMIT"));
-    QString reason = connection.TakeFailure().text;
-    if (!reason.isEmpty()) {
-        connection.Run(QLatin1String("ROLLBACK")); // fails where the failure has rolled back already
-        connection.TakeFailure();
-    }
-    return reason;
+    Begin(connection);
+    WriteRows(connection, changes);
+    return Commit(connection);
+}
+
+QString Repair(TSqliteConnection& connection, const QList<qlonglong>& damaged, const QMap<int, QVariant>& values)
+{
+    Begin(connection);
+    for (const qlonglong number : damaged)
+        connection.Run(Removal, {number});
+    WriteRows(connection, values);
+    return Commit(connection);
 }
 
 } // namespace StoreTable

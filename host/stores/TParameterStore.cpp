@@ -23,7 +23,7 @@ void Assign(QMap<int, QVariant>* values, int id, const QVariant& value)
 
 } // namespace
 
-TParameterStore::TParameterStore() : m_Revision(0), m_HoldCount(0) {}
+TParameterStore::TParameterStore() : m_Revision(0) {}
 TParameterStore::~TParameterStore() = default;
 
 bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool persist)
@@ -37,7 +37,7 @@ bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool pers
     }
 
     const QMutexLocker disk(&m_DiskMutex);
-    if (m_HoldCount > 0)
+    if (!m_Holds.isEmpty())
         return true;
     {
         // While this thread waited, another one's transaction may have taken the wish along.
@@ -89,31 +89,56 @@ quint64 TParameterStore::Revision() const
 void TParameterStore::HoldPersistence()
 {
     const QMutexLocker disk(&m_DiskMutex);
-    ++m_HoldCount;
+    const QReadLocker memory(&m_MemoryLock);
+    m_Holds.append({m_Values, m_Wishes});
 }
 
 bool TParameterStore::ReleasePersistence()
 {
     const QMutexLocker disk(&m_DiskMutex);
-    if (m_HoldCount > 0)
-        --m_HoldCount;
-    if (m_HoldCount > 0)
+    if (!m_Holds.isEmpty())
+        m_Holds.removeLast();
+    return PersistAfterHold();
+}
+
+bool TParameterStore::AbandonPersistence()
+{
+    const QMutexLocker disk(&m_DiskMutex);
+    if (!m_Holds.isEmpty()) {
+        const tagHold hold = m_Holds.takeLast();
+        const QWriteLocker memory(&m_MemoryLock);
+        m_Values = hold.values;
+        m_Wishes = hold.wishes;
+        ++m_Revision;
+    }
+    return PersistAfterHold();
+}
+
+// Under m_DiskMutex.
+bool TParameterStore::PersistAfterHold()
+{
+    if (!m_Holds.isEmpty())
         return true;
-    DropFulfilledWishes(); // before anything that others have done in the meantime is known
+    DropFulfilledWishes(); // before the changes of other programs are taken in
     return PersistWishes(0, AnyNumber);
 }
 
-void TParameterStore::TakeStored(const QMap<int, QVariant>& values, const QSet<int>& unreadable)
+void TParameterStore::TakeStored(const QMap<int, QVariant>& values, const QSet<int>& unreadable,
+                                 const QSet<int>& damaged)
 {
-    // Compared before memory is locked: it is a long while for those who read.
+    // Compared before memory is locked, because readers wait for that lock.
+    QSet<int> absent = unreadable;
+    QSet<int> rescued;
+    for (const int id : damaged)
+        (m_OnDisk.contains(id) ? rescued : absent).insert(id);
     QMap<int, QVariant> news;
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         if (!IsSameValue(value.value(), m_OnDisk.value(value.key())))
             news.insert(value.key(), value.value());
     for (auto former = m_OnDisk.constBegin(); former != m_OnDisk.constEnd(); ++former)
-        if (!values.contains(former.key()))
+        if (!values.contains(former.key()) && !rescued.contains(former.key()))
             news.insert(former.key(), QVariant());
-    for (const int id : unreadable)
+    for (const int id : absent)
         if (!m_UnknownOnDisk.contains(id))
             news.insert(id, QVariant());
 
@@ -121,28 +146,33 @@ void TParameterStore::TakeStored(const QMap<int, QVariant>& values, const QSet<i
     for (auto parameter = news.constBegin(); parameter != news.constEnd(); ++parameter) {
         const int id = parameter.key();
         Assign(&m_OnDisk, id, parameter.value());
-        if (unreadable.contains(id))
+        if (absent.contains(id))
             m_UnknownOnDisk.insert(id);
         else if (!m_Wishes.contains(id))
             m_UnknownOnDisk.remove(id);
         if (!m_Wishes.contains(id))
             Remember(id, parameter.value());
     }
+    for (const int id : m_Rescued)
+        if (!rescued.contains(id) && !m_Wishes.contains(id))
+            m_UnknownOnDisk.remove(id);
+    m_Rescued = rescued;
+    m_UnknownOnDisk += rescued;
 }
 
 void TParameterStore::LookAtDisk()
 {
     const QMutexLocker disk(&m_DiskMutex);
-    if (m_HoldCount == 0)
+    if (m_Holds.isEmpty())
         CatchUp();
 }
 
 bool TParameterStore::PersistOutstanding()
 {
     const QMutexLocker disk(&m_DiskMutex);
-    if (m_HoldCount > 0)
+    if (!m_Holds.isEmpty())
         return false;
-    return Wishes(0, AnyNumber).isEmpty() || PersistWishes(0, AnyNumber);
+    return (Wishes(0, AnyNumber).isEmpty() && m_Rescued.isEmpty()) || PersistWishes(0, AnyNumber);
 }
 
 // Under m_MemoryLock.
@@ -158,7 +188,10 @@ bool TParameterStore::PersistWishes(int minFailures, int maxFailures)
     const bool isKnown = CatchUp();
     if (isKnown)
         DropFulfilledWishes();
-    const QMap<int, QVariant> changes = Wishes(minFailures, maxFailures);
+    QMap<int, QVariant> changes = Wishes(minFailures, maxFailures);
+    for (const int id : m_Rescued)
+        if (!changes.contains(id))
+            changes.insert(id, m_OnDisk.value(id));
     if (changes.isEmpty())
         return true;
     const bool done = isKnown && Persist(changes);
@@ -195,6 +228,7 @@ void TParameterStore::Settle(const QMap<int, QVariant>& changes, bool done)
         if (done) {
             Assign(&m_OnDisk, id, change.value());
             m_UnknownOnDisk.remove(id);
+            m_Rescued.remove(id);
         } else {
             m_UnknownOnDisk.insert(id); // a transaction that failed in its last step may yet be found after a restart
         }

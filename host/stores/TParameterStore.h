@@ -9,16 +9,24 @@
 #include <QSet>
 #include <QString>
 #include <QVariant>
+#include <QVector>
 
-/// A parameter store that answers from memory and hands what is to survive a restart to a derived class.
+/// A parameter store that keeps all values in memory. A derived class writes the persistent ones to a disk.
 ///
-/// Every operation may be called from any thread at any time. Reads never wait for a disk. A persistent write waits
-/// until the disk has taken it; writes that wait at the same time share a transaction. No store calls back into the
-/// library's façades: some writes arrive under a lock of the library.
+/// @code
+/// store.SetParameter(PARAM_METRIC, true, true); // true when the value is on the disk
+/// const bool isMetric = store.GetParameter(PARAM_METRIC).toBool();
+/// const QMap<int, QVariant> all = store.Values();
+/// @endcode
 ///
-/// Other programs may change what is on the disk. Their changes come into memory, value by value: the last writer of a
-/// parameter wins, writers of different parameters do not meet. A value of this store's that has yet to reach the disk
-/// is later than theirs. A value that was set in memory alone stays until somebody else changes that very parameter.
+/// Every operation may be called from any thread at any time. A read never waits for the disk. A persistent write waits
+/// until the value is on the disk; writes that wait at the same time share one transaction. A store does not call the
+/// library's façades, because some writes arrive while a lock of the library is held.
+///
+/// Other programs may write to the same disk. Their changes are taken into memory one parameter at a time: for each
+/// parameter the last writer wins, and changes to different parameters do not affect each other. A value that waits to
+/// be written counts as later than a value that another program has written. A value that was set in memory alone stays
+/// until another program changes the same parameter.
 class CABHOST_EXPORT TParameterStore : public TConfigManager
 {
 public:
@@ -28,11 +36,13 @@ public:
     TParameterStore(const TParameterStore&) = delete;
     TParameterStore& operator=(const TParameterStore&) = delete;
 
-    /// Stores @p value under @p id; an invalid variant removes the parameter. Memory takes the value in every case.
+    /// Stores @p value under @p id; an invalid variant removes the parameter. The value in memory changes in every
+    /// case.
     /// @param persist false changes memory alone: after a restart the parameter has its last persistent value again.
-    /// @return whether the value is stored as asked: false when it was to persist and is not on the disk. It is tried
-    ///         again as soon as another write succeeds, when a hold ends, and at closing. Setting what is on the disk
-    ///         already does no disk work. True while persistence is held; then the release tells.
+    /// @return true when the value is stored as asked. False when it was to persist and is not on the disk. It is then
+    ///         tried again after the next write that succeeds, at the end of a hold, and when the store is closed.
+    ///         Setting the value that is already on the disk does not write to it. While persistence is held the result
+    ///         is true, and ReleasePersistence() reports whether the value was written.
     bool SetParameter(EParamID id, const QVariant& value, bool persist) override;
 
     QVariant GetParameter(EParamID id) override;
@@ -42,41 +52,50 @@ public:
     /// All parameters as they are in memory now.
     QMap<int, QVariant> Values() const;
 
-    /// Grows whenever a value in memory becomes another one, whoever has changed it. For a display that asks now and
-    /// then whether it is still up to date: remember this first, then read the values. A number instead of a call or a
-    /// signal, since changes come from any thread, and from some under a lock of the library.
+    /// A number that grows whenever a value in memory changes. A display can poll it to find out whether what it shows
+    /// is up to date: remember the revision first, then read the values. It is a number and not a signal because
+    /// changes come from any thread, and from some while a lock of the library is held.
     quint64 Revision() const;
 
-    /// Keeps everything off the disk, and what others change there out of memory, until the matching
-    /// ReleasePersistence(). When this returns, no write is under way any more. Holds nest. TPersistenceHold does it
-    /// for a scope.
+    /// Begins a hold: nothing is written to the disk, and changes by other programs are not taken in, until the hold is
+    /// released or abandoned. No write is in progress when this returns. Holds nest. Prefer TPersistenceHold, which
+    /// ends the hold with its scope.
     void HoldPersistence();
 
-    /// Ends a hold. The last one writes every persistent value that the hold has changed, all in one transaction. What
-    /// was set to another value and back again is no change: should somebody else have changed it meanwhile, that
-    /// holds.
-    /// @return whether that is on the disk; true, having written nothing, while another hold is in force.
+    /// Ends the last hold. When no other hold is left, writes every persistent value that was changed during the holds,
+    /// in one transaction. A value that was changed and set back is not written; if another program has changed it in
+    /// the meantime, that value is taken in.
+    /// @return whether the values are on the disk; true when another hold is left, and nothing was written.
     bool ReleasePersistence();
 
+    /// Ends the last hold and takes back every change made since it began, in memory too and by whichever thread.
+    /// @return false when no other hold is left and a value that was set before the hold could not be written.
+    bool AbandonPersistence();
+
 protected:
-    /// Writes @p changes to the disk, all or none; an invalid variant removes. Never called by two threads at once.
-    /// @return whether they are on the disk.
+    /// Writes @p changes to the disk, all or none; an invalid variant removes its parameter. Never called by two
+    /// threads at once.
+    /// @return whether the changes are on the disk.
     virtual bool Persist(const QMap<int, QVariant>& changes) = 0;
 
-    /// For a disk that others write too: hands what they have changed to TakeStored(). Called before anything is
-    /// compared with what the disk is known to hold, and never at the same time as Persist().
-    /// @return whether the disk is known now; if not, nothing is written.
+    /// For a disk that other programs write too: passes the changed content of the disk to TakeStored(). Called before
+    /// values are compared with the content of the disk, and never during Persist().
+    /// @return whether the content of the disk is known; if not, nothing is written.
     virtual bool CatchUp() { return true; }
 
-    /// Takes what the disk holds now; memory follows where that is not what it held before. Within CatchUp(), or before
-    /// the store is shared between threads.
-    /// @param unreadable parameters that the disk holds in a form that cannot be read: absent until they are set.
-    void TakeStored(const QMap<int, QVariant>& values, const QSet<int>& unreadable);
+    /// Takes in the content of the disk. A value in memory changes only where the disk has changed. May be called
+    /// within CatchUp(), or before other threads use the store.
+    /// @param unreadable parameters that are on the disk in a form that cannot be read. They are absent until they are
+    ///        set.
+    /// @param damaged parameters whose content on the disk is damaged. They keep the value that was last read, which is
+    ///        written again by the next write; without one they are absent until they are set.
+    void TakeStored(const QMap<int, QVariant>& values, const QSet<int>& unreadable, const QSet<int>& damaged = {});
 
     /// Calls CatchUp() unless persistence is held.
     void LookAtDisk();
 
-    /// A last attempt to write what is not on the disk yet, in one transaction; nothing while persistence is held.
+    /// Tries once more to write what is not on the disk yet, in one transaction. Does nothing while persistence is
+    /// held.
     bool PersistOutstanding();
 
 private:
@@ -87,19 +106,28 @@ private:
         int failures;
     };
 
+    /// What memory held when a hold began.
+    struct tagHold
+    {
+        QMap<int, QVariant> values;
+        QMap<int, tagWish> wishes;
+    };
+
     void Remember(int id, const QVariant& value);
+    bool PersistAfterHold();
     bool PersistWishes(int minFailures, int maxFailures);
     QMap<int, QVariant> Wishes(int minFailures, int maxFailures) const;
     void DropFulfilledWishes();
     void Settle(const QMap<int, QVariant>& changes, bool done);
 
-    mutable QReadWriteLock m_MemoryLock; // of the three that follow; never held while the disk works
+    mutable QReadWriteLock m_MemoryLock; // guards the next three members; never held during disk work
     QMap<int, QVariant> m_Values;
     quint64 m_Revision;
     QMap<int, tagWish> m_Wishes;
 
-    QMutex m_DiskMutex; // of the three that follow, of CatchUp() and Persist(); taken before m_MemoryLock
+    QMutex m_DiskMutex; // guards the next four members, CatchUp() and Persist(); locked before m_MemoryLock
     QMap<int, QVariant> m_OnDisk;
     QSet<int> m_UnknownOnDisk;
-    int m_HoldCount;
+    QSet<int> m_Rescued; // damaged on the disk; m_OnDisk holds the value that was read before
+    QVector<tagHold> m_Holds;
 };

@@ -10,7 +10,7 @@
 
 namespace {
 
-// One line for each reason: what fails is tried again and again.
+// One line for each reason, however often the operation is tried.
 void SayOnce(const QString& failure, QString* said)
 {
     if (!failure.isEmpty() && failure != *said)
@@ -54,12 +54,24 @@ QString TSqliteStore::Load()
 
 void TSqliteStore::Take(const StoreTable::tagContent& content)
 {
+    QMap<int, QString> problems;
     for (auto row = content.unreadable.constBegin(); row != content.unreadable.constEnd(); ++row)
-        if (m_Unreadable.value(row.key()) != row.value())
-            SayOnStandardError(QString::fromLatin1("parameter %1 cannot be read: %2").arg(row.key()).arg(row.value()));
-    m_Unreadable = content.unreadable;
+        problems.insert(row.key(), row.value());
+    QSet<int> damaged;
+    for (const qlonglong number : content.damaged) {
+        if (!StoreTable::IsParameter(number))
+            continue;
+        const int id = static_cast<int>(number);
+        damaged.insert(id);
+        problems.insert(id, QLatin1String("it does not match its digest"));
+    }
+    for (auto problem = problems.constBegin(); problem != problems.constEnd(); ++problem)
+        if (m_Problems.value(problem.key()) != problem.value())
+            SayOnStandardError(
+                QString::fromLatin1("parameter %1 cannot be read: %2").arg(problem.key()).arg(problem.value()));
+    m_Problems = problems;
     const QList<int> unreadable = content.unreadable.keys();
-    TakeStored(content.values, QSet<int>(unreadable.cbegin(), unreadable.cend()));
+    TakeStored(content.values, QSet<int>(unreadable.cbegin(), unreadable.cend()), damaged);
 }
 
 bool TSqliteStore::SetParameter(EParamID id, const QVariant& value, bool persist)

@@ -14,38 +14,53 @@ namespace StoreTable {
 struct tagContent;
 }
 
-/// The display's parameter store: an SQLite file that survives a power cut at any moment, and that several programs can
-/// have open at once.
+/// The parameter store of a display: an SQLite file that survives a power cut at any moment. Several programs can have
+/// it open at once.
 ///
-/// A persistent write that returned true is on the disk. One row of the table `parameters` holds one parameter in
-/// readable form: its number, the name of its type and its text (bool, int, long long, double, string, colour and bytes
-/// can be stored).
+/// @code
+/// QString error;
+/// const auto store = TSqliteStore::Open(QLatin1String("/data/settings.db"), &error); // null: error says why
+/// const bool isOnDisk = store->SetParameter(PARAM_METRIC, true, true);
+/// @endcode
 ///
-/// What another program has written is in this store's memory within a second, later only while persistence is held or
-/// a write of this store waits. A program that keeps the file busy is waited for, and when it does not let go in time
-/// that is said: a write then returns false, an opening fails.
+/// A value is on the disk when its persistent write has returned true. Each parameter is one row of the table
+/// `parameters`: its number, the name of its type, its value as text, and a digest of the three. The types that can be
+/// stored are bool, int, long long, double, string, colour and bytes. A row that was edited by hand may have no digest
+/// (NULL).
 ///
-/// Beside the file `name` there is, after the first opening, `name.good`, a copy that the first one to open the file
-/// and the last one to close it make. The first one also moves a damaged file to `name.damaged-1` (-2, -3...) and puts
-/// the copy in its place; a file that is found damaged while others use it is refused and left to them. While the store
-/// is open there is `name.lock`. What goes wrong is said on standard error, one line for each reason.
+/// A change by another program is in this store's memory within a second, or later while persistence is held or a write
+/// waits. When another program has the file locked, this store waits. After the timeout a write returns false and an
+/// opening fails; both are said.
+///
+/// The store keeps these files beside the file `name`:
+/// - `name.good`, the last good copy. It is made by the first program that opens the file and by the last one that
+///   closes it.
+/// - `name.damaged-1` (-2, -3...), a damaged file, kept for examination. When the file as a whole is damaged, the first
+///   program that opens it moves it there and puts the good copy in its place. When rows alone are damaged, it copies
+///   the file there, and these rows get their values from the good copy or are removed. A file that is damaged as a
+///   whole while other programs use it cannot be opened. A row that is damaged while the store is open keeps its value
+///   in memory, and the next write repairs it.
+/// - `name.lock`, while the store is open.
+///
+/// Failures are said on standard error, one line for each reason.
 ///
 /// Needs an application object, for the database driver.
 class CABHOST_EXPORT TSqliteStore final : public TParameterStore
 {
 public:
-    /// Opens the store in the file @p path, whose folder must exist; makes the file when there is none. A file of
-    /// somebody else's, or of a later version of this program, is left as it is.
+    /// Opens the store in the file @p path, whose folder must exist. Makes the file when there is none. A file that
+    /// belongs to another program, or that a later version of this program has written, is not changed and not opened.
     /// @param error receives one line when the result is null.
-    /// @param patience for how many milliseconds an opening, and later each write, waits for another program that keeps
-    ///        the file busy.
+    /// @param patience how many milliseconds an opening, and later each write, waits while another program has the file
+    ///        locked.
     static std::unique_ptr<TSqliteStore> Open(const QString& path, QString* error, int patience = 5000);
 
-    /// Writes what is not on the disk yet and closes the file. Nothing is written while persistence is held.
+    /// Tries to write the values that are not on the disk yet, and closes the file. Writes nothing while persistence is
+    /// held.
     ~TSqliteStore() override;
 
-    /// As in TParameterStore; also false for a persistent value of a type that cannot be stored. Memory takes it, the
-    /// file keeps what it has.
+    /// As TParameterStore::SetParameter(). Also returns false for a persistent value of a type that cannot be stored:
+    /// the value in memory changes, the row in the file does not.
     bool SetParameter(EParamID id, const QVariant& value, bool persist) override;
 
 protected:
@@ -58,9 +73,9 @@ private:
     void Take(const StoreTable::tagContent& content);
 
     std::unique_ptr<TDiskThread> m_DiskThread;
-    std::unique_ptr<TSqliteStoreFile> m_File; // used in that thread alone
-    QString m_ReadFailure;                    // said last, as the two that follow
+    std::unique_ptr<TSqliteStoreFile> m_File; // used by the disk thread alone
+    QString m_ReadFailure;                    // the last one that was said, as the next two
     QString m_WriteFailure;
-    QMap<int, QString> m_Unreadable;
-    std::unique_ptr<TWatchThread> m_Watch; // the last to come and the first to go: it uses all of the above
+    QMap<int, QString> m_Problems;
+    std::unique_ptr<TWatchThread> m_Watch; // uses the other members: made last, destroyed first
 };

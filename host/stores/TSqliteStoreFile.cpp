@@ -7,11 +7,11 @@
 
 namespace {
 
-const int CopyPatience = 5000; // somebody may be looking into a copy with another tool
+const int CopyPatience = 5000; // milliseconds; another tool may have a copy open
 const QString Memory = QLatin1String(":memory:");
 
-// What SQLite keeps beside a file. It must go where the file goes: left behind, it would be applied to the next file of
-// that name.
+// The files that SQLite keeps beside a database. They are moved with it: SQLite would apply those left behind to the
+// next database of the same name.
 constexpr const char* CompanionSuffixes[] = {"-wal", "-shm", "-journal"};
 
 QStringList Companions(const QString& path)
@@ -32,52 +32,58 @@ bool AnyExists(const QStringList& paths)
     return false;
 }
 
-// Gives a file and its companions the first free name of the kind <name>.damaged-<n>.
-bool MoveAside(const QString& path, QString* moved, QString* reason)
+using TTransfer = bool (*)(const QString& source, const QString& target, QString* reason);
+
+// Moves or copies a file and its companions to the first free name of the form <name>.damaged-<n>.
+bool KeepAside(const QString& path, TTransfer transfer, QString* kept, QString* reason)
 {
     int number = 0;
     do {
         ++number;
-        *moved = QString::fromLatin1("%1.damaged-%2").arg(path).arg(number);
-    } while (AnyExists(WithCompanions(*moved)));
+        *kept = QString::fromLatin1("%1.damaged-%2").arg(path).arg(number);
+    } while (AnyExists(WithCompanions(*kept)));
 
     const QStringList sources = WithCompanions(path);
-    const QStringList targets = WithCompanions(*moved);
+    const QStringList targets = WithCompanions(*kept);
     for (int index = 0; index < sources.size(); ++index)
-        if (DurableFiles::Exists(sources.at(index)) &&
-            !DurableFiles::Rename(sources.at(index), targets.at(index), reason))
+        if (DurableFiles::Exists(sources.at(index)) && !transfer(sources.at(index), targets.at(index), reason))
             return false;
     return true;
 }
 
-// Moves away what stands in the way of a file that can be used, if there is anything, and says what was found.
+// Moves a file that cannot be used aside, if there is one, and says what was found.
 bool SetAside(const QString& path, const tagStoreFinding& found, QString* reason)
 {
     QString line = QString::fromLatin1("%1: %2").arg(path, found.words);
     if (AnyExists(WithCompanions(path))) {
-        QString moved;
-        if (!MoveAside(path, &moved, reason))
+        QString kept;
+        if (!KeepAside(path, DurableFiles::Rename, &kept, reason))
             return false;
-        line += QString::fromLatin1("; moved to %1").arg(moved);
+        line += QString::fromLatin1("; moved to %1").arg(kept);
     }
     SayOnStandardError(line);
     return true;
 }
 
-// Looks at a file that nobody is at work on, and so has no companions.
-tagStoreFinding CheckAtRest(const QString& path)
+// Checks and reads a file that no program has open.
+tagStoreFinding CheckAtRest(const QString& path, StoreTable::tagContent* content)
 {
     tagStoreFinding finding = RecogniseStoreFile(path);
     if (finding.state != STORE_FILE_CLEAN)
         return finding;
     TSqliteConnection connection(path, TSqliteConnection::SQLITE_ACCESS_READ, CopyPatience);
-    StoreTable::tagContent content;
-    return StoreTable::Read(connection, &content);
+    return StoreTable::Read(connection, content);
 }
 
-// Puts a copy of the database in place as @p target. At every moment the target is what it was before or the copy,
-// complete and in order.
-bool CopyTo(TSqliteConnection& source, const QString& target, QString* reason)
+enum EDamagedRows : int
+{
+    DAMAGED_ROWS_ACCEPTED,
+    DAMAGED_ROWS_REFUSED,
+};
+
+// Replaces @p target by a copy of the database. At every moment the target is the old file or the complete and checked
+// copy.
+bool CopyTo(TSqliteConnection& source, const QString& target, EDamagedRows damagedRows, QString* reason)
 {
     const QString fresh = target + QLatin1String(".new");
     for (const QString& remains : WithCompanions(fresh))
@@ -88,19 +94,38 @@ bool CopyTo(TSqliteConnection& source, const QString& target, QString* reason)
     if (!failure.text.isEmpty()) {
         *reason = failure.text;
     } else if (DurableFiles::SyncContent(fresh, reason)) {
-        const tagStoreFinding finding = CheckAtRest(fresh);
-        if (finding.state == STORE_FILE_CLEAN)
+        StoreTable::tagContent content;
+        const tagStoreFinding finding = CheckAtRest(fresh, &content);
+        const bool isClean = finding.state == STORE_FILE_CLEAN;
+        if (isClean && (damagedRows == DAMAGED_ROWS_ACCEPTED || content.damaged.isEmpty()))
             return DurableFiles::Rename(fresh, target, reason);
-        *reason = finding.words;
+        *reason = isClean ? StoreTable::DamageText(content.damaged) : finding.words;
     }
     QString ignored;
-    DurableFiles::Remove(fresh, &ignored); // the room may be needed
+    DurableFiles::Remove(fresh, &ignored); // its space may be needed
     return false;
 }
 
 QString CannotBeUsed(const QString& path, const QString& reason)
 {
     return QString::fromLatin1("%1 cannot be used: %2").arg(path, reason);
+}
+
+QString CannotBeWritten(const QString& path, const QString& reason)
+{
+    return QString::fromLatin1("%1 cannot be written: %2").arg(path, reason);
+}
+
+QString RepairText(const QList<qlonglong>& damaged, const QMap<int, QVariant>& values)
+{
+    QStringList texts;
+    for (const qlonglong number : damaged) {
+        const bool hasValue = StoreTable::IsParameter(number) && values.contains(static_cast<int>(number));
+        texts += QString::fromLatin1(hasValue ? "parameter %1 has its value from the last good copy"
+                                              : "parameter %1 is lost")
+                     .arg(number);
+    }
+    return texts.join(QLatin1String(", "));
 }
 
 QString Refusal(const QString& path, const tagStoreFinding& found)
@@ -114,7 +139,7 @@ QString Refusal(const QString& path, const tagStoreFinding& found)
         .arg(StoreTable::SchemaVersion);
 }
 
-// Opens and reads a database that has been recognised as ours, and checks it throughout.
+// Opens, checks and reads a database whose header is a store's.
 tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
                         std::unique_ptr<TSqliteConnection>* connection, StoreTable::tagContent* content)
 {
@@ -134,13 +159,12 @@ tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
     return finding;
 }
 
-// The same, of whatever stands under the name.
+// The same for any file.
 tagStoreFinding RecogniseAndConnect(const QString& path, const QDeadlineTimer& deadline,
-                                    std::unique_ptr<TSqliteConnection>* connection)
+                                    std::unique_ptr<TSqliteConnection>* connection, StoreTable::tagContent* content)
 {
     tagStoreFinding finding = RecogniseStoreFile(path);
-    StoreTable::tagContent content;
-    return finding.state == STORE_FILE_CLEAN ? Connect(path, deadline, connection, &content) : finding;
+    return finding.state == STORE_FILE_CLEAN ? Connect(path, deadline, connection, content) : finding;
 }
 
 bool IsOurs(EStoreFileState state) { return state == STORE_FILE_CLEAN || state == STORE_FILE_DAMAGED; }
@@ -185,17 +209,23 @@ QString TSqliteStoreFile::Open(StoreTable::tagContent* content)
     return OpenPrepared(deadline, content);
 }
 
-// Alone with the file, makes it fit to be used. Leaves nothing of it open: while the lock goes over from alone to
-// shared somebody else may be alone with the file, and look at it from outside SQLite. A process that does so loses all
-// the locks that its own connections have on the file.
+// Repairs or replaces the file if that is needed, while no other program uses it. Closes it again, for two reasons:
+// while the lock changes from exclusive to shared, another program may become the only user and replace the file; and a
+// process that opens the file outside SQLite loses the locks that its own connections have on it.
 bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
 {
     std::unique_ptr<TSqliteConnection> connection;
-    tagStoreFinding found = RecogniseAndConnect(m_Path, deadline, &connection);
+    StoreTable::tagContent content;
+    tagStoreFinding found = RecogniseAndConnect(m_Path, deadline, &connection, &content);
     if (found.state != STORE_FILE_CLEAN && !IsBeyondUs(found.state)) {
         if (!Replace(found, reason))
             return false;
-        found = RecogniseAndConnect(m_Path, deadline, &connection);
+        found = RecogniseAndConnect(m_Path, deadline, &connection, &content);
+    }
+    if (found.state == STORE_FILE_CLEAN && !content.damaged.isEmpty()) {
+        connection.reset();
+        KeepAndRepair(content.damaged);
+        found = RecogniseAndConnect(m_Path, deadline, &connection, &content);
     }
     if (found.state != STORE_FILE_CLEAN) {
         *reason = Refusal(m_Path, found);
@@ -206,7 +236,7 @@ bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
     return true;
 }
 
-// Opens what the first one has prepared. Nothing can be repaired here: others are at work on it.
+// Opens the file that the first program has prepared. Other programs may use it already, so nothing is repaired here.
 QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTable::tagContent* content)
 {
     m_Lock.FileInUse(&m_Identity);
@@ -222,10 +252,11 @@ QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTabl
     return {};
 }
 
-// Puts a file that can be used in the place of one that cannot, and says so.
+// Replaces a file that cannot be used by the last good copy or an empty store, and says so.
 bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
 {
-    const tagStoreFinding good = CheckAtRest(m_GoodPath);
+    StoreTable::tagContent ignored;
+    const tagStoreFinding good = CheckAtRest(m_GoodPath, &ignored);
     if (IsBeyondUs(good.state)) {
         *reason = Refusal(m_GoodPath, good);
         return false;
@@ -252,9 +283,36 @@ bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
     return PutInPlace(empty, reason);
 }
 
+// Keeps a copy of a file with damaged rows, then gives these rows the values of the last good copy or removes them.
+// Says so. Without a copy the file stays as it is.
+void TSqliteStoreFile::KeepAndRepair(const QList<qlonglong>& damaged)
+{
+    const QString found = QString::fromLatin1("%1: %2; ").arg(m_Path, StoreTable::DamageText(damaged));
+    QString kept;
+    QString reason;
+    if (!KeepAside(m_Path, DurableFiles::Copy, &kept, &reason)) {
+        SayOnStandardError(found + reason);
+        return;
+    }
+    SayOnStandardError(found + QString::fromLatin1("copied to %1").arg(kept));
+
+    StoreTable::tagContent good;
+    CheckAtRest(m_GoodPath, &good);
+    QMap<int, QVariant> values;
+    for (auto value = good.values.constBegin(); value != good.values.constEnd(); ++value)
+        if (damaged.contains(value.key()))
+            values.insert(value.key(), value.value());
+    TSqliteConnection connection(m_Path, TSqliteConnection::SQLITE_ACCESS_WRITE, CopyPatience);
+    reason = StoreTable::Repair(connection, damaged, values);
+    if (reason.isEmpty())
+        SayOnStandardError(QString::fromLatin1("%1: %2").arg(m_Path, RepairText(damaged, values)));
+    else
+        SayOnStandardError(CannotBeWritten(m_Path, reason));
+}
+
 bool TSqliteStoreFile::PutInPlace(TSqliteConnection& source, QString* reason)
 {
-    if (CopyTo(source, m_Path, reason))
+    if (CopyTo(source, m_Path, DAMAGED_ROWS_ACCEPTED, reason))
         return true;
     *reason = QString::fromLatin1("%1 cannot be made: %2").arg(m_Path, *reason);
     return false;
@@ -271,17 +329,17 @@ QString TSqliteStoreFile::ReadChanged(StoreTable::tagContent* content, bool* isC
         *isChanged = false;
         return QString::fromLatin1("%1 cannot be read: %2").arg(m_Path, reason);
     }
-    m_Version = version; // asked before the rows: what changes meanwhile is seen the next time
+    m_Version = version; // asked before the rows were read: a later change is seen next time
     return {};
 }
 
 QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes)
 {
     QString reason = StoreTable::Write(*m_Connection, changes);
-    // A file that was deleted or moved, or whose drive is gone, can still be written: into nothing.
+    // SQLite can still write to a file that was deleted or moved, or whose drive is gone; nobody will find the values.
     if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(CompanionSuffixes[0]))))
         reason = QLatin1String("it is no longer there");
-    return reason.isEmpty() ? reason : QString::fromLatin1("%1 cannot be written: %2").arg(m_Path, reason);
+    return reason.isEmpty() ? reason : CannotBeWritten(m_Path, reason);
 }
 
 bool TSqliteStoreFile::IsStillThere() const
@@ -293,6 +351,6 @@ bool TSqliteStoreFile::IsStillThere() const
 void TSqliteStoreFile::MakeGoodCopy(TSqliteConnection& source)
 {
     QString reason;
-    if (!CopyTo(source, m_GoodPath, &reason))
+    if (!CopyTo(source, m_GoodPath, DAMAGED_ROWS_REFUSED, &reason))
         SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(m_GoodPath, reason));
 }

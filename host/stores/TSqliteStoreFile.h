@@ -12,43 +12,44 @@
 
 #include <memory>
 
-/// The file of a store and its last good copy. Sees to it that neither a power cut nor a damaged file costs more than
-/// what was written since the copy was made, and that no file of somebody else's is touched. What it has to move aside
-/// or to go on without it says on standard error.
+/// The file of a store and its last good copy. A power cut or a damaged file costs no more than the values written
+/// since the copy was made, and a file that belongs to another program is not touched. Says on standard error which
+/// files it has moved or copied aside, and what it goes on with.
 ///
-/// Several can be at work on one file, in this process and others. Repairing, replacing and copying are for one who is
-/// alone with it: the first at opening and the last at closing.
+/// Several objects can have one file open, in this process and others. The file is repaired, replaced and copied only
+/// by an object that is alone with it: the first one when it opens the file, and the last one when it closes it.
 ///
-/// Belongs to the thread that opened it.
+/// Used by the thread that has opened it.
 class TSqliteStoreFile
 {
 public:
     /// @param path absolute.
-    /// @param patience for how many milliseconds others who keep the file busy are waited for.
+    /// @param patience how many milliseconds to wait for other programs that have the file locked.
     TSqliteStoreFile(const QString& path, int patience);
 
-    /// Closes the file, if it is open; the last one makes the good copy.
+    /// Closes the file if it is open. The last one makes the good copy.
     ~TSqliteStoreFile();
 
     TSqliteStoreFile(const TSqliteStoreFile&) = delete;
     TSqliteStoreFile& operator=(const TSqliteStoreFile&) = delete;
 
-    /// Opens the file. The first one makes it when there is none and puts the good copy in its place when it is
-    /// damaged.
-    /// @return empty, or one line that tells why the file cannot be used.
+    /// Opens the file. The first one makes the file when there is none, repairs rows that are damaged, and replaces a
+    /// damaged file by the good copy.
+    /// @return empty, or one line with the reason why the file cannot be used.
     QString Open(StoreTable::tagContent* content);
 
-    /// Reads the file again if somebody else has changed it since it was read last; otherwise *isChanged is false, and
-    /// the disk is not asked. @return empty, or why it is not known what the file holds.
+    /// Reads the file again if another connection has changed it since it was last read; otherwise *isChanged is false
+    /// and the table is not read. @return empty, or the reason why the content of the file is not known.
     QString ReadChanged(StoreTable::tagContent* content, bool* isChanged);
 
-    /// Writes @p changes in one transaction. @return empty, or why they are not on the disk.
+    /// Writes @p changes in one transaction. @return empty, or the reason why they are not on the disk.
     QString Write(const QMap<int, QVariant>& changes);
 
 private:
     bool Prepare(const QDeadlineTimer& deadline, QString* reason);
     QString OpenPrepared(const QDeadlineTimer& deadline, StoreTable::tagContent* content);
     bool Replace(const tagStoreFinding& found, QString* reason);
+    void KeepAndRepair(const QList<qlonglong>& damaged);
     bool PutInPlace(TSqliteConnection& source, QString* reason);
     bool IsStillThere() const;
     void MakeGoodCopy(TSqliteConnection& source);
@@ -59,5 +60,5 @@ private:
     TStoreLock m_Lock;
     std::unique_ptr<TSqliteConnection> m_Connection; // open only while the lock is held
     DurableFiles::tagIdentity m_Identity;
-    QVariant m_Version; // of the database, when it was read last
+    QVariant m_Version; // PRAGMA data_version when the file was last read
 };

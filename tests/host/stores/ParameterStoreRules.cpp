@@ -39,8 +39,15 @@ public:
     QList<TChanges> transactions; ///< those that were tried
     TChanges disk;
     QSet<int> unreadable;
+    QSet<int> damaged;
     bool isReadable = true;
     std::function<void()> whileItIsRead = [] {};
+
+    void Damage(int id)
+    {
+        damaged.insert(id);
+        ChangeElsewhere({{id, QVariant()}});
+    }
 
     void ChangeElsewhere(const TChanges& changes)
     {
@@ -53,7 +60,7 @@ protected:
     {
         whileItIsRead();
         if (isReadable && m_IsChanged) {
-            TakeStored(disk, unreadable);
+            TakeStored(disk, unreadable, damaged);
             m_IsChanged = false;
         }
         return isReadable;
@@ -64,6 +71,8 @@ protected:
         transactions.append(changes);
         if (!accepts(changes))
             return false;
+        for (const int id : changes.keys())
+            damaged.remove(id);
         Apply(changes, &disk);
         return true;
     }
@@ -107,6 +116,11 @@ private slots:
     void aReleaseTellsWhetherTheDiskTookIt();
     void aReleaseWithoutAHoldDoesNoHarm();
 
+    void anAbandonedHoldLeavesNothing();
+    void anAbandonedHoldLeavesWhatAnOuterOneHolds();
+    void anAbandonedOuterHoldTakesTheInnerOneAlong();
+    void anAbandonedHoldTakesInWhatOthersHaveChanged();
+    void anAbandonedHoldStillWritesWhatWasSetBefore();
     void memoryFollowsWhatOthersChange_data();
     void memoryFollowsWhatOthersChange();
     void aValueOnItsWayToTheDiskIsLaterThanTheirs();
@@ -116,6 +130,13 @@ private slots:
     void aHoldTakesNothingOfOthers();
     void whatAHoldPutsBackDoesNotUndoOthersChanges();
     void whatAHoldChangesIsLaterThanTheirs();
+    void aDamagedValueStaysInMemoryAndTheNextWriteRepairsIt();
+    void theLastChanceRepairsADamagedValue();
+    void aDamagedValueCanBeSetAgain_data();
+    void aDamagedValueCanBeSetAgain();
+    void aDamagedValueThatOthersSetOrRemoveIsTheirs_data();
+    void aDamagedValueThatOthersSetOrRemoveIsTheirs();
+    void aRepairThatFailsIsTriedAgain();
     void aDiskThatCannotBeReadIsNotWritten();
     void thoseWhoWaitForADiskThatCannotBeReadWaitTogether();
     void theRevisionGrowsWithEveryChange_data();
@@ -382,6 +403,84 @@ void ParameterStoreRules::aReleaseWithoutAHoldDoesNoHarm()
     QCOMPARE(store.disk, store.Values());
 }
 
+void ParameterStoreRules::anAbandonedHoldLeavesNothing()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("north"), true);
+    store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    store.SetParameter(PARAM_METRIC, true, false);
+    const TChanges values = store.Values();
+    const quint64 revision = store.Revision();
+    store.transactions.clear();
+    {
+        TPersistenceHold hold(store);
+        store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("built in"), true);
+        store.SetParameter(PARAM_FARM, QVariant(), true);
+        store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+        store.SetParameter(PARAM_METRIC, false, false);
+        QVERIFY(hold.Abandon());
+        QVERIFY(hold.Abandon());
+        QVERIFY(hold.Release());
+    }
+    QCOMPARE(store.Values(), values);
+    QVERIFY(store.Revision() > revision);
+    QVERIFY(store.PersistOutstanding());
+    QVERIFY(store.transactions.isEmpty());
+    QVERIFY(store.SetParameter(PARAM_CLIENT, QLatin1String("Jones"), true));
+    QCOMPARE(store.transactions, (QList<TChanges>{{{PARAM_CLIENT, QLatin1String("Jones")}}}));
+}
+
+void ParameterStoreRules::anAbandonedHoldLeavesWhatAnOuterOneHolds()
+{
+    TRecordingStore store;
+    store.HoldPersistence();
+    store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    store.HoldPersistence();
+    store.SetParameter(PARAM_FARM, QLatin1String("Dale"), true);
+    QVERIFY(store.AbandonPersistence());
+    QVERIFY(store.transactions.isEmpty());
+    QVERIFY(store.ReleasePersistence());
+    QCOMPARE(store.disk, (TChanges{{PARAM_FARM, QLatin1String("Hill")}}));
+    QCOMPARE(store.Values(), store.disk);
+}
+
+void ParameterStoreRules::anAbandonedOuterHoldTakesTheInnerOneAlong()
+{
+    TRecordingStore store;
+    store.HoldPersistence();
+    store.HoldPersistence();
+    store.SetParameter(PARAM_FARM, QLatin1String("Dale"), true);
+    QVERIFY(store.ReleasePersistence());
+    QVERIFY(store.AbandonPersistence());
+    QVERIFY(store.transactions.isEmpty());
+    QVERIFY(store.Values().isEmpty());
+}
+
+void ParameterStoreRules::anAbandonedHoldTakesInWhatOthersHaveChanged()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_AREA_UNIT, 1, true);
+    TPersistenceHold hold(store);
+    store.SetParameter(PARAM_AREA_UNIT, 0, true);
+    store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}});
+    QVERIFY(hold.Abandon());
+    store.LookAtDisk();
+    QCOMPARE(store.GetParameter(PARAM_AREA_UNIT), QVariant(2));
+    QCOMPARE(store.disk, (TChanges{{PARAM_AREA_UNIT, 2}}));
+}
+
+void ParameterStoreRules::anAbandonedHoldStillWritesWhatWasSetBefore()
+{
+    TRecordingStore store;
+    store.accepts = Refuse;
+    store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    store.accepts = Accept;
+    TPersistenceHold hold(store);
+    store.SetParameter(PARAM_FARM, QLatin1String("Dale"), true);
+    QVERIFY(hold.Abandon());
+    QCOMPARE(store.disk, (TChanges{{PARAM_FARM, QLatin1String("Hill")}}));
+}
+
 void ParameterStoreRules::memoryFollowsWhatOthersChange_data()
 {
     QTest::addColumn<TChanges>("changes");
@@ -506,6 +605,94 @@ void ParameterStoreRules::whatAHoldChangesIsLaterThanTheirs()
     QCOMPARE(store.transactions.last(), (TChanges{{PARAM_AREA_UNIT, 1}})); // the other one is there already
     QCOMPARE(store.Values(), store.disk);
     QCOMPARE(store.disk, (TChanges{{PARAM_AREA_UNIT, 1}, {PARAM_METRIC, true}, {PARAM_FARM, QLatin1String("Hill")}}));
+}
+
+void ParameterStoreRules::aDamagedValueStaysInMemoryAndTheNextWriteRepairsIt()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+    store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+    store.SetParameter(PARAM_FARM, QLatin1String("Dale"), false); // not what the disk had
+    store.Damage(PARAM_CLIENT);
+    store.Damage(PARAM_FARM);
+    store.LookAtDisk();
+    QCOMPARE(store.Values(), (TChanges{{PARAM_CLIENT, QLatin1String("Smith")}, {PARAM_FARM, QLatin1String("Dale")}}));
+    QVERIFY(store.disk.isEmpty());
+    QVERIFY(store.SetParameter(PARAM_METRIC, true, true));
+    QCOMPARE(
+        store.disk,
+        (TChanges{{PARAM_CLIENT, QLatin1String("Smith")}, {PARAM_FARM, QLatin1String("Hill")}, {PARAM_METRIC, true}}));
+    store.transactions.clear();
+    QVERIFY(store.PersistOutstanding());
+    QVERIFY(store.transactions.isEmpty());
+}
+
+void ParameterStoreRules::theLastChanceRepairsADamagedValue()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+    store.Damage(PARAM_CLIENT);
+    store.LookAtDisk();
+    QVERIFY(store.PersistOutstanding());
+    QCOMPARE(store.disk, (TChanges{{PARAM_CLIENT, QLatin1String("Smith")}}));
+}
+
+void ParameterStoreRules::aDamagedValueCanBeSetAgain_data()
+{
+    QTest::addColumn<bool>("isKnown");
+    QTest::newRow("read before") << true;
+    QTest::newRow("never read") << false;
+}
+
+void ParameterStoreRules::aDamagedValueCanBeSetAgain()
+{
+    QFETCH(bool, isKnown);
+    TRecordingStore store;
+    if (isKnown)
+        store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+    store.Damage(PARAM_CLIENT);
+    store.LookAtDisk();
+    QCOMPARE(store.HasParameter(PARAM_CLIENT), isKnown);
+    QVERIFY(store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true));
+    QCOMPARE(store.disk, (TChanges{{PARAM_CLIENT, QLatin1String("Smith")}}));
+}
+
+void ParameterStoreRules::aDamagedValueThatOthersSetOrRemoveIsTheirs_data()
+{
+    QTest::addColumn<QVariant>("theirs");
+    QTest::newRow("set") << QVariant(QLatin1String("Jones"));
+    QTest::newRow("set to the same") << QVariant(QLatin1String("Smith"));
+    QTest::newRow("removed") << QVariant();
+}
+
+void ParameterStoreRules::aDamagedValueThatOthersSetOrRemoveIsTheirs()
+{
+    QFETCH(QVariant, theirs);
+    TRecordingStore store;
+    store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+    store.Damage(PARAM_CLIENT);
+    store.LookAtDisk();
+    store.damaged.clear();
+    store.ChangeElsewhere({{PARAM_CLIENT, theirs}});
+    store.transactions.clear();
+    QVERIFY(store.SetParameter(PARAM_METRIC, true, true));
+    QCOMPARE(store.transactions, (QList<TChanges>{{{PARAM_METRIC, true}}}));
+    QCOMPARE(store.GetParameter(PARAM_CLIENT), theirs);
+    // The disk is known again: setting what it holds is no work.
+    QVERIFY(store.SetParameter(PARAM_CLIENT, theirs, true));
+    QCOMPARE(store.transactions.size(), 1);
+}
+
+void ParameterStoreRules::aRepairThatFailsIsTriedAgain()
+{
+    TRecordingStore store;
+    store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+    store.Damage(PARAM_CLIENT);
+    store.accepts = Refuse;
+    QVERIFY(!store.SetParameter(PARAM_METRIC, true, true));
+    store.accepts = Accept;
+    QVERIFY(store.SetParameter(PARAM_METRIC, false, true));
+    QCOMPARE(store.disk, (TChanges{{PARAM_CLIENT, QLatin1String("Smith")}, {PARAM_METRIC, false}}));
 }
 
 void ParameterStoreRules::aDiskThatCannotBeReadIsNotWritten()

@@ -85,6 +85,7 @@ private slots:
     void openingAndClosingAtOnceLosesNothing();
     void theOneWhoIsLeftByADeadProgramIsTheLast();
 
+    void aRowThatIsDamagedWhileOthersUseItIsAbsentUntilTheyWrite();
     void aFileThatIsDamagedWhileOthersUseItIsRefused_data();
     void aFileThatIsDamagedWhileOthersUseItIsRefused();
     void aFileThatIsDamagedBelowOthersIsRefused();
@@ -311,14 +312,31 @@ void StoreHasSeveralUsers::theOneWhoIsLeftByADeadProgramIsTheLast()
     QVERIFY(!QFile::exists(m_Path + Lock));
 }
 
+void StoreHasSeveralUsers::aRowThatIsDamagedWhileOthersUseItIsAbsentUntilTheyWrite()
+{
+    const auto first = OpenStore(m_Path);
+    QVERIFY(first->SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true));
+    QVERIFY(first->SetParameter(PARAM_FARM, QLatin1String("Hill"), true));
+    TStandardErrorCapture standardError;
+    RunSql(m_Path, QLatin1String("UPDATE parameters SET value = 'Smyth' WHERE id = 8932"));
+    const auto second = OpenStore(m_Path);
+    QVERIFY(second);
+    QCOMPARE(second->Values(), (QMap<int, QVariant>{{PARAM_FARM, QLatin1String("Hill")}}));
+    QVERIFY(
+        standardError.Lines().contains(QLatin1String("parameter 8932 cannot be read: it does not match its digest")));
+    QVERIFY(!QFile::exists(m_Path + FirstAside));
+
+    QVERIFY(first->SetParameter(PARAM_METRIC, true, true));
+    QTRY_COMPARE_WITH_TIMEOUT(second->GetParameter(PARAM_CLIENT), QVariant(QLatin1String("Smith")), SoonMilliseconds);
+}
+
 void StoreHasSeveralUsers::aFileThatIsDamagedWhileOthersUseItIsRefused_data()
 {
     QTest::addColumn<QString>("statement");
     QTest::addColumn<QString>("found");
-    QTest::newRow("value") << QString::fromLatin1("UPDATE parameters SET value = 'Smyth'")
-                           << QString::fromLatin1("its parameter 8932 does not match its digest");
-    QTest::newRow("schema") << QString::fromLatin1("ALTER TABLE parameters ADD COLUMN unit")
-                            << QString::fromLatin1("its schema is missing or broken");
+    const QString found = QLatin1String("its schema is missing or broken");
+    QTest::newRow("schema") << QString::fromLatin1("ALTER TABLE parameters ADD COLUMN unit") << found;
+    QTest::newRow("no schema number") << QString::fromLatin1("PRAGMA user_version = 0") << found;
 }
 
 void StoreHasSeveralUsers::aFileThatIsDamagedWhileOthersUseItIsRefused()

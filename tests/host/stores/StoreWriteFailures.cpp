@@ -1,3 +1,4 @@
+#include "../platform/FolderSyncError.h"
 #include "StoreTestSupport.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,8 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 namespace {
 
@@ -62,6 +65,10 @@ private slots:
     void openingNeedsNoMoreRoomThanThereIs();
     void recoveringWithoutRoomLosesNothing_data();
     void recoveringWithoutRoomLosesNothing();
+    void repairingARowWithoutRoomLosesNothing_data();
+    void repairingARowWithoutRoomLosesNothing();
+    void aDriveThatCannotSyncFoldersIsAccepted_data();
+    void aDriveThatCannotSyncFoldersIsAccepted();
     void aDriveThatIsGoneIsSaid();
     void aReadOnlyDriveIsRefusedAtOpening();
 
@@ -223,6 +230,69 @@ void StoreWriteFailures::recoveringWithoutRoomLosesNothing()
     MakeRoom();
     QCOMPARE(StoredValues(m_Path), values);
     QCOMPARE(FileBytes(m_Path + QLatin1String(".damaged-1")), damaged);
+}
+
+void StoreWriteFailures::repairingARowWithoutRoomLosesNothing_data() { recoveringWithoutRoomLosesNothing_data(); }
+
+void StoreWriteFailures::repairingARowWithoutRoomLosesNothing()
+{
+    QFETCH(int, pages);
+    if (!Mount("size=1m"))
+        QSKIP("no permission to mount");
+    OpenStore(m_Path)->SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
+    {
+        const auto store = OpenStore(m_Path);
+        store->SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
+        store->SetParameter(PARAM_FIELD, QLatin1String("West"), true);
+    }
+    const QByteArray damaged = FileBytes(m_Path).replace("Hill", "Hull");
+    SetFileBytes(m_Path, damaged);
+    const QByteArray good = FileBytes(m_Path + Good).replace("Hill", "Hell"); // no help
+    SetFileBytes(m_Path + Good, good);
+    SetFileBytes(m_Drive + QLatin1String("/room"), QByteArray(pages * 4096, 'x'));
+    Fill();
+    QVERIFY(pages == 0 || QFile::remove(m_Drive + QLatin1String("/room")));
+
+    const QMap<int, QVariant> values{{PARAM_CLIENT, QLatin1String("Smith")}, {PARAM_FIELD, QLatin1String("West")}};
+    TStandardErrorCapture standardError;
+    {
+        QString error;
+        const auto store = TSqliteStore::Open(m_Path, &error);
+        QVERIFY(store ? store->Values() == values : !error.isEmpty());
+    }
+    MakeRoom();
+    QCOMPARE(StoredValues(m_Path), values);
+    QCOMPARE(FileBytes(m_Path + QLatin1String(".damaged-1")), damaged);
+    QCOMPARE(QDir(m_Drive).entryList({QLatin1String(".*"), QLatin1String("*.new")}, QDir::Files | QDir::Hidden),
+             QStringList());
+}
+
+void StoreWriteFailures::aDriveThatCannotSyncFoldersIsAccepted_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<bool>("isAccepted");
+    QTest::newRow("EINVAL") << EINVAL << true;
+    QTest::newRow("ENOTSUP") << ENOTSUP << true;
+    QTest::newRow("ENOSYS") << ENOSYS << true;
+    QTest::newRow("EIO") << EIO << false;
+}
+
+void StoreWriteFailures::aDriveThatCannotSyncFoldersIsAccepted()
+{
+    QFETCH(int, error);
+    QFETCH(bool, isAccepted);
+    OpenStore(m_Path)->SetParameter(PARAM_METRIC, true, true);
+    SetFileBytes(m_Path, "text"); // is moved, and replaced by the good copy
+    TStandardErrorCapture standardError;
+    FolderSyncError = error;
+    QString reason;
+    const auto store = TSqliteStore::Open(m_Path, &reason);
+    FolderSyncError = 0;
+    QCOMPARE(store != nullptr, isAccepted);
+    if (isAccepted)
+        QCOMPARE(store->Values(), (QMap<int, QVariant>{{PARAM_METRIC, true}}));
+    else
+        QVERIFY2(reason.contains(QLatin1String("cannot sync") + QLatin1Char(' ') + m_Drive), qPrintable(reason));
 }
 
 void StoreWriteFailures::aDriveThatIsGoneIsSaid()
