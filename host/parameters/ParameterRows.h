@@ -90,24 +90,26 @@ constexpr tagSelection Selection(const tagAbout& about, const tagChoice (&choice
 
 inline constexpr tagSwitch Switches[] = {
     {{PARAM_UTC_OFFSET_SET_BY_USER, "clock.offset-by-operator",
-      "the operator has set the time: GPS time keeps the offset from UTC instead of computing it",
+      "the operator has chosen the offset from UTC; GPS time keeps it instead of computing it",
       "setting the clock from GPS"},
      false},
-    {{PARAM_METRIC, "units.metric", "metric units; else US or English ones", "every conversion and text of a quantity"},
+    {{PARAM_METRIC, "units.metric", "metric units; otherwise US or English units",
+      "every conversion and text of a quantity"},
      true},
-    {{PARAM_US_MEASURES, "units.us", "US measures where units are not metric; else English ones",
+    {{PARAM_US_MEASURES, "units.us", "US measures when units are not metric; otherwise English measures",
       "gallons, fluid ounces and bushels"},
      false},
     {{PARAM_DEGREES_MINUTES_SECONDS, "units.degrees-minutes-seconds",
-      "positions in degrees, minutes and seconds; else in decimal degrees", "texts of latitude and longitude"},
+      "positions in degrees, minutes and seconds; otherwise in decimal degrees", "texts of latitude and longitude"},
      false},
     {{PARAM_RATE_PER_TRAVEL, "units.rate-per-travel",
-      "liquid rates per 100 m or 100 yd of travel; only with rates.basis travel", "liquid application rates"},
+      "liquid rates per 100 m or 100 yd of travel; needs rates.basis travel", "liquid application rates"},
      false},
-    {{PARAM_24_HOUR_CLOCK, "region.24-hour-clock", "times from 0 to 24 hours; else with am and pm", "texts of times"},
+    {{PARAM_24_HOUR_CLOCK, "region.24-hour-clock", "24-hour clock; otherwise 12 hours with am and pm",
+      "texts of times"},
      true},
     {{PARAM_MONTH_FIRST, "region.month-first", "dates with the month before the day", "texts of dates"}, false},
-    {{PARAM_DAY_MODE, "display.day", "the colours of the day; else those of the night", "every colour"}, true},
+    {{PARAM_DAY_MODE, "display.day", "colours for day; otherwise for night", "every colour"}, true},
 };
 
 inline constexpr tagChoice RateBases[] = {{SPRAYER_RATE_BASIS_TRAVEL, "travel"}, {SPRAYER_RATE_BASIS_AREA, "area"}};
@@ -140,7 +142,7 @@ inline constexpr tagChoice Languages[] = {
 
 inline constexpr tagSelection Selections[] = {
     Selection({PARAM_SPRAYER_RATE_BASIS, "rates.basis",
-               "what the sprayer's rates may be related to: with travel, units.rate-per-travel decides",
+               "what the sprayer's rates are related to; with travel, units.rate-per-travel decides",
                "liquid application rates"},
               RateBases, SPRAYER_RATE_BASIS_AREA),
     Selection({PARAM_PRESSURE_UNIT, "units.pressure", "unit of pressures", "texts and conversions of pressures"},
@@ -157,10 +159,10 @@ inline constexpr tagSelection Selections[] = {
               DryDensityUnits, DRY_DENSITY_UNIT_KG_PER_LITRE),
     Selection({PARAM_LIQUID_UNIT, "units.liquid", "unit of liquid volumes, flows and rates", "liquid products"},
               LiquidUnits, LIQUID_UNIT_LITRE),
-    Selection({PARAM_LANGUAGE, "region.language", "language of the display's texts; after a restart",
+    Selection({PARAM_LANGUAGE, "region.language", "language of the display's texts; a change needs a restart",
                "texts, and the suffix of language files"},
               Languages, LANGUAGE_ENGLISH),
-    Selection({PARAM_DECIMAL_POINT, "region.decimal-point", "what stands before the decimals; after a restart",
+    Selection({PARAM_DECIMAL_POINT, "region.decimal-point", "decimal point or comma; a change needs a restart",
                "every number shown or typed"},
               DecimalPoints, DECIMAL_POINT_FULL_STOP),
 };
@@ -175,7 +177,7 @@ inline constexpr tagNumber Numbers[] = {
      0,
      "h"},
     {{PARAM_UTC_OFFSET_MINUTES, "clock.offset-minutes",
-      "local time less UTC, minutes beyond the hours; of the sign of the hours", "time from GPS"},
+      "local time less UTC, minutes beyond the hours, with the sign of the hours", "time from GPS"},
      -59,
      59,
      0,
@@ -208,7 +210,8 @@ inline constexpr tagNumber Numbers[] = {
      2,
      ""},
     {{PARAM_IMPLEMENT_FOLDER_CHOICE, "system.implement-folder",
-      "4 keeps implements in the folder of their vehicle; any other number in their own", "paths of implements"},
+      "4: implements are kept in the folder of their vehicle; other numbers: in their own folder",
+      "paths of implements"},
      AnyLeast,
      AnyGreatest,
      0,
@@ -234,11 +237,11 @@ inline constexpr tagNumber ClockOffset = {
     "s"};
 
 inline constexpr tagDrive Drives[] = {
-    {{PARAM_INTERNAL_DRIVE, "system.internal-drive", "folder of the internal drive; unset, it is in the data folder",
+    {{PARAM_INTERNAL_DRIVE, "system.internal-drive", "folder of the internal drive; by default in the data folder",
       "every path on the terminal"},
      "an absolute path that ends in \"/\""},
     {{PARAM_EXTERNAL_DRIVE, "system.external-drive",
-      "where the removable drive is mounted; unset, it is in the data folder", "every path on the stick, exports"},
+      "mount point of the removable drive; by default in the data folder", "every path on the stick, exports"},
      "an absolute path"},
 };
 
@@ -268,9 +271,9 @@ inline constexpr tagItem Items[] = {
      false},
     {{PARAM_ACTIVE_SPRAYER, "active.sprayer", "the active sprayer", "its path"}, true, false},
     {{PARAM_ACTIVE_BOOM_LEVELLER, "active.boom-leveller", "the active boom leveller", "its path"}, true, false},
-    {{PARAM_CLIENT, "active.client", "whose field is worked", "paths of jobs, lines and boundaries"}, false, true},
-    {{PARAM_FARM, "active.farm", "the farm that is worked", "paths of jobs, lines and boundaries"}, false, true},
-    {{PARAM_FIELD, "active.field", "the field that is worked", "paths of jobs, lines and boundaries"}, false, true},
+    {{PARAM_CLIENT, "active.client", "the active client", "paths of jobs, lines and boundaries"}, false, true},
+    {{PARAM_FARM, "active.farm", "the active farm", "paths of jobs, lines and boundaries"}, false, true},
+    {{PARAM_FIELD, "active.field", "the active field", "paths of jobs, lines and boundaries"}, false, true},
 };
 
 /// By night everything that fills an area is near black, so that the screen does not blind; what must be read or

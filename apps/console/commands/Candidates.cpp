@@ -1,6 +1,6 @@
 #include "console/line/Candidates.h"
 
-#include "console/logs/LogFiles.h"
+#include "console/logs/LogNames.h"
 #include "console/terminal/ActiveItems.h"
 #include "console/units/UnitNames.h"
 
@@ -17,7 +17,7 @@ QStringList ParameterNames(const QStringList&)
     return names;
 }
 
-/// What the parameter before it accepts, where that can be listed.
+/// The values of the parameter before it, when they can be listed.
 QStringList Values(const QStringList& words)
 {
     const tagParameter* const parameter = TParameterCatalogue::Find(words.value(0));
@@ -41,7 +41,7 @@ QStringList Kinds(const QStringList&) { return ActiveItems::Kinds(); }
 
 QStringList Logs(const QStringList&) { return LogNames(); }
 
-/// What the words of a usage stand for.
+/// The values of a placeholder.
 struct tagPlaceholder
 {
     const char* word;

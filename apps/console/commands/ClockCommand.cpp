@@ -1,4 +1,4 @@
-// clock: what the display's clock shows, and the two ways to set it.
+// clock: prints the display's clock, and sets it by hand or from UTC.
 
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
@@ -28,7 +28,7 @@ const int SecondsPerHour = 60 * 60;
 /// from UTC.
 const qint64 GreatestDistance = std::numeric_limits<int>::max() - 24 * SecondsPerHour;
 
-/// What the parameters tell of where the time comes from. Nothing marks a clock that is set by hand.
+/// The source of the time, as far as the parameters tell. No parameter marks a clock that was set by hand.
 struct tagSource
 {
     const char* name;
@@ -125,7 +125,7 @@ bool HasShape(const QString& text, const char* shape)
     return QRegularExpression(QLatin1String(shape)).match(text).hasMatch();
 }
 
-/// Invalid, which is said, when the text is no date of the calendar, or no time of the day.
+/// Invalid, after a message, when the text is not a date of the calendar or a time of the day.
 QDate ReadDate(const QString& text, const TCommandLine& line)
 {
     const QDate date = HasShape(text, DateShape) ? QDate::fromString(text, QLatin1String("yyyy-MM-dd")) : QDate();
@@ -145,7 +145,7 @@ QTime ReadTime(const QString& text, const TCommandLine& line)
     return time;
 }
 
-/// Whether the display's clock can stand so far from the machine's; says so when it cannot.
+/// Whether the store can hold the distance to the machine's clock. Prints a message when it cannot.
 bool IsInReach(const QDateTime& wanted, const TCommandLine& line)
 {
     const qint64 distance = QDateTime::currentDateTimeUtc().secsTo(wanted);
@@ -162,7 +162,7 @@ int SetClock(const tagContext& context, const std::function<void(TRegionSettings
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
-    // The façade tells nobody whether the clock has reached the disk; the end of a hold does.
+    // The façade returns nothing; the end of a hold tells whether the clock is on the disk.
     TPersistenceHold hold(session.Store());
     TRegionSettingsProxy region;
     set(region);

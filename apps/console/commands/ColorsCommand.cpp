@@ -27,7 +27,7 @@ const int ValueWidth = 9; // "#aarrggbb"
 const int Gap = 2;
 const char* const Unpainted = "    ";
 
-/// What the catalogue has for both schemes under one name.
+/// An element that both schemes have.
 struct tagElement
 {
     QString name;
@@ -55,7 +55,7 @@ QVariant Value(TParameterStore& store, const QString& mode, const tagElement& el
     return store.GetParameter(TParameterCatalogue::Find(ParameterName(mode, element.name))->id);
 }
 
-/// As the display reads it: what is no colour is an invalid one.
+/// As the display reads it: invalid when the value is not a colour.
 QColor Color(TParameterStore& store, const QString& mode, const tagElement& element)
 {
     return Value(store, mode, element).value<QColor>();
@@ -67,7 +67,7 @@ QString Text(TParameterStore& store, const QString& mode, const tagElement& elem
                                                                     : Value(store, mode, element));
 }
 
-/// The cell of a table: a patch of the colour, where it is to be painted, and the value.
+/// The cell of a table: a sample of the colour when @p isPainted, and the value.
 QString Cell(TParameterStore& store, const QString& mode, const tagElement& element, bool isPainted)
 {
     QString text = Text(store, mode, element).leftJustified(ValueWidth + Gap);
@@ -154,7 +154,7 @@ QJsonObject Json(TParameterStore& store, const QString& active, const QStringLis
             {QLatin1String("levels"), levels}};
 }
 
-/// Whether standard output shows colours, and whoever looks at it wants any.
+/// Whether standard output is a terminal that shows colours, and NO_COLOR does not forbid them.
 bool CanPaint()
 {
     const QByteArray terminal = qgetenv("TERM");

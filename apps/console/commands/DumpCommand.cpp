@@ -1,4 +1,4 @@
-// dump: what stands in a file of serialized blocks.
+// dump: the contents of a file of serialized blocks.
 
 #include "console/commands/Commands.h"
 #include "console/commands/SerializedFile.h"
@@ -26,7 +26,7 @@ const int LastOfText = 0x7E;
 
 QString InHex(int offset) { return QString::fromLatin1("%1").arg(offset, 8, 16, QLatin1Char('0')); }
 
-/// The bytes as text, where they are some.
+/// The printable bytes as text, a full stop for each other byte.
 QString AsText(const QByteArray& bytes)
 {
     QString text;
@@ -42,7 +42,7 @@ QString Compact(const QJsonValue& value)
     return QString::fromUtf8(array.mid(1, array.size() - 2));
 }
 
-/// One line for each sixteen bytes; the value stands on the first.
+/// One line for each sixteen bytes; the first line has the value.
 void PrintValue(const tagValue& value)
 {
     const int size = static_cast<int>(value.bytes.size());
@@ -92,7 +92,7 @@ void PrintJson(const QList<tagBlock>& blocks)
     PrintJson(array);
 }
 
-/// "string,int" as its types; empty when one of them is unknown, which was said.
+/// The types in "string,int"; empty, after a message, when one of them is unknown.
 QStringList ReadLayout(const QString& text, const TCommandLine& line)
 {
     QStringList types = text.split(QLatin1Char(','));

@@ -46,7 +46,8 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
     return isLogged ? STATUS_DONE : Fail(QLatin1String("cannot write the entry to the user log"));
 }
 
-/// Copies one log, and tells of it in words or in @p array. False when not every file could be copied, which is said.
+/// Copies one log, and reports it as a line or in @p array. False, after a message, when not every file could be
+/// copied.
 bool ExportOne(TDiagnosticLogProxy& log, const char* name, const char* title, const QString& target, QJsonArray* array)
 {
     const TDiagnosticLog::tagExportResult result = log.Export(target);

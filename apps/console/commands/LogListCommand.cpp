@@ -4,7 +4,7 @@
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
 #include "console/logs/LogArgument.h"
-#include "console/logs/LogFiles.h"
+#include "console/logs/LogNames.h"
 
 #include "logs/TLogSeries.h"
 

@@ -5,7 +5,7 @@
 #include "console/line/Output.h"
 #include "console/line/QuitOnSignal.h"
 #include "console/logs/LogArgument.h"
-#include "console/logs/LogFiles.h"
+#include "console/logs/LogNames.h"
 #include "console/logs/LogTail.h"
 
 #include "logs/TLogSeries.h"

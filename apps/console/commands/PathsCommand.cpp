@@ -1,4 +1,4 @@
-// paths: where everything lies.
+// paths: the paths of files and folders.
 
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
@@ -19,7 +19,7 @@ namespace {
 using System = TSystemSettings;
 using Proxy = TSystemSettingsProxy;
 
-/// The names that paths are asked for, each with the parameter of the active one.
+/// The options that name a client, farm, field or job, each with the parameter of the selected one.
 struct tagNameOption
 {
     const char* option;
@@ -39,10 +39,10 @@ struct tagNames
     QString farm;
     QString field;
     QString job;
-    bool isStickPossible; ///< the folder to mount it on exists; without it the library complains at each question
+    bool isStickPossible; ///< the mount point exists; without it the library prints an error at each call
 };
 
-/// A path under its name. An empty path is said to be missing without what @p need names.
+/// A path and its name. @p need names what an empty path lacks.
 struct tagPath
 {
     const char* name;
@@ -135,7 +135,7 @@ QString PerformanceLog(const Proxy& system, const tagNames& names)
 
 QString RemoteViewProfile(const Proxy& system, const tagNames&) { return system.GetRemoteViewProfilePath(0); }
 
-/// Of the names that are given, or else active. Asking touches no disk.
+/// Of the given names, or of the selected ones. Makes no folders.
 const tagPath PathsOfNames[] = {
     {"field-folder", Field, FieldFolder},
     {"field", Field, OfField<&Proxy::GetActiveFieldPath>},
@@ -150,7 +150,7 @@ const tagPath PathsOfNames[] = {
     {"exclusion-zones", Field, OfNames<&Proxy::GetExclusionZoneShapefilePath>},
 };
 
-/// Of active items, besides their own files. Asking makes folders.
+/// Of selected items, besides their own files. Makes folders.
 const tagPath PathsOfActiveItems[] = {
     {"active.area-counters", Nothing, Path<&Proxy::GetActiveAreaCountersPath>},
     {"active.offset-lines-a", ProjectLines, OfProjectLines<&Proxy::GetOffsetLinesShapeFilePathA>},
@@ -246,7 +246,7 @@ QList<tagShown> AllPaths(const tagNames& names, bool areNamesGiven)
     return shown;
 }
 
-/// Whether all names that are given are accepted; says so when one is not.
+/// Whether all given names are accepted. Prints a message when one is not.
 bool AreNamesAccepted(const TCommandLine& line)
 {
     for (const tagNameOption& row : NameOptions) {
@@ -262,7 +262,7 @@ bool AreNamesAccepted(const TCommandLine& line)
     return true;
 }
 
-/// The names that are given become the active ones for this call alone: the library composes some paths of these only.
+/// Selects the given names for this call only: the library composes some paths from the selected names.
 bool TakeNames(const TCommandLine& line, TParameterStore& store)
 {
     bool isAnyGiven = false;

@@ -90,7 +90,7 @@ TRows ClockRows(TParameterStore& store, const TNmeaReceiver::tagStatus& status)
     };
 }
 
-/// The heading stands before the first row alone.
+/// Only the first row has the heading.
 void Append(TRows* rows, const char* heading, const QString& title, const QString& text)
 {
     rows->append({rows->isEmpty() ? QLatin1String(heading) : QString(), title, OrNone(text)});
@@ -160,7 +160,7 @@ TRows DriveRows()
     return rows;
 }
 
-/// An object for each heading, with what stands under it; a heading of one line has its text alone.
+/// An object for each heading, with its rows; a heading of one row has only its text.
 void PrintJson(const QJsonObject& stream, const TRows& rows)
 {
     QJsonObject object{{QLatin1String("stream"), stream}};

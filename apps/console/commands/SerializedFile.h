@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// Files that TBinarySerializer has written: blocks, each with a header and the values behind it.
+/// Files that TBinarySerializer has written: blocks, each with a header and its values.
 namespace SerializedFile {
 
 struct tagValue
@@ -35,7 +35,7 @@ struct tagMisfit
 
 struct tagContent
 {
-    QList<tagBlock> blocks; ///< all that stands before the misfit
+    QList<tagBlock> blocks; ///< the blocks before the misfit
     std::optional<tagMisfit> misfit;
 };
 

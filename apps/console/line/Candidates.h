@@ -3,6 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-/// What may stand for @p placeholder of a usage, for instance PARAMETER, behind @p words; empty when that cannot be
-/// listed. The command line asks; the commands define it, since they know their parameters, units and logs.
+/// The values of @p placeholder, for instance PARAMETER, after the arguments @p words; empty when they cannot be
+/// listed. Declared here for the command line, and defined with the commands, which know parameters, units and logs.
 QStringList Candidates(const QString& placeholder, const QStringList& words);

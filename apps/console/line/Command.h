@@ -16,7 +16,7 @@ enum EStatus : int
 /// What every command works on.
 struct tagContext
 {
-    QString dataFolder; ///< stands for the terminal; see DataFolder
+    QString dataFolder; ///< the folder of one terminal; see DataFolder
 };
 
 /// One word behind "cabsettings".
@@ -27,7 +27,7 @@ struct tagCommand
     int (*run)(const tagContext& context, const QStringList& arguments); ///< arguments[0] is the command's own name
 };
 
-/// Runs the command that arguments[0] names, with what stands behind it. Prints the list of commands for "--help", and
+/// Runs the command that arguments[0] names, with all arguments. Prints the list of commands for "--help", and
 /// a message for anything else.
 /// @param group the commands' common first word, "log"; empty for the program's own.
 int Dispatch(const QString& group, const std::vector<tagCommand>& commands, const tagContext& context,

@@ -12,7 +12,7 @@ namespace {
 const char* const HelpOption = "help";
 const char* const JsonOption = "json";
 
-/// As people type it: "-n", "--speed".
+/// "-n", "--speed"
 QString Dashed(const QString& option) { return QLatin1String(option.size() == 1 ? "-" : "--") + option; }
 
 bool IsOption(const QString& argument)

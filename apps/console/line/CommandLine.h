@@ -22,7 +22,7 @@
 class TCommandLine
 {
 public:
-    /// @param arguments what stands behind the command's name, for instance "PARAMETER VALUE".
+    /// @param arguments the arguments after the command's name, for instance "PARAMETER VALUE".
     /// @param description one paragraph.
     /// @param example a complete line to try.
     TCommandLine(const QString& command, const QString& arguments, const QString& description, const QString& example);

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What may follow on a command line that is being typed; the shell asks for it with "--complete" as the last word.
+/// What may follow on a command line. The shell asks for it with "--complete" as the last word.
 namespace Completion {
 
 /// Whether the line asks for it.

@@ -4,13 +4,13 @@
 
 #include <QStringList>
 
-/// The manual page, written by the commands themselves: "cabsettings --manual" prints it.
+/// The manual page, which "cabsettings --manual" prints. Each command prints its part.
 namespace Manual {
 
 /// Whether the line asks a command for its part of the page.
 bool IsAsked(const QStringList& arguments);
 
-/// Prints what stands before and behind the commands.
+/// Prints the parts before and after the commands.
 void PrintHead();
 void PrintTail();
 

@@ -12,7 +12,7 @@ namespace {
 
 const int Gap = 2; // blanks between columns
 
-/// Behind what stands on standard output already, where both are one terminal.
+/// Flushes standard output first, so that the order is right when both go to one terminal.
 void Say(const QString& text)
 {
     std::fflush(stdout);

@@ -32,12 +32,12 @@ void PrintTable(const QList<QStringList>& rows);
 /// "(none)" for an empty text.
 QString OrNone(const QString& text);
 
-/// Says one line on standard error, behind the program's name, and gives the matching status.
+/// Prints one line on standard error, after the program's name, and returns the matching status.
 int Fail(const QString& text);
 int Misuse(const QString& text);
 
-/// Whether something could not be written to standard output, so that writing more is no use.
+/// Whether writing to standard output has failed, so that further output is useless.
 bool OutputFailed();
 
-/// Whether all output has reached its place; says so when it has not.
+/// Flushes standard output. False, after a message, when not all of it could be written.
 bool FlushOutput();

@@ -1,7 +1,7 @@
 #include "console/logs/LogArgument.h"
 
 #include "console/line/Messages.h"
-#include "console/logs/LogFiles.h"
+#include "console/logs/LogNames.h"
 #include "console/terminal/Session.h"
 
 #include "terminal/DataFolder.h"

@@ -5,9 +5,9 @@
 
 #include <optional>
 
-/// Whether the word names a log; says so when it does not.
+/// Whether @p word is the name of a log. Prints a message when it is not.
 bool IsLog(const QString& word, const TCommandLine& line);
 
-/// The drive on which the logs lie. From the store alone: to look at the logs no terminal need be started, which would
-/// open them. Nothing when the store cannot be opened, which is said.
+/// The internal drive, where the logs are. Reads the store only: a running terminal would open the logs. Nothing, after
+/// a message, when the store cannot be opened.
 std::optional<QString> FindLogDrive(const tagContext& context);

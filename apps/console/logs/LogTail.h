@@ -8,13 +8,13 @@
 /// One line of a log, without its end.
 struct tagLogLine
 {
-    QString file; ///< in which it begins
+    QString file; ///< the file in which the line begins
     QString text;
 };
 
-/// Reads a log's files one after the other as the one text that they are, while the log goes on from file to file. The
-/// files follow one another as TLogSeries orders them; but the file read last comes before any new one, even if the
-/// machine's clock was set back and the new one seems to be older.
+/// Reads the files of a log as one text, also while the log is written. The files are in the order of TLogSeries,
+/// except that a new file comes after the file read last, even when the machine's clock was set back and the new file
+/// seems to be older.
 class TLogTail
 {
 public:
@@ -25,7 +25,7 @@ public:
     /// @param error says which file cannot be read; empty when all could be.
     QList<tagLogLine> Read(QString* error);
 
-    /// What stands behind the last complete line; nothing when its text is empty.
+    /// The text after the last complete line; empty when there is none.
     tagLogLine Unfinished() const;
 
 private:
@@ -33,7 +33,7 @@ private:
 
     QString m_BasePath;
     QHash<QString, qint64> m_Read; ///< how much of each file has been read
-    QString m_LastFile;            ///< from which the newest bytes came
+    QString m_LastFile;            ///< the file of the newest bytes
     QString m_RestFile;
-    QByteArray m_Rest; ///< a line that has begun
+    QByteArray m_Rest; ///< the beginning of an incomplete line
 };

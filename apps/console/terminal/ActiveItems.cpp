@@ -106,7 +106,7 @@ QString ActiveItems::Path(const tagParameter& item)
 
 bool ActiveItems::Select(TParameterStore& store, const tagParameter& item, const QString& name)
 {
-    // The façade's setters tell nobody whether the name has reached the disk; the end of a hold does.
+    // The façade's setters return nothing; the end of a hold tells whether the name is on the disk.
     TPersistenceHold hold(store);
     const tagDoor* const door = FindDoor(item);
     if (door && door->select)

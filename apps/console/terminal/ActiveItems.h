@@ -8,7 +8,7 @@
 #include <QStringList>
 
 /// What the operator has selected: the job, the vehicle, the field and so on, each a parameter "active.…" of the
-/// catalogue. The kinds are named by what stands behind the full stop.
+/// catalogue. The kind is the part of the name after "active.".
 ///
 /// Needs a terminal that runs, except for the kinds themselves.
 namespace ActiveItems {

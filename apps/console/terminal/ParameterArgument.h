@@ -20,10 +20,10 @@ struct tagParameterArgument
     QString Name() const;
 };
 
-/// Reads a word that is a name or a number. Nothing when it is none, which is said, with the names near to it.
+/// The parameter that @p word names. Nothing, after a message, when it is neither a name nor a number.
 std::optional<tagParameterArgument> ReadParameter(const QString& word, const TCommandLine& line);
 
-/// The value as people write it; @p known may be null.
+/// The value as text, a choice by its name; @p known may be null.
 QString ValueText(const tagParameter* known, const QVariant& value);
 
 /// Number, name, type, value, default, accepts, meaning and so on; an absent value is null.

@@ -1,4 +1,4 @@
-#include "console/logs/LogFiles.h"
+#include "console/logs/LogNames.h"
 
 #include "system/TSystemSettings.h"
 

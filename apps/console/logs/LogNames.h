@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The names by which people know the diagnostic logs: "user" and "nmea".
+/// The names of the diagnostic logs on the command line: "user" and "nmea".
 QStringList LogNames();
 
 /// Base path of a log's series on the internal drive, as TLogSeries takes it. @param logName one of LogNames().
