@@ -1,32 +1,15 @@
-#include "TestHost.h"
+#include "TReceivingDisplay.h"
 
 #include "diagnostics/EReceiverEvent.h"
-#include "diagnostics/KeptLogs.h"
-#include "logs/TNEMADiagnosticLogProxy.h"
-#include "logs/TUserDiagnosticLogProxy.h"
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TNmeaReceiver.h"
 #include "region/TRegionSettingsProxy.h"
-#include "settings/TSettings.h"
 
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <cmath>
 
 namespace {
-
-// The display runs two and a half hours ahead of UTC, by the operator's choice.
-const int OffsetHours = 2;
-const int OffsetMinutes = 30;
-
-QDateTime DisplayTime(const QDateTime& utc)
-{
-    const QTime offset(OffsetHours, OffsetMinutes);
-    return utc.addMSecs(offset.msecsSinceStartOfDay());
-}
-
-QDateTime Clock() { return QDateTime(TTestClock::date, TTestClock::time, Qt::UTC); }
 
 QByteArray Line(const QByteArray& body) { return '$' + body + NmeaChecksum(body) + "\r\n"; }
 
@@ -45,12 +28,6 @@ QByteArray Zda(const char* time) { return Line(QByteArray("GPZDA,") + time + ",0
 
 QByteArray Damaged(QByteArray line) { return line.replace(8, 1, "x"); }
 
-QByteArray LogText(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 using TLines = QList<QByteArray>;
 
 } // namespace
@@ -60,8 +37,8 @@ class NmeaReceiver : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_Display = std::make_unique<TReceivingDisplay>(); }
+    void cleanup() { m_Display.reset(); }
 
     void everyLineIsLoggedAsReceived();
     void aClosedLogIsCounted();
@@ -84,58 +61,9 @@ private slots:
     void theStatusShowsTheLastValues();
     void valuesWithoutAFixAreNotTaken();
 
-    void recordingsSetTheClock_data();
-    void recordingsSetTheClock();
-
 private:
-    QString PathOf(const char* name) const { return m_Folder->filePath(QLatin1String(name)); }
-    QByteArray NmeaLog() const;
-    QStringList UserLog() const;
-
-    QTemporaryDir* m_Folder;
-    TTestStore* m_Store;
-    TSettings* m_Settings;
+    std::unique_ptr<TReceivingDisplay> m_Display;
 };
-
-void NmeaReceiver::init()
-{
-    TTestClock::Reset();
-    m_Folder = new QTemporaryDir;
-    m_Store = new TTestStore;
-    m_Store->values[PARAM_UTC_OFFSET_HOURS] = OffsetHours;
-    m_Store->values[PARAM_UTC_OFFSET_MINUTES] = OffsetMinutes;
-    m_Store->values[PARAM_UTC_OFFSET_SET_BY_USER] = true;
-    m_Settings = new TSettings;
-    Settings = m_Settings;
-    QVERIFY(TUserDiagnosticLogProxy().Restore(PathOf("user.log"), 1, 0));
-    QVERIFY(TNEMADiagnosticLogProxy().Restore(PathOf("nmea.log"), 1, 1LL << 40));
-}
-
-void NmeaReceiver::cleanup()
-{
-    FinishLogs();
-    Settings = nullptr;
-    delete m_Settings;
-    delete m_Store;
-    delete m_Folder;
-}
-
-QByteArray NmeaReceiver::NmeaLog() const
-{
-    TNEMADiagnosticLogProxy().Close();
-    return LogText(PathOf("nmea.log"));
-}
-
-/// Without date and time.
-QStringList NmeaReceiver::UserLog() const
-{
-    const int timeLength = 24; // "2024.05.01-13:07:09:042,"
-    QStringList entries = QString::fromLatin1(LogText(PathOf("user.log"))).split(QLatin1String("\r\n"));
-    entries.removeLast();
-    for (QString& entry : entries)
-        entry.remove(0, timeLength);
-    return entries;
-}
 
 void NmeaReceiver::everyLineIsLoggedAsReceived()
 {
@@ -152,7 +80,7 @@ void NmeaReceiver::everyLineIsLoggedAsReceived()
     for (const QByteArray& line : lines)
         receiver.Receive(line);
     QCOMPARE(receiver.GetStatus().unloggedLines, qint64(0));
-    QCOMPARE(NmeaLog(), lines.join());
+    QCOMPARE(m_Display->NmeaLog(), lines.join());
 }
 
 void NmeaReceiver::aClosedLogIsCounted()
@@ -229,12 +157,12 @@ void NmeaReceiver::onlyValidTimesReachTheClock()
 {
     QFETCH(TLines, lines);
     QFETCH(QDateTime, utc);
-    const QDateTime before = Clock();
+    const QDateTime before = TReceivingDisplay::Clock();
     TNmeaReceiver receiver;
     for (const QByteArray& line : lines)
         receiver.Receive(line);
 
-    QCOMPARE(Clock(), utc.isValid() ? DisplayTime(utc) : before);
+    QCOMPARE(TReceivingDisplay::Clock(), utc.isValid() ? TReceivingDisplay::LocalTime(utc) : before);
     QCOMPARE(receiver.GetStatus().utc.isValid(), utc.isValid());
     QCOMPARE(TRegionSettingsProxy().IsGPSTimeRecieved(), utc.isValid());
     if (utc.isValid())
@@ -249,18 +177,18 @@ void NmeaReceiver::theClockIsSetOnceASecond()
         receiver.Receive(Zda(time));
     }
     const auto isClockOffset = [](const QPair<int, QVariant>& write) { return write.first == PARAM_CLOCK_OFFSET; };
-    QCOMPARE(std::count_if(m_Store->writes.cbegin(), m_Store->writes.cend(), isClockOffset), 2);
+    QCOMPARE(std::count_if(m_Display->store.writes.cbegin(), m_Display->store.writes.cend(), isClockOffset), 2);
     QCOMPARE(receiver.GetStatus().utc.time(), QTime(11, 7, 10, 350));
 }
 
 void NmeaReceiver::theClockGoesByTheOperatorsOffset()
 {
-    m_Store->values[PARAM_UTC_OFFSET_SET_BY_USER] =
+    m_Display->store.values[PARAM_UTC_OFFSET_SET_BY_USER] =
         false; // the clock stands at 14:05: three hours ahead of the receiver
     TNmeaReceiver receiver;
     receiver.Receive(Rmc("110509.00"));
-    QCOMPARE(m_Store->values[PARAM_UTC_OFFSET_HOURS], QVariant(3));
-    QCOMPARE(m_Store->values[PARAM_UTC_OFFSET_MINUTES], QVariant(0));
+    QCOMPARE(m_Display->store.values[PARAM_UTC_OFFSET_HOURS], QVariant(3));
+    QCOMPARE(m_Display->store.values[PARAM_UTC_OFFSET_MINUTES], QVariant(0));
     QCOMPARE(TTestClock::time, QTime(14, 5, 9));
     QCOMPARE(TTestClock::date, QDate(2024, 5, 1));
 }
@@ -359,7 +287,7 @@ void NmeaReceiver::aFixThatComesAndGoesDoesNotFillTheLog()
 
     QStringList entries;
     QStringList timesSet;
-    for (const QString& entry : UserLog()) {
+    for (const QString& entry : m_Display->Entries()) {
         const QString code = entry.section(QLatin1Char('/'), 2).section(QLatin1Char(','), 0, 0);
         const QString text1 = entry.section(QLatin1Char(','), 3, 3);
         const QString text2 = entry.section(QLatin1Char(','), 4, 4);
@@ -392,7 +320,7 @@ void NmeaReceiver::eventsReachTheUserLog()
     for (const QByteArray& line : lines)
         receiver.Receive(line);
     receiver.Finish();
-    QTEST(UserLog(), "entries");
+    QTEST(m_Display->Entries(), "entries");
 }
 
 void NmeaReceiver::entriesCarryTheClockAsItStands()
@@ -400,7 +328,7 @@ void NmeaReceiver::entriesCarryTheClockAsItStands()
     TNmeaReceiver receiver;
     receiver.Receive(Rmc("110709.00"));
     receiver.Receive(Rmc("110710.00", 'V'));
-    QCOMPARE(LogText(PathOf("user.log")),
+    QCOMPARE(m_Display->UserLog(),
              QByteArray("2024.03.05-14:05:09:042,GPS Receiver,Event,1/1/1,52.2000000 10.5000000,\r\n"
                         "2024.05.01-13:37:09:000,GPS Receiver,Event,1/1/4,2024-05-01T11:07:09Z,2024-05-01T13:37:09\r\n"
                         "2024.05.01-13:37:09:000,GPS Receiver,Event,1/1/2,,\r\n"));
@@ -452,7 +380,7 @@ void NmeaReceiver::badChecksumsAreReportedByTheMinute()
     TNmeaReceiver receiver;
     const auto counts = [this] {
         QStringList texts;
-        for (const QString& entry : UserLog().filter(QLatin1String("1/1/5")))
+        for (const QString& entry : m_Display->Entries().filter(QLatin1String("1/1/5")))
             texts.append(entry.section(QLatin1Char(','), 3, 3));
         return texts;
     };
@@ -510,45 +438,6 @@ void NmeaReceiver::valuesWithoutAFixAreNotTaken()
     QVERIFY(!status.hasFix);
     QCOMPARE(status.latitude, 52.2);
     QCOMPARE(status.utc.time(), QTime(11, 7, 10));
-}
-
-void NmeaReceiver::recordingsSetTheClock_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QDateTime>("utc");
-
-    QTest::newRow("RTK receiver") << QString::fromLatin1("rtk-receiver-29s.nmea")
-                                  << QDateTime(QDate(2019, 4, 12), QTime(0, 40, 24), Qt::UTC);
-    QTest::newRow("modem") << QString::fromLatin1("modem-receiver-224s.nmea")
-                           << QDateTime(QDate(2019, 3, 12), QTime(10, 54, 59), Qt::UTC);
-}
-
-void NmeaReceiver::recordingsSetTheClock()
-{
-    QFETCH(QString, name);
-    QFETCH(QDateTime, utc);
-    QFile file(qEnvironmentVariable("CABSETTINGS_NMEA_RECORDINGS") + QLatin1Char('/') + name);
-    if (!file.open(QIODevice::ReadOnly))
-        QSKIP("The recordings are not here");
-
-    TNmeaReceiver receiver;
-    QByteArray stream;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
-        stream += line;
-        receiver.Receive(line);
-    }
-    receiver.Finish();
-
-    const TNmeaReceiver::tagStatus& status = receiver.GetStatus();
-    QCOMPARE(Clock(), DisplayTime(utc));
-    QCOMPARE(status.utc.toSecsSinceEpoch(), utc.toSecsSinceEpoch());
-    QVERIFY(status.hasFix);
-    QVERIFY(!std::isnan(status.latitude) && !std::isnan(status.altitude));
-    QCOMPARE(status.lines, status.sentences + status.badChecksums + status.damagedLines);
-    QCOMPARE(status.unloggedLines, qint64(0));
-    QCOMPARE(UserLog().filter(QLatin1String("1/1/1,")).size(), 1);
-    QCOMPARE(NmeaLog(), stream);
 }
 
 QTEST_GUILESS_MAIN(NmeaReceiver)
