@@ -36,13 +36,20 @@ public:
 
     bool IsThere() const { return m_Receiver >= 0; }
 
+    /// The name that the system has given the device.
+    QString Name() const { return QString::fromLocal8Bit(ptsname(m_Receiver)); }
+
     /// The name under which it is found from now on; it takes the place of whatever had it before.
     bool PlugIn(const QString& path) const
     {
         QFile::remove(path);
-        return QFile::link(QString::fromLocal8Bit(ptsname(m_Receiver)), path);
+        return QFile::link(Name(), path);
     }
 
+    /// From now on, what does not fit into the device's buffer is lost, as on a line that nobody reads.
+    void LoseWhatIsNotRead() const { fcntl(m_Receiver, F_SETFL, O_NONBLOCK); }
+
+    /// Whether all of it was written.
     bool Write(const QByteArray& bytes) const
     {
         return write(m_Receiver, bytes.constData(), static_cast<std::size_t>(bytes.size())) == bytes.size();
