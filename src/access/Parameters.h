@@ -6,8 +6,8 @@
 #include <QString>
 #include <QVariant>
 
-/// The library's one door to the host's parameter store. Nothing is cached: every call goes to the store, which must be
-/// safe for calls from several threads.
+/// The only place where the library reads and writes the host's parameter store. Nothing is cached: every call goes to
+/// the store, which must be safe for calls from several threads.
 namespace Parameters {
 
 inline bool Has(EParamID id) { return ConfigManager->HasParameter(id); }
@@ -21,8 +21,8 @@ inline bool ReadBool(EParamID id) { return ConfigManager->GetParameter(id).toBoo
 /// Empty for a parameter that is absent.
 inline QString ReadString(EParamID id) { return ConfigManager->GetParameter(id).toString(); }
 
-/// Invalid, never black, for a parameter that is absent or that does not convert to a colour: value() copies a colour
-/// out, converts what QtGui can convert (a name, say) and gives QColor() for the rest.
+/// Invalid, never black, for a parameter that is absent or cannot be converted to a colour. QtGui converts some other
+/// types, for instance the name of a colour.
 inline QColor ReadColor(EParamID id) { return ConfigManager->GetParameter(id).value<QColor>(); }
 
 void WriteInt(EParamID id, int value);

@@ -1,9 +1,9 @@
 #pragma once
 
-/// The object behind a locking façade, out of reach except under the façade's lock.
+/// The object behind a façade that locks. It can only be reached while the façade's lock is held.
 ///
-/// By() returns an access that holds the lock until the end of the full expression it stands in, so a forwarder is one
-/// line, cannot forget the lock, and releases it even when the forwarded call throws:
+/// By() locks and returns an access that unlocks at the end of the full expression, also when the call throws. So a
+/// forwarder is one line and cannot forget the lock:
 ///
 ///     QString TSomeProxy::GetName() const { return m_Target.By(*this)->GetName(); }
 ///

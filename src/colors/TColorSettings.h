@@ -7,29 +7,33 @@
 
 /// Colours of map and controls, for day and for night.
 ///
-/// Every value is a parameter of the host's store. Each element has one parameter for each scheme; getters and setters
-/// look at the mode at the moment of the call, so a colour set at night leaves the day's as it was. No default is built
-/// in: an element that the store does not hold, or holds as something that is no colour, reads as an invalid QColor; an
-/// absent level or number reads as 0; an absent mode reads as night.
+///     TColorSettingsProxy colors;
+///     colors.SetDayMode(false);
+///     map->setBackground(colors.GetMapColor()); // the colour for the night
 ///
-/// Holds no data and takes no lock: each call is one or two reads and at most one write of the store. A mode switch
-/// between the two reads of another thread's call can give that call the old scheme's value.
+/// Every value is a parameter of the host's store. Each element has two parameters, one for the day and one for the
+/// night; the mode at the moment of the call decides which one is read or written. There are no built-in defaults. An
+/// element that is absent, or is not a colour, reads as an invalid QColor. An absent level or number reads as 0, an
+/// absent mode as night.
+///
+/// Has no data and no lock: a call reads the store once or twice and writes it at most once. If another thread changes
+/// the mode between the two reads, the value is that of the mode before.
 class CABSETTINGS_EXPORT TColorSettings
 {
 public:
     virtual ~TColorSettings();
 
-    /// There is nothing to restore: the values live in the store.
+    /// Does nothing: the values are in the store.
     void Restore();
 
-    /// True for the day scheme, false for the night scheme. Switching changes no colour.
+    /// True for the day, false for the night. A change of the mode changes no stored colour.
     void SetDayMode(bool day);
     bool IsDayMode() const;
 
     /// 0 by day, 1 by night: the index into the key arrays below.
     int GetKeyIndex() const;
 
-    /// Night levels, read only, on scales of the host's.
+    /// Night levels, which can only be read. The host defines their scales.
     int GetLightbarNightLevel() const;
     int GetBacklightNightLevel() const;
     int GetButtonLedNightLevel() const;
@@ -65,7 +69,7 @@ public:
     QColor GetCrossHairsColor() const;
     void SetCrossHairsColor(const QColor& color);
 
-    /// Number of the background picture, of the host's.
+    /// Number of the background picture. The host defines the numbers.
     int GetBackgroundNumber() const;
     void SetBackgroundNumber(int number);
 

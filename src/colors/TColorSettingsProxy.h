@@ -6,9 +6,12 @@
 
 class TColorSettings;
 
-/// The way to the colour scheme of Settings; see TColorSettings for what each operation does.
+/// Façade of the colours of Settings; see TColorSettings for what the operations do.
 ///
-/// Forwards without a lock: every call is safe from any thread because the host's store is.
+///     const QColor text = TColorSettingsProxy().GetTextColor();
+///     const QColor shown = text.isValid() ? text : QColor(Qt::black);
+///
+/// Takes no lock. Calls are safe from any thread, since the host's store is.
 class CABSETTINGS_EXPORT TColorSettingsProxy
 {
 public:

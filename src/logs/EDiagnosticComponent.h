@@ -1,6 +1,6 @@
 #pragma once
 
-/// The part of the machine that a user-log entry speaks of. Logs and hosts carry the numbers: they never change.
+/// The part of the machine that a user-log entry is about. Logs and hosts use the numbers: they never change.
 enum EDiagnosticComponent : int
 {
     DIAG_COMPONENT_CONSOLE = 0,

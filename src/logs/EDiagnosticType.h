@@ -1,6 +1,6 @@
 #pragma once
 
-/// What a user-log entry records. Logs and hosts carry the numbers: they never change.
+/// What a user-log entry records. Logs and hosts use the numbers: they never change.
 enum EDiagnosticType : int
 {
     DIAG_TYPE_PARAM = 0, ///< a parameter was changed

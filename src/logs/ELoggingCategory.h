@@ -1,6 +1,6 @@
 #pragma once
 
-/// Weight of a log entry; single bits, to be combined into filters. The numbers never change.
+/// Importance of a log entry. Each value is one bit, so that filters can combine them. The numbers never change.
 enum ELoggingCategory : int
 {
     LOG_CATEGORY_CRITICAL = 2,

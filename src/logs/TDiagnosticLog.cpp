@@ -32,7 +32,7 @@ long long Milliseconds()
     return static_cast<long long>(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
 }
 
-/// How much got there: less than @p length only when the system takes no more.
+/// Returns the number of bytes written: less than @p length only when the system takes no more.
 int WriteAll(int file, const char* data, int length)
 {
     int done = 0;
@@ -47,7 +47,7 @@ int WriteAll(int file, const char* data, int length)
     return done;
 }
 
-/// Writes @p value with leading zeros and a separator behind it; returns where the next byte goes.
+/// Writes @p value with leading zeros and a separator behind it. Returns the position of the next byte.
 template <int Digits>
 char* Put(char* to, int value, char separator)
 {
@@ -68,7 +68,7 @@ QByteArray DateStamp(const QDate& date)
 
 const int TimeLength = 13; // "13:07:09:042,"
 
-/// Nothing for an invalid time.
+/// Writes nothing for an invalid time.
 char* PutTime(char* to, const QTime& time)
 {
     if (!time.isValid())
@@ -85,7 +85,7 @@ char* PutLatin1(char* to, const QString& text)
 {
     const QChar* from = text.constData();
     auto left = text.size();
-    std::array<QChar, 8> letters; // a register full, which the compiler converts at once
+    std::array<QChar, 8> letters; // as many as the compiler converts in one step
     std::array<char, letters.size()> bytes;
     for (; left >= static_cast<int>(letters.size()); left -= static_cast<int>(letters.size())) {
         std::copy_n(from, letters.size(), letters.begin());
@@ -141,8 +141,8 @@ bool TDiagnosticLog::Open()
     m_HasFailed = true;
     if (m_FileName.isEmpty())
         return false;
-    // Unbuffered: the writes go past the QFile, straight to the system, and their results tell how much really got
-    // there. Append: should a second program write the same log, no line overwrites another.
+    // Unbuffered: the log writes through the file descriptor, so that it knows how many bytes were written. Append: if
+    // a second program writes the same log, no line overwrites another.
     if (!m_File.open(QIODevice::ReadWrite | QIODevice::Append | QIODevice::Unbuffered))
         return false;
     m_FileLength = m_File.pos();
@@ -205,7 +205,7 @@ bool TDiagnosticLog::LogDiagnostic(const char* data, int length)
     }
     if (m_StagingFill > 0 && length <= m_StagingSize && m_FileLength + m_StagingFill <= m_MaxFileSize)
         return WriteBehindStaged(data, length);
-    FlushTempBuffer(); // where what is staged ends its file, these bytes go to the next
+    FlushTempBuffer(); // if the staged bytes fill the file, these bytes go to the next one
     return WriteToLog(data, length);
 }
 
@@ -215,7 +215,7 @@ bool TDiagnosticLog::WriteBehindStaged(const char* data, int length)
     m_StagingFill = 0;
     std::copy_n(data, length, m_Staging.begin() + staged);
     const int written = Append(m_Staging.data(), staged + length);
-    if (written < staged) { // what is staged is given up, these bytes are not
+    if (written < staged) { // the staged bytes are dropped, these are tried once more
         CountLost(m_Staging.data() + written, staged - written);
         return WriteToLog(data, length);
     }
@@ -341,14 +341,14 @@ QString TDiagnosticLog::NextFileName(ENewest newestIs)
         if (static_cast<int>(files.size()) >= m_MaxFileCount)
             QFile::remove(series.GetPath(files.front().name));
     }
-    const QString path = series.GetPath(series.GetName(m_Iteration));
+    QString path = series.GetPath(series.GetName(m_Iteration));
     NextLogFileIterationNumber();
     return path;
 }
 
 QString TDiagnosticLog::NextLogFileIterationNumber()
 {
-    const QString number = TLogSeries::GetNumberText(m_Iteration);
+    QString number = TLogSeries::GetNumberText(m_Iteration);
     m_Iteration = TLogSeries::GetNumberAfter(m_Iteration);
     Parameters::WriteInt(m_IterationParam, m_Iteration);
     return number;

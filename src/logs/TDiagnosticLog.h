@@ -16,12 +16,16 @@
 /// A base path of /logs/user.log gives /logs/user00001.log, /logs/user00002.log and so on; 99999 is followed by 00001.
 /// Every file of the folder whose name starts with "user" and ends with ".log" belongs to the series.
 ///
-/// No operation reports anywhere but in its result. Has no lock of its own: callers go through the façades
+///     TDiagnosticLog log(0, 0x100000, 4, PARAM_USER_LOG_FILE_NUMBER);
+///     if (log.Restore(QLatin1String("/logs/user.log"), 0, 0))
+///         log.AddEntry(QLatin1String("started"));
+///
+/// Failures are reported by the results alone. The log has no lock of its own: callers go through the façades
 /// (TUserDiagnosticLogProxy, TNEMADiagnosticLogProxy), which serialise the calls.
 class CABSETTINGS_EXPORT TDiagnosticLog
 {
 public:
-    /// Result of an export.
+    /// The result of an export.
     struct tagExportResult
     {
         int filesFound;   ///< files of the series
@@ -33,8 +37,8 @@ public:
     struct tagState
     {
         bool isOpen;
-        bool hasFailed;      ///< closed, though nobody has closed it: its file could not be opened; see Reopen()
-        long long lostLines; ///< lines handed over that are in no file, since the log was constructed
+        bool hasFailed;      ///< closed because its file could not be opened, not by Close(); see Reopen()
+        long long lostLines; ///< lines given to this object that are in no file
     };
 
     /// @param stagingSize bytes of the staging buffer; 0 writes every entry straight to the file.
@@ -44,23 +48,25 @@ public:
     ///        is taken. That write happens inside the calls below, under the façade's lock: the store must not log.
     TDiagnosticLog(int stagingSize, long long maxFileSize, int maxFileCount, EParamID iterationParam);
 
-    /// Closes the log; what is staged is written.
+    /// Writes what is staged and closes the log.
     virtual ~TDiagnosticLog();
 
     TDiagnosticLog(const TDiagnosticLog&) = delete;
     TDiagnosticLog& operator=(const TDiagnosticLog&) = delete;
 
-    /// Names the series and opens its current file. False, changing nothing, when the log is open already, and false
-    /// when the folder does not exist (it is never made here) or the file cannot be opened: the log is then closed.
-    /// @param maxFileCount files kept, 0 for the constructor's number.
-    /// @param maxFileSize bytes, 0 for the constructor's limit.
+    /// Names the series and opens its current file. An open log is not changed, and the result is false. False too when
+    /// the folder does not exist, since it is never made here, or when the file cannot be opened; the log is then
+    /// closed.
+    /// @param basePath folder, stem and extension of the series.
+    /// @param maxFileCount number of files kept; 0 for the constructor's number.
+    /// @param maxFileSize bytes; 0 for the constructor's limit.
     bool Restore(const QString& basePath, int maxFileCount, long long maxFileSize);
 
     /// Opens the current file at its end. False when the log is open already, was never restored, or cannot be opened.
     bool Open();
 
-    /// Opens a log that has failed: the file that could not be opened before, without a number taken again. False when
-    /// the log has not failed, and when it fails again.
+    /// Opens a log that has failed. It tries the same file again and takes no new number. False when the log has not
+    /// failed, and when the file still cannot be opened.
     bool Reopen();
 
     /// Whether the log is open, and what it has lost. A log has failed when Restore(), Open() or Export() could not
@@ -72,12 +78,12 @@ public:
     /// Writes what is staged and closes the file.
     void Close();
 
-    /// Closes the file; what is staged stays staged, and is dropped by the next flush of a closed log.
+    /// Closes the file. What is staged stays staged; a flush of the closed log drops it.
     void CloseWithoutFlush();
 
-    /// Stages @p length bytes, or writes them, behind what is staged, when they do not fit into what is left of the
-    /// staging buffer. False when the log is closed or not all of them were written; what is staged and cannot be
-    /// written is dropped without a word.
+    /// Stages @p length bytes. If they do not fit into the staging buffer, writes what is staged and then these bytes.
+    /// False when the log is closed or when not all of these bytes were written. Staged bytes that cannot be written
+    /// are dropped, which the result does not tell; see GetState().
     bool LogDiagnostic(const char* data, int length);
 
     /// Writes what is staged. False when nothing was staged, the log is closed, or not everything was written; the
@@ -99,20 +105,21 @@ public:
     /// Copies every file of the series, complete, into the folder @p target, overwriting, and opens the log again.
     tagExportResult Export(const QString& target);
 
-    /// The copying alone, oldest file first. One that fails does not keep the others from being copied.
+    /// Copies as Export() does, the oldest file first, but leaves the log open or closed as it is. When one copy fails,
+    /// the others are made all the same.
     tagExportResult ExportFile(const QString& target);
 
-    /// The file to log to next: the newest of the series while it has room, else a new one, for which the oldest is
-    /// removed when there are too many. Empty when the folder does not exist.
+    /// Path of the file to log to next: the newest of the series if it has room, otherwise a new one. For a new one the
+    /// oldest file is removed when there are too many. Empty when the folder does not exist.
     QString GenerateNextFileName();
 
     /// Takes the next number of the series, in five digits.
     QString NextLogFileIterationNumber();
 
 private:
-    /// Which file of the series counts as the newest. While the log goes on to its next file that is the one it has
-    /// just filled, even if the machine's clock was set back and older files seem to be newer: else the next number
-    /// would be taken from one of those, and what was just written be removed as the oldest.
+    /// Which file of the series counts as the newest. When the log goes on to its next file, it is the file that the
+    /// log has just filled, whatever the times: if the machine's clock was set back, older files seem to be newer. The
+    /// next number would then follow one of those, and the file just written could be removed as the oldest.
     enum ENewest
     {
         NEWEST_BY_TIME,

@@ -6,8 +6,12 @@
 
 #include <QString>
 
-/// Base of the log façades: forwards to one log, under the lock of the derived class. See TDiagnosticLog for what each
-/// operation does.
+/// Base of the log façades. Forwards each operation to one log while it holds the lock of the derived class. See
+/// TDiagnosticLog for what the operations do.
+///
+///     TUserDiagnosticLogProxy userLog;
+///     TDiagnosticLogProxy& log = userLog;
+///     log.AddEntry(QLatin1String("started"));
 class CABSETTINGS_EXPORT TDiagnosticLogProxy
 {
 public:
@@ -20,7 +24,7 @@ public:
     virtual bool AddEntry(const QString& text);
     virtual bool LogDiagnostic(const char* data, int length);
 
-    /// Not virtual, so that the order of the virtual operations stays as it is.
+    /// Not virtual: programs that were built before call the virtual operations by their position.
     bool Reopen();
     bool FlushTempBuffer();
     TDiagnosticLog::tagState GetState();

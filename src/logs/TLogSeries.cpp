@@ -29,8 +29,8 @@ bool IsOf(std::string_view stem, std::string_view extension, std::string_view na
            name.substr(name.size() - extension.size()) == extension;
 }
 
-/// The order of numbers in a series whose greatest number is @p greatest: a number far below it comes after it, since
-/// the series has gone round. Less than 0 without a number.
+/// Orders the numbers of a series whose greatest number is @p greatest. A number far below it comes after it: 00001
+/// follows 99999. Less than 0 without a number.
 qint64 Rank(const std::optional<int>& number, int greatest)
 {
     const qint64 rank = number.value_or(-1);
@@ -57,8 +57,8 @@ QString TLogSeries::GetName(int number) const { return m_Stem + GetNumberText(nu
 
 std::vector<TLogSeries::tagFile> TLogSeries::GetFiles(const QString& lastWritten) const
 {
-    // Read without Qt, which makes objects of every name: a folder may hold a thousand other files. Names are compared
-    // letter by letter, since in a wildcard a "[" of the stem would stand for something else.
+    // Read without Qt, which makes an object for every name: a folder may hold a thousand other files. Names are
+    // compared byte by byte. In a wildcard, a "[" of the stem would be more than a letter.
     const QByteArray stem = QFile::encodeName(m_Stem);
     const QByteArray extension = QFile::encodeName(m_Extension);
     const QByteArray path = m_Folder.isEmpty() ? QByteArray(".") : QFile::encodeName(m_Folder);

@@ -5,7 +5,10 @@
 
 #include <QMutex>
 
-/// The way to the NMEA log of Settings, under a lock of its own.
+/// Façade of the NMEA log of Settings. Safe from any thread: each call holds Mutex, which is not recursive.
+///
+///     TNEMADiagnosticLogProxy log;
+///     const bool isLogged = log.Log(line.constData(), line.size());
 class CABSETTINGS_EXPORT TNEMADiagnosticLogProxy : public TDiagnosticLogProxy
 {
 public:
@@ -16,6 +19,6 @@ public:
     void Unlock() override;
     static QMutex Mutex;
 
-    /// Logs raw bytes as received; LogDiagnostic() by another name.
+    /// Logs raw bytes as received. The same as LogDiagnostic().
     bool Log(const char* data, int length);
 };

@@ -19,7 +19,7 @@ void Proxy::Unlock() { Mutex.unlock(); }
 bool Proxy::AddEntry(EDiagnosticComponent component, EDiagnosticType type, int code, const QString& text1,
                      const QString& text2)
 {
-    const auto log = m_Log.By(*this); // held while the line is put together, so that entries keep their order
+    const auto log = m_Log.By(*this); // also while the line is composed, so that the entries keep their order
     const QString codeField =
         type == DIAG_TYPE_DTC ? QString::number(code) : ConfigManager->GetDiagnosticText(component, type, code);
     return log->AddEntry(GetComponentStr(component) % GetSeparator() % GetTypeStr(type) % GetSeparator() % codeField %

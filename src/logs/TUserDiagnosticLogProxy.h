@@ -8,7 +8,10 @@
 #include <QMutex>
 #include <QString>
 
-/// The way to the user log of Settings, under a lock of its own.
+/// Façade of the user log of Settings. Safe from any thread: each call holds Mutex, which is not recursive.
+///
+///     TUserDiagnosticLogProxy log;
+///     log.AddEntry(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_DTC, 512, nozzleName, QLatin1String("blocked"));
 class CABSETTINGS_EXPORT TUserDiagnosticLogProxy : public TDiagnosticLogProxy
 {
 public:
@@ -21,9 +24,10 @@ public:
 
     using TDiagnosticLogProxy::AddEntry;
 
-    /// Logs one event as "component,type,code,text1,text2" behind date and time. @p code stands in decimal for a
-    /// trouble code and else by the name that the host's store gives it. Commas in the two texts become blanks, so that
-    /// free text never adds a field; the host's name is taken as it comes. Result as of TDiagnosticLog::AddEntry().
+    /// Logs one event: date and time, then "component,type,code,text1,text2". The code of DIAG_TYPE_DTC is written in
+    /// decimal; for the other types the host's store gives a name, which is written unchanged. Commas in the two texts
+    /// become blanks, so that a text never adds a field. Line breaks are not replaced. Result as of
+    /// TDiagnosticLog::AddEntry().
     virtual bool AddEntry(EDiagnosticComponent component, EDiagnosticType type, int code, const QString& text1,
                           const QString& text2);
 
@@ -32,7 +36,7 @@ public:
     static const QString& GetSeparatorReplacement();
     static QString GetSeparatorReplacedStr(const QString& text);
 
-    /// The English name in the log; empty for a number that is none. Never translated.
+    /// The English name in the log, never translated; empty for a number that is not in the enumeration.
     static QString GetTypeStr(EDiagnosticType type);
     static QString GetComponentStr(EDiagnosticComponent component);
 };

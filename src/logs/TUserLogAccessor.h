@@ -8,7 +8,11 @@
 #include <QObject>
 #include <QString>
 
-/// The user log as a QObject, for code that can be handed nothing else. Safe from any thread.
+/// The user log as a QObject, for code that takes QObjects only. Safe from any thread.
+///
+///     TUserLogAccessor accessor;
+///     UserLogAccessorPtr = &accessor;
+///     UserLogAccessorPtr->AddEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_PARAM, PARAM_ACTIVE_JOB, oldName, newName);
 class CABSETTINGS_EXPORT TUserLogAccessor : public QObject
 {
     Q_OBJECT
@@ -25,5 +29,5 @@ public:
     virtual QString GetLoggingCategoryName(ELoggingCategory category) const;
 };
 
-/// The one accessor: null until the host sets it. The library neither sets nor uses it.
+/// The accessor of the host: null until the host sets it. The library does not use it.
 CABSETTINGS_EXPORT extern TUserLogAccessor* UserLogAccessorPtr;

@@ -2,8 +2,8 @@
 
 /// Numbers of the host's parameters that the library reads or writes.
 ///
-/// Stored data and hosts use the numbers: they never change. The comment behind each names its type and meaning; a
-/// parameter that the store does not hold reads as 0, false, an empty string or an invalid colour.
+/// Stored data and hosts use the numbers: they never change. The comment behind each gives its type and meaning. A
+/// parameter that is not in the store reads as 0, false, an empty string or an invalid colour.
 enum EParamID : int
 {
     PARAM_SPRAYER_RATE_BASIS = 1929, ///< int; an ESprayerRateBasis

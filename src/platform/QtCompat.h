@@ -4,7 +4,7 @@
 #include <QDate>
 #include <QString>
 
-/// What differs between the generations of Qt that the library is built with: 4.8, 5.15 and 6.4.
+/// Differences between the versions of Qt that the library is built with: 4.8, 5.15 and 6.4.
 namespace QtCompat {
 
 /// The translation of @p text, which is UTF-8.
@@ -31,7 +31,7 @@ struct tagDateParts
     int day;
 };
 
-/// Zeros when @p date is invalid: Qt 4 tells the year -4713 of such a date.
+/// Zeros when @p date is invalid: Qt 4 gives the year -4713 for such a date.
 inline tagDateParts Parts(const QDate& date)
 {
     const tagDateParts parts = {date.year(), date.month(), date.day()};

@@ -5,11 +5,16 @@
 #include <QRegExp>
 #include <QString>
 
-/// File operations that depend on the display's storage. Imported: the host defines them.
+/// File operations that depend on the storage of the display. The host defines them:
+///
+///     QRegExp TFileSystemHelper::LowerCaseFilenameExtensionRegExp()
+///     {
+///         return QRegExp(QLatin1String("\\.[a-z0-9_]+"));
+///     }
 class CABSETTINGS_EXPORT TFileSystemHelper
 {
 public:
-    /// Matches, as a whole, a lower-case file-name extension with its leading dot and no further dot.
+    /// A pattern that exactly matches a lower-case file-name extension: a leading dot and no other dot.
     static QRegExp LowerCaseFilenameExtensionRegExp();
 
     /// Copies one file. An existing @p destination is replaced only when @p overwrite is true. Returns whether

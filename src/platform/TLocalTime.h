@@ -6,8 +6,11 @@
 #include <QDateTime>
 #include <QTime>
 
-/// The display's local clock. Imported: the host defines these operations. They are called from several threads at
-/// once, and twice for every log line, so they should be cheap.
+/// The local clock of the display. The host defines these operations:
+///
+///     QTime TLocalTime::currentTime() { return currentDateTime().time(); }
+///
+/// They are called from several threads at the same time, and twice for each line of a log, so they should be fast.
 class CABSETTINGS_EXPORT TLocalTime
 {
 public:
@@ -15,15 +18,15 @@ public:
     static QTime currentTime();
     static QDateTime currentDateTime();
 
-    /// Sets the clock and returns the offset that now applies to it, in the host's own measure; the library stores the
-    /// offset and hands it back to SetOffset() at the next start.
+    /// Sets the clock and returns its new offset, in a unit of the host's choice. The library stores the offset and
+    /// passes it to SetOffset() at the next start.
     ///
-    /// While time comes from GPS this is called once a second, with whole seconds whose lines are early or late by
-    /// parts of a second. The clock must not follow them to and fro: the ready host's clock changes only when it is
-    /// wrong by a second or more, and stands still rather than run backwards by less than two seconds.
+    /// While time comes from GPS, this is called once a second with whole seconds. The call may come a fraction of a
+    /// second early or late, and the clock must not jump with it. The clock of the ready host changes only when it is
+    /// wrong by a second or more, and stands still instead of running backwards by less than two seconds.
     static int SetDateTime(int year, int month, int day, int hour, int minute, int second);
 
-    /// The offset in force; 0 means that none has been applied yet.
+    /// The current offset; 0 when none has been applied.
     static int GetOffset();
     static void SetOffset(int offset);
 };

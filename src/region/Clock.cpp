@@ -8,8 +8,8 @@ const int MinutesPerHour = 60;
 const int HoursPerDay = 24;
 const int MinutesPerDay = HoursPerDay * MinutesPerHour;
 
-/// Brings hour and minute back into the day, moving @p date with it. One step each way is enough for the offsets in
-/// use, which are smaller than a day.
+/// Brings hour and minute into the range of a day and changes @p date accordingly. One step is enough, since the
+/// offsets are smaller than a day.
 void Normalise(int& hour, int& minute, QDate& date)
 {
     if (minute < 0) {

@@ -18,7 +18,8 @@ const char* const MonthNames[] = {
 
 } // namespace
 
-// Formatted by QLocale::c(): in Qt 5 the formats of QTime and QDate follow the machine's locale, its digits among them.
+// QLocale::c() formats the times: in Qt 5, QTime::toString() and QDate::toString() use the digits and the am and pm of
+// the machine's locale.
 
 QString TRegionSettings::GetTimeString() const
 {

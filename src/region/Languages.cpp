@@ -9,7 +9,7 @@ namespace {
 struct tagLanguage
 {
     const char* extension;
-    const wchar_t* name; ///< in the language itself, so that everyone finds his own; never translated
+    const wchar_t* name; ///< in that language, so that every operator finds it; never translated
 };
 
 /// Indexed by ELanguage.

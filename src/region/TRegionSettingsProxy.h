@@ -11,10 +11,13 @@
 
 class TRegionSettings;
 
-/// The way to the region settings of Settings; see TRegionSettings for what each operation does.
+/// Façade of the region settings of Settings; see TRegionSettings for what the operations do.
 ///
-/// Every call holds Mutex while it is forwarded. The mutex is not recursive: a call made by a thread that already holds
-/// it blocks for ever.
+///     const TRegionSettingsProxy region;
+///     label->setText(region.GetDateString() + QLatin1Char(' ') + region.GetTimeString());
+///
+/// Safe from any thread: each call holds Mutex. The mutex is not recursive: a thread that holds it already waits for
+/// ever.
 class CABSETTINGS_EXPORT TRegionSettingsProxy
 {
 public:

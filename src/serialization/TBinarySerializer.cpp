@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Elements of a list that go to or come from the stream at once.
+/// Number of list elements that are read or written in one call.
 const int BlockElements = 4096;
 
 void WriteElements(QDataStream& stream, const int* elements, int count)
@@ -21,7 +21,7 @@ void WriteElements(QDataStream& stream, const int* elements, int count)
     }
 }
 
-/// The whole elements that the stream still holds, and no more than @p most of them.
+/// Number of whole elements left in the stream, but not more than @p most.
 int ReadElements(QDataStream& stream, int* elements, int most)
 {
     const int bytes = stream.readRawData(reinterpret_cast<char*>(elements), most * static_cast<int>(sizeof(int)));
@@ -126,7 +126,7 @@ TSerializer& TBinarySerializer::operator>>(QVector<int>& value)
     quint32 claimed = 0;
     m_Stream >> claimed;
 
-    // The list grows with what is read: the length alone may claim gigabytes that never come.
+    // The list grows as it is read: a wrong length may stand for gigabytes that are not there.
     int count = 0;
     bool isShort = false;
     while (!isShort && static_cast<quint32>(count) < claimed) {

@@ -10,12 +10,16 @@ class QIODevice;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-/// The typed stream over QDataStream, whose byte format it has: the greater bytes first, whatever the machine.
+/// The typed stream in the byte format of QDataStream: the most significant byte first, on every machine.
+///
+///     QFile file(path);
+///     if (file.open(QIODevice::WriteOnly))
+///         TBinarySerializer(&file) << width << name;
 ///
 /// | Type                | Bytes                                                                                 |
 /// |---------------------|---------------------------------------------------------------------------------------|
 /// | unsigned int, int   | 4                                                                                     |
-/// | float, double       | 8, IEEE 754; a float goes as the double of its value, which QDataStream does          |
+/// | float, double       | 8, IEEE 754; a float is written as a double, as QDataStream does                      |
 /// | bool                | 1: 0 or 1; any byte but 0 reads as true                                               |
 /// | QString             | length in bytes (4), then UTF-16; a null string has the length FF FF FF FF            |
 /// | QByteArray          | length (4), then the bytes; a null array has the length FF FF FF FF                   |
@@ -23,17 +27,16 @@ class QIODevice;
 ///
 /// The version of QDataStream is its default. For these types the bytes are the same in Qt 4.8, 5 and 6.
 ///
-/// Reading survives any bytes. What lies past the end of the stream reads as zero, or as an empty text or array. Of a
-/// list, elements that are missing read as zero too, as long as no more than MostMissingElements are missing: a list
-/// whose length claims more than that is damaged, is left with the elements that are there, and allocates no more than
-/// they need.
+/// Any bytes can be read safely. What is missing at the end of the stream reads as zero, or as an empty text or array.
+/// Missing elements of a list read as zero too, up to MostMissingElements of them. A list in which more are missing is
+/// damaged: it keeps the elements that are there and allocates no more memory than these need.
 class CABSETTINGS_EXPORT TBinarySerializer : public TSerializer
 {
 public:
-    /// How many elements of a list may be missing at the end of a stream and still read as zero: 256 KiB of them.
+    /// Greatest number of missing list elements that read as zero; they take 256 KiB.
     static const int MostMissingElements = 65536;
 
-    /// @param device open, and kept by the caller for as long as the serializer lives; null reads as an empty stream.
+    /// @param device an open device, which must outlive the serializer; null reads as an empty stream.
     explicit TBinarySerializer(QIODevice* device);
 
     bool atEnd() override;

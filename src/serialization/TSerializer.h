@@ -6,22 +6,26 @@
 #include <QString>
 #include <QVector>
 
-/// A typed stream for a host's own binary files, with headers that mark where a versioned block begins.
+/// A typed stream for the host's own binary files. Headers mark the beginning of a block and its version.
 ///
-/// Written in one order, values are read back in the same order; nothing in the stream tells their types. An instance
-/// belongs to one thread at a time. Not deleted through this class: there is no virtual destructor, whose slots would
-/// move the operations that other builds call by place.
+///     serializer.writeStartOfDataBlock(2);
+///     serializer << width << name;   // into a TBinarySerializer
+///     serializer >> width >> name;   // and back, in the same order
+///
+/// Values are read in the order in which they were written; the stream does not store their types. Use an object from
+/// one thread at a time. It cannot be deleted through this class: a virtual destructor would change the positions of
+/// the virtual operations, by which programs built before call them.
 class CABSETTINGS_EXPORT TSerializer
 {
 public:
     /// True when nothing is left to read.
     virtual bool atEnd() = 0;
 
-    /// Writes the eight bytes that begin a block: the marker FE ED BA AC, and @p version, the greater bytes first.
+    /// Writes the header of a block, eight bytes: the marker FE ED BA AC and @p version, most significant byte first.
     virtual void writeStartOfDataBlock(unsigned int version);
 
-    /// Reads the beginning of a block. False, with @p version untouched, when the next four bytes, which are consumed,
-    /// are not the marker. False as well, with @p version read, when nothing follows the header: a block carries data.
+    /// Reads the header of a block. If the next four bytes are not the marker, returns false and leaves @p version
+    /// unchanged; the four bytes are consumed. If nothing follows the header, returns false too; @p version is read.
     virtual bool readStartOfDataBlock(unsigned int& version);
 
     virtual TSerializer& operator<<(const unsigned int& value) = 0;
@@ -42,7 +46,7 @@ public:
     virtual TSerializer& operator>>(QVector<int>& value) = 0;
     virtual TSerializer& operator>>(QByteArray& value) = 0;
 
-    /// Refused by the compiler: a pointer, a string literal among them, would be written as a bool.
+    /// Does not compile for pointers, such as string literals: they would be written as a bool.
     template <typename T>
     TSerializer& operator<<(const T* value) = delete;
 

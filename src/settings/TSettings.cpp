@@ -9,8 +9,8 @@
 
 TSettings* Settings = nullptr;
 
-// The user log goes straight to its file, since its last lines tell why a display went down. NMEA traffic is dense and
-// is gathered first, in files small enough to be sent away.
+// The user log is not staged: its last lines show why a display crashed. NMEA traffic is dense, so it is staged; its
+// files are small enough to be sent to a service desk.
 TSettings::TSettings()
     : m_UserLog(0, 0x100000, 4, PARAM_USER_LOG_FILE_NUMBER), m_NEMALog(1024, 0x40000, 4, PARAM_NMEA_LOG_FILE_NUMBER)
 {}

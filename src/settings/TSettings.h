@@ -6,19 +6,23 @@
 #include "region/TRegionSettings.h"
 #include "system/TSystemSettings.h"
 
-/// Everything the display can set, as one object.
+/// All settings of the display, as one object. The host constructs one TSettings after its parameter store:
 ///
-/// The host constructs a single TSettings after its parameter store, publishes its address in Settings, calls
-/// Initialise() and Restore(), and destroys it at shut-down. Its members are reached only through the façades
-/// (TColorSettingsProxy, TRegionSettingsProxy, TSystemSettingsProxy, TUserDiagnosticLogProxy,
-/// TNEMADiagnosticLogProxy), from any thread.
+///     TSettings settings;
+///     Settings = &settings;
+///     settings.Initialise();
+///     settings.Restore();
+///
+/// The members are used through the façades only, from any thread: TColorSettingsProxy, TRegionSettingsProxy,
+/// TSystemSettingsProxy, TUserDiagnosticLogProxy and TNEMADiagnosticLogProxy. At shut-down the host destroys the object
+/// and sets Settings to null.
 class CABSETTINGS_EXPORT TSettings
 {
 public:
     /// Reads the file numbers of both logs from the store; ConfigManager must be set.
     TSettings();
 
-    /// Closes both logs; what they have staged is written.
+    /// Writes what both logs have staged and closes them.
     virtual ~TSettings();
 
     TSettings(const TSettings&) = delete;
@@ -27,8 +31,8 @@ public:
     /// Gives the active items their default names, in memory only. Call once, before Restore().
     virtual void Initialise();
 
-    /// Brings back the clock offset and the active items from the store, then opens the user log and the NMEA log on
-    /// the internal drive. Settings must point to this object, since it goes through the façades.
+    /// Restores the clock offset and the active items from the store, then opens the user log and the NMEA log on the
+    /// internal drive. Uses the façades, so Settings must point to this object.
     void Restore();
 
 private:
@@ -41,6 +45,6 @@ private:
     TDiagnosticLog m_NEMALog;
 };
 
-/// The one TSettings: null until the host sets it. Every façade takes its target from here when it is constructed,
-/// without a check for null.
+/// The settings in use: null until the host sets it. A façade reads it when it is constructed and does not check for
+/// null.
 CABSETTINGS_EXPORT extern TSettings* Settings;

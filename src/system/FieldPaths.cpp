@@ -14,14 +14,14 @@ const char* const FlagPointsFile = "flagpoints.ini";
 const char* const PerPointDataSuffix = "_PPD";
 const char* const ElevationSuffix = "_Elevation";
 
-/// Where the files of one kind lie in a field's folder, each in a folder of its own: "Jobs/J_1/J_1.ini".
+/// The place of one kind of files in the folder of a field. Each file has a folder of its own: "Jobs/J_1/J_1.ini".
 struct tagPlace
 {
     explicit tagPlace(const char* folderName, const QString& anEnding)
         : folder(QLatin1Char(Separator) + QLatin1String(folderName) + QLatin1Char(Separator)), ending(anEnding)
     {}
 
-    const QString folder; ///< behind the field's folder and in front of the name: "/Jobs/"
+    const QString folder; ///< between the folder of the field and the name: "/Jobs/"
     const QString ending;
 };
 
@@ -32,8 +32,8 @@ bool IsField(const QString& client, const QString& farm, const QString& field)
     return !client.isEmpty() && !farm.isEmpty() && !field.isEmpty();
 }
 
-/// The field's folder in that of the clients, with what is @p behind it, a piece of text or several of them. Composed
-/// at a stroke.
+/// The folder of a field in the folder of the clients, followed by @p behind, one text or several. Makes one string
+/// only.
 template <class Text>
 QString FieldPath(const QString& drive, const QString& clients, const QString& client, const QString& farm,
                   const QString& field, const Text& behind)
@@ -42,7 +42,7 @@ QString FieldPath(const QString& drive, const QString& clients, const QString& c
     return drive % clients % client % separator % farm % separator % field % behind;
 }
 
-/// Empty when a name is.
+/// Empty when one of the names is empty.
 QString ItemPath(const TSystemSettings& system, const QString& clients, const QString& client, const QString& farm,
                  const QString& field, const QString& item, const tagPlace& place)
 {
@@ -103,7 +103,7 @@ QString TSystemSettings::GetFlagPointsFilePath(const QString& client, const QStr
     return GetInternalDrivePath() + GetCFFPath(client, farm, field) + QLatin1String(FlagPointsFile);
 }
 
-// The place of a file is put together once: coverage is recorded to such a path, and asks for it often.
+// The places are composed once: the path of the coverage file is asked for often.
 
 QString TSystemSettings::GetCoverageFilePath(const QString& client, const QString& farm, const QString& field,
                                              const QString& job) const

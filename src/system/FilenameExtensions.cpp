@@ -6,7 +6,7 @@
 
 bool TSystemSettings::AreFilenameExtensionInvariantsSatisfied()
 {
-    // Not among them: ".tar.gz", which has two dots, and three that have never been tested.
+    // Without ".tar.gz", which has two dots, and three others that were never tested.
     static const char* const extensions[] = {
         IniExtension,     CurveExtension,    CoverageExtension, BoundaryExtension,   PdfExtension,
         ShpExtension,     ShxExtension,      DbfExtension,      XMLExtension,        LogExtension,

@@ -1,4 +1,4 @@
-// Names on the drives. Files in the field and on sticks carry them: they never change.
+// Names on the drives. Existing files on displays and sticks have them: they never change.
 
 #include "system/TSystemSettings.h"
 
@@ -66,13 +66,13 @@ const char* const TSystemSettings::PPDExtension = ".ppd";
 const char* const TSystemSettings::TpoExtension = ".tpo";
 const char* const TSystemSettings::TxtExtension = ".txt";
 const char* const TSystemSettings::BinExtension = ".bin";
-const char* const TSystemSettings::ZIPExtension = ".tgz"; // a gzipped tar, whatever the name says
+const char* const TSystemSettings::ZIPExtension = ".tgz"; // a gzipped tar archive, not a zip archive
 const char* const TSystemSettings::ZIP2Extension = ".tar.gz";
 const char* const TSystemSettings::BoomMaskExtension = ".msk";
 const char* const TSystemSettings::WorkingLengthExtension = ".wli";
 const char* const TSystemSettings::DownForceRateExtension = ".dfr";
 
-// Translatable where default names are made of them.
+// Default names are made of these, so some of them can be translated.
 const char* const TSystemSettings::JobsPrefix = QT_TRANSLATE_NOOP("TSystemSettings", "J_");
 const char* const TSystemSettings::BoundaryPrefix = QT_TRANSLATE_NOOP("TSystemSettings", "B_");
 const char* const TSystemSettings::ABLinePrefix = QT_TRANSLATE_NOOP("TSystemSettings", "L_");
@@ -94,8 +94,8 @@ const bool TSystemSettings::m_isBetaBuild = false;
 
 QString TSystemSettings::SoftwareVersion = QLatin1String("N/A");
 
-// Translated here, as the library is loaded: stored selections hold these texts, so a change of language while the
-// display runs must not change them.
+// Translated when the library is loaded: stored selections hold these texts, so they must not change with the language
+// while the display runs.
 const QString TSystemSettings::DefaultVehicleProfile = tr("No Vehicle");
 const QString TSystemSettings::DefaultSteeringProfile = tr("No Profile");
 const QString TSystemSettings::DefaultSprayerProfile = tr("No Profile");

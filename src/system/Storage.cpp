@@ -17,8 +17,8 @@ namespace {
 
 const float LoadScale = 1.0f / (1 << SI_LOAD_SHIFT); // loads[] of sysinfo(2) are fixed-point with 16 binary places
 
-/// Whether a path begins at the root and has no part to take out: nothing doubled, no dots behind a separator. Says no
-/// to a hidden folder too, which the long way then leaves as it is.
+/// Whether a path is absolute and clean: no doubled separator, and no dot behind a separator. False for a hidden folder
+/// too, which QDir then leaves as it is.
 bool IsAbsoluteAndClean(const QString& path)
 {
     const QLatin1Char separator('/');
@@ -33,7 +33,7 @@ bool IsAbsoluteAndClean(const QString& path)
     return true;
 }
 
-/// The absolute path of a drive. Most calls ask for one, and on a display it is stored so already.
+/// The absolute path of a drive. Most calls need it, and a display has stored it in this form already.
 QString DrivePath(EParamID drive)
 {
     QString path = Parameters::ReadString(drive);
@@ -76,7 +76,7 @@ int TSystemSettings::IsMountingPointWErr(const char* path)
 {
     static const char* const error = "Error calling sys_stat(path)";
 
-    // The path before its parent: "file/.." would fail where the answer for a file is simply no.
+    // The path first, then its parent: "file/.." is an error, but a file is simply not a mount point.
     struct stat self;
     if (stat(path, &self) != 0) {
         std::perror(error);
@@ -133,7 +133,7 @@ int TSystemSettings::GetMainMemoryInfo(unsigned* total, unsigned* free) const
 
 void TSystemSettings::GetLinuxMemory(unsigned* total, unsigned* free)
 {
-    std::ifstream file("/proc/meminfo"); // one that cannot be opened reads as an empty one
+    std::ifstream file("/proc/meminfo"); // reads as an empty file when it cannot be opened
     const tagMemoryInfo info = ReadMemoryInfo(file);
     *total = info.total;
     *free = info.free;

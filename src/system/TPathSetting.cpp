@@ -38,7 +38,7 @@ QString TPathSetting::GetPath(const QString& root) const
     const QDir dir(root);
     const QString folder = GetFolderPath(dir);
 
-    // The built-in items are no files: an empty folder in their name would only puzzle the operator.
+    // The built-in items have no files, so they get no folders.
     const bool isBuiltIn =
         name == TSystemSettings::DefaultVehicleProfile || name == TSystemSettings::DefaultSteeringProfile ||
         name == TSystemSettings::DefaultImplementProfile || name == TSystemSettings::DefaultSprayerProfile;
@@ -51,8 +51,7 @@ QString TPathSetting::GetCFFPath(const QString& prefix) const
 {
     const QString name = GetName();
 
-    // Not by the façade: it may be locked by the very call that leads here, and the client's folder depends on stored
-    // parameters alone.
+    // Not through the façade, whose lock the caller may hold. The client's folder depends on stored parameters only.
     const QString cffPath = TSystemSettings::ActiveCFFPath();
     if (cffPath.isEmpty())
         return QString();

@@ -6,11 +6,15 @@
 #include <QDir>
 #include <QString>
 
-/// The active item of one kind (job, vehicle, boundary, …): a name kept in the store, and the file that goes by it.
+/// The active item of one kind (job, vehicle, boundary, …): a name in the store, and the file of that name.
 ///
-/// Each item lives in a folder of its own under the category's folder, for instance Vehicles/Deere/Deere.ini. The
-/// operations call one another through the virtual table, so that a derived class can move its files elsewhere. No lock
-/// of its own; no errors are reported: a folder that cannot be made still gives a path.
+///     TPathSetting vehicle(PARAM_ACTIVE_VEHICLE, QLatin1String("Vehicles"), QLatin1String(".ini"), QString());
+///     vehicle.SetName(QLatin1String("North"));
+///     vehicle.GetPath(QLatin1String("/data")); // "/data/Vehicles/North/North.ini"
+///
+/// Each item has a folder of its own in the folder of its category. The operations call each other as virtual
+/// functions, so that a derived class can keep its files elsewhere. There is no lock. Errors are not reported: when a
+/// folder cannot be made, its path is returned all the same.
 class CABSETTINGS_EXPORT TPathSetting
 {
 public:
@@ -22,11 +26,11 @@ public:
 
     virtual ~TPathSetting();
 
-    /// Takes the default name, in memory only.
+    /// Sets the default name, in memory only.
     virtual void Initialise();
 
-    /// Brings the stored name back into memory and stores @p name. An empty @p name stores the name in memory instead,
-    /// so that the store holds it; NoName asks for an explicitly empty one.
+    /// Reads the stored name into memory, then stores @p name. If @p name is empty, stores the name in memory instead.
+    /// NoName stores an empty name.
     virtual void Restore(QString name);
 
     /// The stored name, or the one in memory when none is stored; empty before Initialise().
@@ -49,7 +53,7 @@ public:
     virtual QString GetFolderPath(const QDir& root) const;
     virtual QString GetFileName(const QDir& root) const;
 
-    /// Asks Restore() for an explicitly empty name.
+    /// Makes Restore() store an empty name.
     static const char* const NoName;
 
 protected:

@@ -4,7 +4,7 @@
 
 using Text = QLatin1String;
 
-// "Pivoted_" and the prefix that pivots share with project lines are on purpose: files in the field are named so.
+// "Pivoted_", and the prefix that pivots share with project lines, are intended: existing files have these names.
 TSystemSettings::TSystemSettings()
     // clang-format off
     : m_Job         (PARAM_ACTIVE_JOB,                      Text(JobsFolder),         Text(IniExtension),      tr(JobsPrefix))

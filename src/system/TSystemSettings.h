@@ -8,15 +8,19 @@
 #include <QObject>
 #include <QString>
 
-/// Where everything lives: folders, file-name prefixes and extensions, the drives, the active items, and the path of
-/// every file composed from them.
+/// The file layout of the display: folders, file-name prefixes and extensions, the drives, the active items, and the
+/// paths of all files.
 ///
-/// Paths are put together by plain concatenation, without cleaning: PARAM_INTERNAL_DRIVE must end in "/". An empty
-/// string is the only sign of a path that cannot be formed. Except where it is said, no operation touches the disk.
+///     TSystemSettingsProxy system;
+///     system.SetActiveJob(QLatin1String("Spring"));
+///     const QString coverage = system.GetActiveCoveragePath(); // ".../Jobs/Spring/Spring.cov"
 ///
-/// Reached through TSystemSettingsProxy, which serialises the calls. What the façade leaves out (the steering
-/// selection, GetLogPath(), the mount-point tests, GetLinuxMemory()) is used on an object of the caller's own: the
-/// active items live in the store, so every object answers the same.
+/// Paths are concatenated as they are: PARAM_INTERNAL_DRIVE must end in "/". A path that cannot be formed is an empty
+/// string. Operations do not touch the disk except where it is said.
+///
+/// Use the object through TSystemSettingsProxy, which serialises the calls. The façade does not have the steering
+/// selection, GetLogPath(), the mount-point tests and GetLinuxMemory(). For these, construct an object of your own: the
+/// active items are in the store, so all objects give the same answers.
 class CABSETTINGS_EXPORT TSystemSettings : public QObject
 {
     Q_OBJECT
@@ -29,9 +33,9 @@ public:
     /// none.
     void Initialise();
 
-    /// Stores the start-up selection of every item: an empty name for field data, the built-in profiles for the
-    /// machine, the stored name for zones. A host that wants the operator's last selections reads them before and sets
-    /// them again after. Makes the folders that contain the two drives.
+    /// Stores the selections of a start: an empty name for field data, the built-in profiles for the machine, the
+    /// stored name for zones. To keep the operator's last selections, a host reads them before and sets them again
+    /// afterwards. Makes the folders that contain the two drives.
     void Restore();
 
     // ---- Names on the drives --------------------------------------------------------------------------------------
@@ -134,8 +138,9 @@ public:
     static const QString TaskDataXml;
     static const QString TaskDataCffParentDir;
 
-    /// Whether the extensions above match the host's pattern, all but the few that are no single extension. Tested at
-    /// the first call of the process; later calls repeat that answer. Safe from any thread.
+    /// Whether the extensions above match TFileSystemHelper::LowerCaseFilenameExtensionRegExp(), except the few that
+    /// are not a single extension. The first call of the process tests it; later calls return the same result. Safe
+    /// from any thread.
     static bool AreFilenameExtensionInvariantsSatisfied();
 
     // ---- The build ------------------------------------------------------------------------------------------------
@@ -143,7 +148,7 @@ public:
     /// Date and time of the build, as of the compiler's macros ("Mar  5 2024 14:05:09").
     static const char* const CompileTime;
 
-    /// Default name of the software package, and what marks an update of it.
+    /// Default name of the software package, and the word in the names of its updates.
     static const char* const PackageName;
     static const char* const Update;
 
@@ -180,8 +185,8 @@ public:
     bool GetExternalDrivePath(QString& path) const;
     bool IsExternalDrivePresent() const;
 
-    /// Whether the folder @p path (UTF-8) is a mount point: 1 or 0, -1 after an error, which is printed on standard
-    /// error. What is no folder is no mount point.
+    /// Whether the folder @p path (UTF-8) is a mount point: 1 or 0; 0 when it is not a folder. -1 after an error, which
+    /// is printed on standard error.
     static int IsMountingPointWErr(const char* path);
 
     /// The same, an error counting as false.
@@ -196,7 +201,7 @@ public:
     /// no drive is mounted, -1 after an error, which is printed; the outputs are written for 1 only.
     int GetUSBMemoryInfo(int* total, int* free) const;
 
-    /// Main memory in kB, free with buffers and page cache; 0 and 0 when the system does not tell. Always 0.
+    /// Main memory in kB; free memory includes buffers and page cache. 0 and 0 when it is not known. Always returns 0.
     int GetMainMemoryInfo(unsigned* total, unsigned* free) const;
     static void GetLinuxMemory(unsigned* total, unsigned* free);
 
@@ -299,7 +304,7 @@ public:
                                 const QString& job) const;
     QString GetFlagPointsFilePath(const QString& client, const QString& farm, const QString& field) const;
 
-    /// Files that mean nothing outside a field: empty when a name is empty.
+    /// Files that exist in fields only: empty when a name is empty.
     QString GetCoverageFilePath(const QString& client, const QString& farm, const QString& field,
                                 const QString& job) const;
     QString GetPerPointDataJobPath(const QString& client, const QString& farm, const QString& field,

@@ -17,7 +17,7 @@ void Proxy::Unlock() const { Mutex.unlock(); }
 
 void Proxy::Restore() { m_Target.By(*this)->Restore(); }
 
-// Constants of the build need neither the object nor its lock.
+// These are constants: neither the object nor the lock is needed.
 bool Proxy::IsDevBuild() const { return TSystemSettings::m_isDevBuild; }
 bool Proxy::IsAlphaBuild() const { return TSystemSettings::m_isAlphaBuild; }
 bool Proxy::IsBetaBuild() const { return TSystemSettings::m_isBetaBuild; }

@@ -9,11 +9,14 @@
 
 class TSystemSettings;
 
-/// The way to the system settings of Settings; see TSystemSettings for what each operation does.
+/// Façade of the system settings of Settings; see TSystemSettings for what the operations do.
 ///
-/// Every call holds Mutex while it is forwarded, except for the three that tell the kind of build. The mutex is not
-/// recursive: a call made by a thread that already holds it blocks for ever. Default names take the lock of
-/// TRegionSettingsProxy while this one is held, never the other way round.
+///     const TSystemSettingsProxy system;
+///     const QString job = system.GetActiveJobPath(); // empty when no field is active
+///
+/// Safe from any thread: each call holds Mutex, except IsDevBuild(), IsAlphaBuild() and IsBetaBuild(). The mutex is not
+/// recursive: a thread that holds it already waits for ever. Default names lock TRegionSettingsProxy while this lock is
+/// held; the reverse order never occurs.
 class CABSETTINGS_EXPORT TSystemSettingsProxy
 {
 public:
