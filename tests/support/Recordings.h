@@ -16,7 +16,11 @@ inline QStringList All()
 {
     QStringList paths;
     QStringList folders = {QLatin1String(CABSETTINGS_TEST_DATA)};
-    folders += QString::fromLocal8Bit(qgetenv("CABSETTINGS_RECORDINGS")).split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    const QStringList further = QString::fromLocal8Bit(qgetenv("CABSETTINGS_RECORDINGS")).split(QLatin1Char(':'));
+    for (const QString& folder : further) {
+        if (!folder.isEmpty())
+            folders.append(folder);
+    }
     for (const QString& folder : folders) {
         const QFileInfoList files = QDir(folder).entryInfoList({QLatin1String("*.nmea")}, QDir::Files, QDir::Name);
         if (files.isEmpty())
