@@ -16,7 +16,7 @@ using std::uint32_t;
 using std::uint64_t;
 
 const int StandardDecimals = 6; // of the number formatter, where no number of decimals is given
-const int StoredBits = 52; // of the 53; the first is always set
+const int StoredBits = 52;      // of the 53; the first is always set
 const int ExponentOfUnit = 1075;
 const int FractionBits = 60;
 const uint64_t SignBit = 1ULL << 63;

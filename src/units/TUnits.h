@@ -14,8 +14,8 @@
 /// every value typed comes back into it. All functions are static, keep no state but a few caches named below, and may
 /// be called from any thread. Parameters are read from the host's store at every call.
 ///
-/// A precision is a number of decimals. -1 asks for the default of the unit, a number below -1 for 6 decimals. A threshold
-/// rule, by pointer and null for none, wins over both. Texts carry the decimal point of the display.
+/// A precision is a number of decimals. -1 asks for the default of the unit, a number below -1 for 6 decimals. A
+/// threshold rule, by pointer and null for none, wins over both. Texts carry the decimal point of the display.
 class CABSETTINGS_EXPORT TUnits
 {
 public:
