@@ -1,6 +1,6 @@
 #pragma once
 
-/// Unit of a quantity. Stored data and hosts use the numbers: they never change.
+/// Unit of a quantity. Stored data and hosts use the numbers, which never change.
 enum EUnitsType : int
 {
     UNITS_NONE = 0,
@@ -118,4 +118,5 @@ enum EUnitsType : int
     UNITS_MILLIWATTS = 112,
     UNITS_LATITUDE = 113,
     UNITS_LONGITUDE = 114,
+    UNITS_COUNT ///< number of units; not a unit itself
 };

@@ -2,38 +2,49 @@
 
 #include "platform/Export.h"
 #include "units/EUnitsType.h"
-#include "units/UnitFactors.h"
 
 #include <QChar>
 #include <QDate>
 #include <QString>
 
-/// Conversion, rounding and text of every quantity.
+/// Converts values between units, and shows them as texts in the units that the operator chose.
 ///
-/// Values are stored and exchanged in the default unit of their quantity, the hub; every value shown goes out of it,
-/// every value typed comes back into it. All functions are static, keep no state but a few caches named below, and may
-/// be called from any thread. Parameters are read from the host's store at every call.
+/// @code
+/// const double gallons = TUnits::ConvertUnit(150, UNITS_L_PER_HA, UNITS_US_GAL_PER_AC);            // 16.035
+/// const QString rate = TUnits::GetValueString(12.25, UNITS_L_PER_HA, 1, nullptr);                  // "12.3 L/ha"
+/// const QString speed = TUnits::GetValueString(5, UNITS_KPH, TUnits::DefaultPrecision, nullptr);   // "18.0 kph"
+/// @endcode
 ///
-/// A precision is a number of decimals. -1 asks for the default of the unit, a number below -1 for 6 decimals. A
-/// threshold rule, by pointer and null for none, wins over both. Texts carry the decimal point of the display.
+/// Each quantity has a hub: litres for volumes, kilograms for weights. Hosts store and exchange values in the hub. A
+/// value is converted from the hub when it is shown, and back when it is typed. GetConversionHub() and GetStoredUnit()
+/// name the units.
+///
+/// All functions are static and may be called from any thread. They read the parameters from the host's store at every
+/// call; only the decimal point is read once in a process.
+///
+/// A precision is a number of decimals. -1 asks for the default of the unit; a number below -1 shows 6 decimals. A
+/// threshold rule is passed by pointer, null for none, and wins over both. Texts have the decimal point of the display.
 class CABSETTINGS_EXPORT TUnits
 {
 public:
-    /// Switches to another precision for large values.
+    /// Another precision for values from a threshold on.
     struct tagThresholdSpec
     {
-        float threshold; ///< in the unit shown; the rule applies from here
-        int precision;   ///< decimals
+        float threshold; ///< in the unit shown
+        int precision;   ///< decimals of values that are not below the threshold
     };
 
-    /// Asks the GetValueString() of a unit for the precision that depends on the value itself.
+    /// The precision that asks for the default of the unit.
+    static constexpr int DefaultPrecision = -1;
+
+    /// The precision that asks GetValueString() for decimals that depend on the value. Only the three rates of
+    /// IsUnitAbbrDynamicPrecisionSupported() know it; other units show 100 decimals.
     static constexpr int DynamicPrecision = 100;
 
     // ---- Factors --------------------------------------------------------------------------------------------------
 
     // From the unit named first to the unit named second. The argument is a 32-bit float, and so is every constant; the
-    // result is computed in extended precision from those. A result is given for every argument. Inline, and exported
-    // too.
+    // result is computed from them in extended precision. Every argument has a result; NaN and infinity pass through.
 
     // Lengths
     static double ConvertMillimetersToInches(float x);
@@ -207,9 +218,11 @@ public:
 
     // ---- Hubs -----------------------------------------------------------------------------------------------------
 
-    // From the hub into @p to, and from @p from into the hub. A unit that the hub does not know leaves the value as it
-    // is. Gallons and fluid ounces are those of PARAM_US_MEASURES; when PARAM_METRIC is set there are none, and the
-    // value stays, except for the units marked "(US)", which always convert.
+    // From the hub into the unit @p to, and from the unit @p from into the hub. A unit of another quantity leaves the
+    // value as it is.
+    //
+    // Gallons and fluid ounces are US or English, as PARAM_US_MEASURES says. While PARAM_METRIC is set they leave the
+    // value as it is. Units marked "(US)" do not depend on these parameters.
 
     static double ConvertFromMeter(double value, EUnitsType to);
     static double ConvertToMeter(double value, EUnitsType from);
@@ -244,59 +257,65 @@ public:
     static double ConvertFromPulsesPerKilogramNitrogen(double value, EUnitsType to);
     static double ConvertToPulsesPerKilogramNitrogen(double value, EUnitsType from);
 
-    /// These two never convert.
+    /// These two return the value as it is, whatever the unit.
     static double ConvertFromHectaresPerHour(double value, EUnitsType to);
     static double ConvertToHectaresPerHour(double value, EUnitsType from);
 
-    /// Between a hub and another unit of its quantity, either way. Hands the value back as it is in every other case,
-    /// between two units that are no hub too: ask CanConvert() where that would be a wrong dose.
+    /// Converts between a hub and a unit of its quantity, in either direction.
+    ///
+    /// Returns the value as it is when there is no such conversion, for example between two units that are not hubs.
+    /// Ask CanConvert() before, where an unconverted value would do harm.
     static double ConvertUnit(double value, EUnitsType from, EUnitsType to);
 
-    /// Whether ConvertUnit() converts from the one to the other, under the measures in use now; true for a unit and
+    /// Whether ConvertUnit() converts from one unit to the other, under the measures in use now. True for a unit and
     /// itself.
     static bool CanConvert(EUnitsType from, EUnitsType to);
 
-    /// The unit through which a value of @p type converts: litres for volumes, metres per second for speeds, kilograms
-    /// of nitrogen for nitrogen. @p type itself when it is one, and for a number that is no unit. Two units with the
-    /// same hub convert by way of it where CanConvert() accepts both steps.
+    /// The unit through which a value of @p type is converted: litres for volumes, metres per second for speeds,
+    /// kilograms of nitrogen for nitrogen. Returns @p type itself when it is a hub, and for a number that is no unit.
+    ///
+    /// To convert between two units with the same hub, convert into the hub and out of it; both steps need
+    /// CanConvert().
     static EUnitsType GetConversionHub(EUnitsType type);
 
-    /// The factor that turns a value in the hub of @p unitType (metres per second for speeds) into the unit with that
-    /// abbreviation; 1 for an unknown abbreviation, and for temperatures, which no factor converts.
+    /// The factor that turns a value in the hub of @p unitType into the unit with that abbreviation. 1 for an unknown
+    /// abbreviation, and for temperatures, which no factor converts.
     static double GetConversionFactor(int unitType, const QString& abbreviation);
 
-    /// The hub of the unit's quantity (km/h for speeds); the unit itself when it is one or has none.
+    /// The default unit of the quantity: its hub, except km/h for speeds and plain masses for nitrogen. Returns @p type
+    /// itself when there is no other.
     static EUnitsType DetermineDefaultUnitFromUnitsType(EUnitsType type);
 
     /// The unit of the value that GetValueString() takes for @p type: metres for millimetres and feet, metres per
-    /// second for km/h, litres for millilitres, cubic metres, tonnes and bushels, and so on. @p type itself where
-    /// GetValueString() shows the value as it is (acres, pounds, …), and for a number that is no unit.
+    /// second for km/h, litres for millilitres, cubic metres, tonnes and bushels. Returns @p type itself where
+    /// GetValueString() shows the value as it is, as it does for acres and pounds, and for a number that is no unit.
     static EUnitsType GetStoredUnit(EUnitsType type);
 
-    /// Whether the size of the unit depends on PARAM_US_MEASURES: true for gallons and fluid ounces, alone and in
+    /// Whether the size of the unit depends on PARAM_US_MEASURES. True for gallons and fluid ounces, alone and in
     /// rates, flows, densities and pulse counts. False for those marked "(US)", and for a number that is no unit.
     static bool DependsOnUSMeasures(EUnitsType type);
 
-    /// The unit in which a quantity is shown, given its hub or metric unit; UNITS_NONE when the parameter that chooses
-    /// is out of its range. Never one marked "(US)".
+    /// The unit in which the display shows a quantity, given its hub or metric unit. UNITS_NONE when the parameter that
+    /// chooses is out of its range. Never a unit marked "(US)".
     static EUnitsType DetermineActualUnitFromUnitsType(EUnitsType type);
 
-    /// Between the hub of @p type and the unit in which @p type is shown, by ConvertUnit(): where that has no
-    /// conversion (km/h and mph, degrees, rates per travelled distance), the value comes back as it is. CanConvert()
-    /// tells.
+    /// Converts from the default unit of @p type to the unit in which the display shows it, and back, by ConvertUnit().
+    /// Where that has no conversion (km/h and mph, temperatures, rates per travelled distance) the value is returned as
+    /// it is.
     static double GetValueInCurrentUnit(double value, EUnitsType type);
     static double GetValueInDefaultUnit(double value, EUnitsType type);
 
     // ---- The operator's units -------------------------------------------------------------------------------------
 
-    /// Whether the unit follows PARAM_AREA_UNIT, PARAM_PRESSURE_UNIT, PARAM_SHORT_DISTANCE_UNIT.
+    /// Whether a parameter chooses the unit shown for @p type: PARAM_AREA_UNIT, PARAM_PRESSURE_UNIT,
+    /// PARAM_SHORT_DISTANCE_UNIT.
     static bool IsSpecifiedAreaUnit(EUnitsType type);
     static bool IsSpecifiedPressureUnit(EUnitsType type);
     static bool IsSpecifiedShortDistanceUnit(EUnitsType type);
 
-    // Per hectare to per unit of area chosen, and back. While acres are chosen, by the factor function for acres;
-    // otherwise the value comes back unchanged, for every pair. Mind that in hectares the unit of volume or mass is
-    // then not converted either: the pair only makes sense with both directions.
+    // From a rate per hectare to a rate per chosen area, and back. While acres are chosen, these are the factor
+    // functions for acres. Otherwise the value is returned as it is: the unit of volume or mass is not converted
+    // either. So use both directions of a pair, never one alone.
 
     static double ConvertPerHectareToPerSpecifiedAreaUnit(double x);
     static double ConvertPerSpecifiedAreaUnitToPerHectare(double x);
@@ -321,33 +340,35 @@ public:
     static double ConvertKilogramsPerHectareToPoundsPerSpecifiedAreaUnit(double x);
     static double ConvertPoundsPerSpecifiedAreaUnitToKilogramsPerHectare(double x);
 
-    /// From the stored value per hectare to the value shown, and back. A type that is no IsSpecifiedAreaUnit() leaves
-    /// the value as it is.
+    /// From the stored value per hectare to the value that is shown in an entry field, and back. The value as it is
+    /// where IsSpecifiedAreaUnit() is false.
     static double ConvertSpecifiedAreaUnitIn(double value, EUnitsType type);
     static double ConvertSpecifiedAreaUnitOut(double value, EUnitsType type);
 
-    /// From kilopascals to the pressure shown, and back.
+    /// From kilopascals to the chosen unit of pressure, and back.
     static double ConvertSpecifiedPressureUnitIn(double value);
     static double ConvertSpecifiedPressureUnitOut(double value);
 
-    /// From metres to the short distance shown, and back.
+    /// From metres to the chosen unit of short distances, and back.
     static double ConvertSpecifiedShortDistanceUnitIn(double value, EUnitsType type);
     static double ConvertSpecifiedShortDistanceUnitOut(double value, EUnitsType type);
 
-    /// The unit for a short distance; @p small asks for the smaller one of the system.
+    /// The unit of short distances by PARAM_SHORT_DISTANCE_UNIT. @p small asks for millimetres or inches. UNITS_FEET
+    /// and UNITS_INCHES as @p type keep their unit unless metres are chosen.
     static EUnitsType GetShortDistanceUnits(bool small, EUnitsType type);
 
-    /// Between the metric unit shown and the stored one (litres for millilitres, cubic metres, tonnes and bushels, …),
-    /// while PARAM_METRIC is set; otherwise the value as it is.
+    /// From a typed value in the metric unit @p type to the stored one, and back: cubic metres to litres, for example.
+    /// The value as it is while PARAM_METRIC is not set.
     static double NormaliseMetricValue(double value, EUnitsType type);
     static double DenormaliseMetricValue(double value, EUnitsType type);
 
-    /// Between the imperial unit shown in place of @p metricType and the stored metric one. Millilitre types give and
-    /// take litres. Other types leave the value as it is.
+    /// From a typed value in the imperial unit shown in place of @p metricType to the stored metric one, and back.
+    /// Stored are litres for UNITS_MILLILITERS, and km/h for UNITS_KPH. Other types leave the value as it is.
     static double ConvertToMetric(double value, EUnitsType metricType);
     static double ConvertToImperial(double value, EUnitsType metricType);
 
-    /// The unit that a parameter chooses for a product; UNITS_NONE when the parameter is out of its range.
+    /// The unit that PARAM_LIQUID_UNIT, PARAM_DRY_VOLUME_UNIT or PARAM_DRY_DENSITY_UNIT chooses. UNITS_NONE when the
+    /// parameter is out of its range.
     static EUnitsType GetLiquidVolumeUnits();
     static EUnitsType GetLiquidFlowRateUnits();
     static EUnitsType GetLiquidVolumePerAreaUnits();
@@ -356,24 +377,25 @@ public:
     static EUnitsType GetDryVolumeUnits();
     static EUnitsType GetDryDensityUnits();
 
-    /// The calibration unit for a kind of tank, 0 to 8; UNITS_NONE for one that has none.
+    /// The calibration unit of a kind of tank, 0 to 8. UNITS_NONE for a kind without calibration.
     static EUnitsType GetTankCalFactorUnits(int kind, bool perMinute);
 
     // ---- Precision ------------------------------------------------------------------------------------------------
 
-    /// The precision of the rule when @p value, in the unit shown, has reached its threshold; else @p precision.
+    /// The precision of @p spec when @p value, in the unit shown, is not below its threshold. Otherwise, and for NaN,
+    /// @p precision.
     static int GetThresholdPrecision(float value, const tagThresholdSpec* spec, int precision);
 
-    /// The decimals that a unit is shown with; -1 for those that have none of their own.
+    /// The decimals with which a unit is shown by default; -1 for a unit without a default.
     static int GetDefaultPrecision(EUnitsType type);
 
-    /// @p precision, or the unit's default for -1.
+    /// @p precision, or the unit's default when it is -1.
     static int GetUnitPrecision(EUnitsType type, int precision);
 
-    /// Whether the unit is one of the three rates whose precision can depend on the value.
+    /// Whether the unit has decimals that depend on the value: UNITS_L_PER_HA, UNITS_KG_PER_HA, UNITS_KG_N_PER_HA.
     static bool IsUnitAbbrDynamicPrecisionSupported(EUnitsType type);
 
-    /// The decimals of a rate of that unit, by its value; 0 for a unit without such a rule, and for NaN.
+    /// The decimals of a rate by its value. 0 for a unit without such a rule, and for NaN.
     static int GetDynamicPrecision(float value, EUnitsType type);
     static int CalculateLiquidRateDynamicPrecision(float value);
     static int CalculateNH3RateDynamicPrecision(float value);
@@ -381,28 +403,28 @@ public:
 
     // ---- Numbers and units as texts -------------------------------------------------------------------------------
 
-    /// A full stop, and the point that the display shows: a comma when PARAM_DECIMAL_POINT is 1, read once in a
-    /// process.
+    /// The decimal point of stored numbers, a full stop; and that of the display, a comma when PARAM_DECIMAL_POINT is
+    /// DECIMAL_POINT_COMMA. The parameter is read once in a process.
     static QChar InternalDecimalPointChar();
     static QChar DisplayableDecimalPointChar();
 
-    /// @p text with the decimal point of each number in it changed. Shown: only a point between digits. Typed: a point
-    /// after digits too, so that "12," is read. Each looks at PARAM_DECIMAL_POINT once in a process.
+    /// Returns @p text with the decimal point of each number changed, to that of the display or back. To the display:
+    /// only a point between two digits is changed. Back: a point after a digit, so that a typed "12," is read. Each
+    /// reads PARAM_DECIMAL_POINT once in a process.
     static QString InternalToDisplayableFloatStr(const QString& text);
     static QString DisplayableToInternalFloatStr(const QString& text);
 
-    /// The value with @p unit directly behind it (pass a leading blank for a space). Without precision (below 0) in
-    /// general notation with 6 digits. Two units are more than text: "HH:mm:ss" shows hours as a time of day,
-    /// "DD/MM/YYYY" a Julian day as a date.
+    /// The value, and @p unit directly behind it: pass a leading blank to separate them. A precision below 0 shows up
+    /// to 6 significant digits. Two units have a meaning: "HH:mm:ss" shows hours as a time of day, "DD/MM/YYYY" shows a
+    /// Julian day as a date.
     static QString GetValueString(double value, const QString& unit, int precision, const tagThresholdSpec* spec);
 
     /// The text that the operator sees for @p value, which is in GetStoredUnit(@p type): litres for UNITS_CUBIC_METERS,
-    /// metres per second for UNITS_KPH. @p type chooses the quantity; the parameters choose the unit that is shown.
-    /// Units without a choice (acres, pounds, …) show the value as it is. DynamicPrecision asks for the precision by
-    /// value, for the rates that have one.
+    /// metres per second for UNITS_KPH. @p type chooses the quantity, the parameters choose the unit shown. Imperial
+    /// units and units per acre show the value as it is. DynamicPrecision asks for decimals that depend on the value.
     static QString GetValueString(double value, EUnitsType type, int precision, const tagThresholdSpec* spec);
 
-    /// The same, split at the first blank.
+    /// The same text, split at its first blank.
     static void GetValueUnitString(double value, QString& valueText, QString& unitText, const QString& unit,
                                    int precision, const tagThresholdSpec* spec);
     static void GetValueUnitString(double value, QString& valueText, QString& unitText, EUnitsType type, int precision,
@@ -410,10 +432,12 @@ public:
 
     // ---- Quantities -----------------------------------------------------------------------------------------------
 
-    // Each shows a stored value: number, one blank, abbreviation. The blank is always there, before a degree sign and
-    // behind a number without unit too. "metric" chooses between the systems, "us" between US and English measures.
+    // Each shows a stored value as a text: number, one blank, abbreviation. The blank is there before a degree sign,
+    // and behind a number without unit, too. @p metric chooses the metric system when true, the imperial one when
+    // false;
+    // @p us chooses US measures when true, English ones when false.
 
-    /// By PARAM_AREA_UNIT; a value beyond hectares and acres is shown as it is, without unit.
+    /// In the unit of PARAM_AREA_UNIT. When that is neither hectares nor acres, the value as it is, without a unit.
     static QString GetAreaString(float hectares, int precision, const tagThresholdSpec* spec);
     static QString GetProductivityString(float hectaresPerHour, int precision, const tagThresholdSpec* spec);
     static QString GetKiloseedsPerAreaString(double kiloseedsPerHectare, int precision, const tagThresholdSpec* spec);
@@ -422,14 +446,15 @@ public:
     static QString GetSpeedStringForMetersPerMinute(bool metric, float metersPerMinute, int precision,
                                                     const tagThresholdSpec* spec);
 
-    /// @p isIgnored changes nothing.
+    /// @p isIgnored has no effect.
     static QString GetSpeedString(bool metric, float metersPerSecond, bool isIgnored);
 
-    /// By PARAM_SHORT_DISTANCE_UNIT; feet and inches stand close to the number. @p small asks for the smaller unit.
+    /// In the unit of PARAM_SHORT_DISTANCE_UNIT. Feet and inches follow the number without a blank. @p small asks for
+    /// millimetres or inches.
     static QString GetDistanceString(float meters, bool small, int precision, const tagThresholdSpec* spec);
     static QString GetDistanceStringInMetricOrImperialFeet(float meters, int precision, const tagThresholdSpec* spec);
 
-    /// In the unit that suits the magnitude: cm, m, km, or inches, feet (with inches below 10 feet), miles.
+    /// In a unit that suits the magnitude: cm, m or km; or inches, feet (with inches below 10 feet) or miles.
     static QString GetDistanceStringAdaptive(bool metric, float meters, bool wholeInches, bool noDecimals);
 
     static QString GetVolumeStringInCubicMeterOrCubicFeet(bool metric, float liters, int precision,
@@ -438,12 +463,14 @@ public:
     static QString GetVolumeStringInUSBushels(float liters, int precision, const tagThresholdSpec* spec);
     static QString GetVolumeStringInUKBushels(float liters, int precision, const tagThresholdSpec* spec);
 
-    /// @p small shows mL or fluid ounces; else @p product, a unit of volume, tells what in. Another product: the value
-    /// as it is, without unit. Cubic metres, bushels and tonnes follow no threshold rule here.
+    /// In mL or fluid ounces when @p small. Otherwise in @p product, which is a metric unit of volume or a bushel, or
+    /// in its imperial partner. Any other @p product shows the value as it is, without a unit. Cubic metres, bushels
+    /// and tonnes ignore the threshold rule.
     static QString GetVolumeString(bool metric, bool us, float liters, bool small, EUnitsType product, int precision,
                                    const tagThresholdSpec* spec);
 
-    /// The same for flows; cubic metres and tonnes show their default precision here.
+    /// The same for flows, with a metric unit of flow as @p product. Cubic metres and tonnes ignore @p precision and
+    /// the threshold rule.
     static QString GetFlowRateString(bool metric, bool us, float litersPerMinute, bool small, EUnitsType product,
                                      int precision, const tagThresholdSpec* spec);
     static QString GetFlowRateStringInCubicMetersPerMinute(bool metric, float litersPerMinute, int precision,
@@ -465,26 +492,28 @@ public:
     static QString GetDensityStringInKilogramsPerCubicMeter(bool metric, double kilogramsPerLiter, int precision,
                                                             const tagThresholdSpec* spec);
 
-    /// Pounds per bushel exist for the bushel of the measures in use; for the other the value is shown as it is,
-    /// without unit.
+    /// Pounds per US bushel are shown only with @p us, pounds per UK bushel only without. Otherwise the value is shown
+    /// as it is, without a unit.
     static QString GetDensityStringInKilogramsPerUSBushel(bool metric, bool us, double kilogramsPerLiter, int precision,
                                                           const tagThresholdSpec* spec);
     static QString GetDensityStringInKilogramsPerUKBushel(bool metric, bool us, double kilogramsPerLiter, int precision,
                                                           const tagThresholdSpec* spec);
 
-    /// By PARAM_PRESSURE_UNIT; kPa and psi without decimals from 100 on.
+    /// In the unit of PARAM_PRESSURE_UNIT. kPa and psi are shown without decimals from 100 on.
     static QString GetPressureString(float kilopascals);
 
     static QString GetPulsesPerSpeedUnitString(bool metric, float hertzPerKph);
     static QString GetWheelCalFactorString(bool metric, float metersPerPulse);
 
-    /// @p product, a unit of pulses per something, tells what in; another one: the value as it is, without unit.
+    /// In @p product, a metric unit of pulses, or in its imperial partner. Any other @p product shows the value as it
+    /// is, without a unit.
     static QString GetFlowCalFactorString(bool metric, bool us, float pulses, EUnitsType product);
 
     // ---- Rates ----------------------------------------------------------------------------------------------------
 
-    /// The rate in the unit shown for the area in use, and that unit. US gallons are reported by the plain units. For
-    /// an area that is neither hectares nor acres, and for another product, the value as it is and UNITS_NONE.
+    /// Returns the rate in the unit shown for the chosen area, and sets @p unit to that unit. US gallons have the plain
+    /// units. When PARAM_AREA_UNIT is neither hectares nor acres, and for any other @p product, the rate is returned as
+    /// it is and @p unit is UNITS_NONE.
     static double GetWeightPerAreaValue(EUnitsType& unit, bool metric, float kilogramsPerHectare);
     static double GetVolumePerAreaValue(EUnitsType& unit, bool metric, bool us, float litersPerHectare,
                                         bool smallVolume, EUnitsType product);
@@ -498,34 +527,34 @@ public:
     static QString GetVolumePerAreaStringInTonnesPerSpecifiedAreaUnit(bool metric, float litersPerHectare,
                                                                       int precision, const tagThresholdSpec* spec);
 
-    /// With the decimals that suit the value; 0 without unit when the area is neither hectares nor acres.
+    /// With decimals that depend on the value. When PARAM_AREA_UNIT is neither hectares nor acres they show 0, without
+    /// a unit.
     static QString GetWeightPerAreaStringDynamicPrecision(double kilogramsPerHectare);
     static QString GetNitrogenWeightPerAreaStringDynamicPrecision(double kilogramsPerHectare);
     static QString GetSprayerRequestedRateString(double litersPerHectare);
 
-    /// "12.50 kg/ha (3.20%)", the error cut at 999 %; "----" for what is not a finite number.
+    /// "12.50 kg/ha (3.20%)". An error beyond 999 % is shown as ">999%" or "<-999%". A number that is not finite is
+    /// shown as "----". Without @p perArea the rate is shown as it is, without a unit.
     static QString GetDischargeRateAndRelativeErrorString(bool metric, bool perArea, float rate,
                                                           float relativeErrorPercent);
 
-    /// The same for volumes. @p isIgnored changes nothing.
+    /// The same for rates of volume. @p isIgnored has no effect.
     static QString GetFlowRateAndRelativeErrorString(bool metric, bool us, bool smallVolume, float rate,
                                                      float relativeErrorPercent, bool isIgnored, EUnitsType product);
 
     // ---- Positions, durations and dates ---------------------------------------------------------------------------
 
-    /// By PARAM_DEGREES_MINUTES_SECONDS, always with a full stop: 12°34'56.78"N or -33.86785000. Seconds are not
-    /// carried: 60.00 is shown as such.
+    /// As PARAM_DEGREES_MINUTES_SECONDS says: 12°34'56.78"N or -33.86785000, always with a full stop. Seconds are not
+    /// carried into the minutes: 60.00 is possible.
     static QString GetLatitudeString(double degrees);
     static QString GetLongitudeString(double degrees);
 
-    /// In seconds, minutes or hours, by magnitude.
+    /// In seconds below one minute, in minutes below one hour, otherwise in hours.
     static QString GetDurationString(float hours);
 
-    /// "02:05 hrs"; "> 100 hrs" from 101 hours on.
+    /// "02:05 hrs" for 125 minutes; "> 100 hrs" from 101 hours on.
     static QString GetFormattedDurationString(double minutes);
 
-    /// "Mar 3, 2014" or "3 Mar, 2014"; no month name for an invalid date.
+    /// "Mar 3, 2014" or "3 Mar, 2014". An invalid date has no month name.
     static QString GetDateString(bool monthFirst, const QDate& date);
 };
-
-#include "units/UnitConversions.h"

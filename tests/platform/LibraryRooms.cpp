@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QtTest>
 
-/// The folders of src/, and which of them each may include.
+/// The folders of src/ and those within them, and which of them each may include.
 class LibraryRooms : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,11 @@ const tagRoom Rooms[] = {
     {"platform", ""},
     {"access", "platform"},
     {"serialization", "platform access"},
-    {"units", "platform access"},
+    {"units", "platform"},
+    {"units/table", "platform units"},
+    {"units/conversion", "platform access units units/table"},
+    {"units/choice", "platform access units units/table units/conversion"},
+    {"units/text", "platform access units units/table units/conversion units/choice"},
     {"colors", "platform access"},
     {"region", "platform access"},
     {"logs", "platform access"},
@@ -40,18 +44,16 @@ const tagRoom Rooms[] = {
 
 QDir Sources() { return QDir(QString::fromUtf8(CABSETTINGS_SOURCES)); }
 
-/// The files of a folder and of those in it.
-QStringList FilesBelow(const QDir& folder)
+/// The folders below @p folder, by their paths from src/.
+QStringList RoomsBelow(const QString& folder)
 {
-    QStringList files;
-    const QFileInfoList entries = folder.entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QFileInfo& entry : entries) {
-        if (entry.isDir())
-            files += FilesBelow(QDir(entry.filePath()));
-        else
-            files.append(entry.filePath());
+    QStringList rooms;
+    const QStringList names = QDir(Sources().filePath(folder)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& name : names) {
+        const QString room = folder.isEmpty() ? name : folder + QLatin1Char('/') + name;
+        rooms << room << RoomsBelow(room);
     }
-    return files;
+    return rooms;
 }
 
 /// What stands in quotes behind each #include of a file.
@@ -77,9 +79,9 @@ void LibraryRooms::everyRoomHasItsRow()
     for (const tagRoom& room : Rooms)
         rows.insert(Latin1(room.name));
     QSet<QString> folders;
-    const QStringList names = Sources().entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString& name : names)
-        folders.insert(name);
+    const QStringList rooms = RoomsBelow(QString());
+    for (const QString& room : rooms)
+        folders.insert(room);
     QCOMPARE(folders, rows);
 }
 
@@ -98,14 +100,15 @@ void LibraryRooms::noRoomIncludesOneAboveIt()
     QFETCH(QString, room);
     QFETCH(QStringList, allowed);
 
-    const QStringList files = FilesBelow(QDir(Sources().filePath(room)));
+    const QDir folder(Sources().filePath(room));
+    const QStringList files = folder.entryList(QDir::Files);
     QVERIFY(!files.isEmpty());
     for (const QString& file : files) {
-        const QStringList includes = IncludesOf(file);
+        const QStringList includes = IncludesOf(folder.filePath(file));
         for (const QString& include : includes) {
-            const QString other = include.section(QLatin1Char('/'), 0, 0);
+            const QString other = include.section(QLatin1Char('/'), 0, -2);
             QVERIFY2(include.endsWith(Latin1(".moc")) || allowed.contains(other),
-                     qPrintable(file + Latin1(" includes ") + include));
+                     qPrintable(room + QLatin1Char('/') + file + Latin1(" includes ") + include));
         }
     }
 }

@@ -2,7 +2,7 @@
 
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
-#include "units/UnitTable.h"
+#include "units/table/UnitTable.h"
 
 #include <QStringList>
 
