@@ -7,6 +7,8 @@
 #include <QMutexLocker>
 #include <QVariant>
 
+double Floor::MetersToFeet(float meters) { return static_cast<double>(meters) * static_cast<double>(FeetPerMeter); }
+
 int Floor::OneRead() { return ConfigManager->GetParameter(PARAM_LANGUAGE).toInt(); }
 
 bool Floor::TwoReads()

@@ -12,7 +12,7 @@ struct tagGroup
 
 // clang-format off
 constexpr tagGroup Groups[] = {
-    {"convert.one",    "a factor function, called by name",                         0, false},
+    {"convert.one",    "a factor function",                                         0, false},
     {"convert.mix",    "from unit to unit, shuffled, no parameter decides",         0, false},
     {"convert.param",  "litres to gallons: two parameters decide",                  0, false},
     {"text.point",     "value, two decimals and abbreviation to QString",           0, false},
@@ -47,7 +47,7 @@ struct tagTarget
 };
 
 constexpr tagTarget Targets[] = {
-    {"convert.one", "ConvertMetersToFeet", "inline multiplication", 1.1},
+    {"convert.one", "ConvertMetersToFeet", "the multiplication in a shared library", 1.1},
     {"convert.mix", "ConvertUnit", "UDUNITS-2, kept converters", 1.0},
     {"convert.mix", "ConvertUnit", "KUnitConversion", 1.0 / 15},
     {"convert.param", "ConvertUnit to gallons", "the two reads alone", 1.1},

@@ -6,23 +6,12 @@ namespace {
 
 using namespace Work;
 
-constexpr float FeetPerMeter = 3.2808399f;
-
 double InlineMultiplication(unsigned number)
 {
-    return static_cast<double>(Inputs::Float(number)) * static_cast<double>(FeetPerMeter);
+    return static_cast<double>(Inputs::Float(number)) * static_cast<double>(Floor::FeetPerMeter);
 }
 
-double MultiplicationInExtendedPrecision(unsigned number)
-{
-    return static_cast<double>(static_cast<long double>(Inputs::Float(number)) * FeetPerMeter);
-}
-
-double CallIntoTheLibrary(unsigned number)
-{
-    static double (*volatile const function)(float) = &TUnits::ConvertMetersToFeet;
-    return function(Inputs::Float(number));
-}
+double MultiplicationInASharedLibrary(unsigned number) { return Floor::MetersToFeet(Inputs::Float(number)); }
 
 /// The factors of the mix, where they are known beforehand.
 const std::array<double, Inputs::Count> Factors = [] {
@@ -34,22 +23,17 @@ const std::array<double, Inputs::Count> Factors = [] {
 
 double KnownFactor(unsigned number) { return Inputs::Value(number) * Factors[number % Inputs::Count]; }
 
-double FunctionOfThePair(unsigned number)
-{
-    static double (*volatile const function)(float) = &TUnits::ConvertMetersToFeet;
-    return function(static_cast<float>(KnownFactor(number)));
-}
+double FunctionOfThePair(unsigned number) { return Floor::MetersToFeet(static_cast<float>(KnownFactor(number))); }
 
 bool TwoReads(unsigned) { return Floor::TwoReads(); }
 
 const TRows Rows = {
     {"convert.one", ROW_LIMIT, "inline multiplication", Timed<InlineMultiplication>},
-    {"convert.one", ROW_LIMIT, "inline multiplication, extended precision", Timed<MultiplicationInExtendedPrecision>},
-    {"convert.one", ROW_FLOOR, "the library's own copy, by pointer", Timed<CallIntoTheLibrary>},
+    {"convert.one", ROW_FLOOR, "the multiplication in a shared library", Timed<MultiplicationInASharedLibrary>},
     {"convert.one", ROW_OURS, "ConvertMetersToFeet", Timed<FactorByName>},
 
     {"convert.mix", ROW_LIMIT, "a multiplication by the known factor", Timed<KnownFactor>},
-    {"convert.mix", ROW_FLOOR, "one function, by pointer", Timed<FunctionOfThePair>},
+    {"convert.mix", ROW_FLOOR, "the same in a shared library", Timed<FunctionOfThePair>},
     {"convert.mix", ROW_OURS, "ConvertUnit", Timed<UnitByUnit>},
 
     {"convert.param", ROW_FLOOR, "the two reads alone", Timed<TwoReads>},
