@@ -3,8 +3,8 @@
 #include "nmea/TNmeaReceiver.h"
 #include "nmea/TNmeaSentenceParser.h"
 
-/// Follows fix, time and position through the sentences of a receiver. Sets neither a clock nor writes a log; the rules
-/// are those that TNmeaReceiver tells.
+/// Follows fix, time and position through the sentences of a receiver, by the rules described at TNmeaReceiver. Sets no
+/// clock and writes no log.
 class TFixTracker
 {
 public:
