@@ -1,4 +1,5 @@
-// A display on the ready host: a terminal in the folder named on the command line, and what the façades tell of it.
+// A display on the ready host: starts a terminal in the folder named on the command line, and prints what the façades
+// return.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -30,8 +31,8 @@ int main(int argc, char* argv[])
     const auto store = TSqliteStore::Open(DataFolder::StoreFile(folder), &error);
     if (!store)
         return Fail(error);
-    TTerminal terminal(*store); // goes before the store: its logs are closed while there still is one
-    if (!terminal.Start(folder, &error))
+    TTerminal terminal(*store); // declared after the store: it closes the logs while the store is still there
+    if (!terminal.Start(folder, &error, {QLatin1String("2.1.4-r7")})) // the version of the display's software
         return Fail(error);
 
     store->SetParameter(PARAM_CLIENT, QLatin1String("Miller"), true);

@@ -239,7 +239,7 @@ inline constexpr tagNumber ClockOffset = {
 inline constexpr tagDrive Drives[] = {
     {{PARAM_INTERNAL_DRIVE, "system.internal-drive", "folder of the internal drive; by default in the data folder",
       "every path on the terminal"},
-     "an absolute path that ends in \"/\""},
+     "an absolute path that ends in \"/\" and is not \"/\""},
     {{PARAM_EXTERNAL_DRIVE, "system.external-drive",
       "mount point of the removable drive; by default in the data folder", "every path on the stick, exports"},
      "an absolute path"},

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
 
 #include <algorithm>
@@ -111,14 +112,18 @@ QList<tagParameter> AllParameters()
     return parameters;
 }
 
+/// Whether @p path is the root folder, under whatever name.
+bool IsRoot(const QString& path) { return QFileInfo(QDir::cleanPath(path)).canonicalFilePath() == QDir::rootPath(); }
+
 /// Whether @p value, which has the parameter's type, is one that people may give it.
 bool IsAccepted(const tagParameter& parameter, const QVariant& value)
 {
+    const QString text = value.toString();
     switch (parameter.id) {
     case PARAM_INTERNAL_DRIVE:
-        return QDir::isAbsolutePath(value.toString()) && value.toString().endsWith(QLatin1Char('/'));
+        return QDir::isAbsolutePath(text) && text.endsWith(QLatin1Char('/')) && !IsRoot(text);
     case PARAM_EXTERNAL_DRIVE:
-        return QDir::isAbsolutePath(value.toString());
+        return QDir::isAbsolutePath(text);
     default:
         const bool isNumber = parameter.type == PARAMETER_INT && parameter.choices.isEmpty();
         return !isNumber || (value.toInt() >= parameter.least && value.toInt() <= parameter.greatest);

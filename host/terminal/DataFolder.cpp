@@ -1,10 +1,21 @@
 #include "terminal/DataFolder.h"
 
+#include "parameters/TParameterCatalogue.h"
 #include "system/TSystemSettings.h"
 
 #include <QDir>
 
 using System = TSystemSettings;
+
+namespace {
+
+/// Whether the catalogue accepts @p drive as the value of @p id. If not, says so in @p problem.
+bool IsAccepted(EParamID id, const QString& drive, QString* problem)
+{
+    return TParameterCatalogue::Read(*TParameterCatalogue::Find(id), drive, problem).isValid();
+}
+
+} // namespace
 
 QString DataFolder::StoreFile(const QString& dataFolder)
 {
@@ -19,6 +30,20 @@ QString DataFolder::InternalDrive(const QString& dataFolder)
 QString DataFolder::ExternalDrive(const QString& dataFolder)
 {
     return QDir(dataFolder).absoluteFilePath(QLatin1String("usb"));
+}
+
+QString DataFolder::InternalDrive(const QString& dataFolder, const QString& stored, QString* problem)
+{
+    const QLatin1Char separator('/');
+    const QString drive = stored.endsWith(separator) ? stored : stored + separator;
+    const bool isUsed = !stored.isEmpty() && IsAccepted(PARAM_INTERNAL_DRIVE, drive, problem);
+    return isUsed ? drive : InternalDrive(dataFolder);
+}
+
+QString DataFolder::ExternalDrive(const QString& dataFolder, const QString& stored, QString* problem)
+{
+    const bool isUsed = !stored.isEmpty() && IsAccepted(PARAM_EXTERNAL_DRIVE, stored, problem);
+    return isUsed ? stored : ExternalDrive(dataFolder);
 }
 
 bool DataFolder::MakeTree(const QString& internalDrive, QString* error)

@@ -4,19 +4,31 @@
 
 #include <QString>
 
-/// A folder that stands for a terminal: its parameter store and its two drives.
+/// The folder that stands for a terminal: the file of its parameter store, and its two drives unless the store names
+/// others.
+///
+/// @code
+/// const QString file = DataFolder::StoreFile(folder);      // "folder/settings.db"
+/// const QString drive = DataFolder::InternalDrive(folder); // "folder/internal/"
+/// if (!DataFolder::MakeTree(drive, &error))
+/// @endcode
 namespace DataFolder {
 
-/// File of the parameter store.
+/// The file of the parameter store.
 CABHOST_EXPORT QString StoreFile(const QString& dataFolder);
 
-/// Where the drives lie unless the store names another place: the internal drive ending in "/", and the mount point of
-/// the removable one.
+/// The drives in the data folder: the internal drive, ending in "/", and the mount point of the removable one.
 CABHOST_EXPORT QString InternalDrive(const QString& dataFolder);
 CABHOST_EXPORT QString ExternalDrive(const QString& dataFolder);
 
-/// Makes the folders in which the display keeps its files under @p internalDrive. On failure false, with @p error
-/// naming the folder.
+/// The drives of a terminal whose store holds @p stored in PARAM_INTERNAL_DRIVE or PARAM_EXTERNAL_DRIVE. The internal
+/// drive ends in "/", also when the stored one does not. When @p stored is empty, or TParameterCatalogue does not
+/// accept it, the drive is in the data folder; in the second case @p problem receives one line.
+CABHOST_EXPORT QString InternalDrive(const QString& dataFolder, const QString& stored, QString* problem);
+CABHOST_EXPORT QString ExternalDrive(const QString& dataFolder, const QString& stored, QString* problem);
+
+/// Makes the folders in which the display keeps its files under @p internalDrive. Returns false when that fails, with
+/// the folder named in @p error.
 CABHOST_EXPORT bool MakeTree(const QString& internalDrive, QString* error);
 
 } // namespace DataFolder

@@ -2,23 +2,24 @@
 
 #include "diagnostics/KeptLogs.h"
 #include "diagnostics/TOneLineLogAccessor.h"
+#include "parameters/ItemNames.h"
 #include "platform/TLocalTime.h"
 #include "region/TRegionSettings.h"
 #include "settings/TSettings.h"
 #include "stores/TPersistenceHold.h"
-#include "terminal/DataFolder.h"
+#include "system/TSystemSettingsProxy.h"
 #include "terminal/FirstStartValues.h"
+#include "terminal/TTerminalParameters.h"
 #include "terminal/Translation.h"
 #include "units/TUnitAbbreviations.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QList>
 #include <QPair>
 
 namespace {
 
-/// What the operator has chosen, and TSettings::Restore() replaces by what a display starts with.
+/// The operator's selections that TSettings::Restore() replaces by the built-in names.
 constexpr EParamID Selections[] = {
     PARAM_ACTIVE_JOB,
     PARAM_ACTIVE_BOUNDARY,
@@ -48,70 +49,85 @@ TSelections StoredSelections(TParameterStore& store)
 
 } // namespace
 
-TTerminal::TTerminal(TParameterStore& store) : m_Store(store) {}
+TTerminal::TTerminal(TParameterStore& store) : m_Store(store), m_IsStarted(false) {}
 
 TTerminal::~TTerminal() { Stop(); }
 
-bool TTerminal::Start(const QString& dataFolder, QString* error)
+bool TTerminal::Start(const QString& dataFolder, QString* error, const tagTerminalOptions& options)
 {
     Stop();
-    TPersistenceHold hold(m_Store);
-    ConfigManager = &m_Store;
-    SetFirstStartValues(m_Store);
-    PlaceDrives(dataFolder);
-    if (!DataFolder::MakeTree(m_Store.GetParameter(PARAM_INTERNAL_DRIVE).toString(), error)) {
-        Stop();
+    if (Settings) {
+        *error = QLatin1String("another terminal is running in this program");
+        return false;
+    }
+    const QString version =
+        options.softwareVersion.isEmpty() ? QCoreApplication::applicationVersion() : options.softwareVersion;
+    const QString problem = ItemNames::Problem(version, ItemNames::MostBytes);
+    if (!problem.isEmpty()) {
+        *error = QString::fromLatin1("invalid software version \"%1\": the version %2").arg(version, problem);
         return false;
     }
 
-    TRegionSettings::InitializeLanguageStrings();
-    InstallTranslation(m_Translator);
-    TUnitAbbreviations::Initialize();
-    RestoreSettings();
-    m_UserLogAccessor = std::make_unique<TOneLineLogAccessor>();
-    UserLogAccessorPtr = m_UserLogAccessor.get();
-
-    hold.Release(); // a store that cannot write says so itself; the display goes on with what it has in memory
+    TPersistenceHold hold(m_Store);
+    m_IsStarted = true;
+    try {
+        if (!PublishParameters(dataFolder, error)) {
+            Stop();
+            hold.Abandon();
+            return false;
+        }
+        PublishSettings(version, options.clientRoot);
+    } catch (...) {
+        Stop();
+        hold.Abandon();
+        throw;
+    }
+    hold.Release(); // a store that cannot write says so itself; the display goes on with the values in memory
     return true;
 }
 
 void TTerminal::Stop()
 {
+    if (!m_IsStarted)
+        return;
+    m_IsStarted = false;
     UserLogAccessorPtr = nullptr;
     m_UserLogAccessor.reset();
     if (m_Settings)
         FinishLogs();
-    m_Settings.reset(); // closes the logs, which still need the store
     Settings = nullptr;
+    m_Settings.reset(); // closes the logs, which need the parameters
     QCoreApplication::removeTranslator(&m_Translator);
     TLocalTime::SetOffset(0);
     ConfigManager = nullptr;
+    m_Parameters.reset();
 }
 
-/// The composed paths need an internal drive that ends in "/". A drive that follows the data folder is not persisted,
-/// so that the folder can be moved or copied as a whole; its mount point is made, as a system has it.
-void TTerminal::PlaceDrives(const QString& dataFolder)
+bool TTerminal::PublishParameters(const QString& dataFolder, QString* error)
 {
-    if (!m_Store.HasParameter(PARAM_INTERNAL_DRIVE))
-        m_Store.SetParameter(PARAM_INTERNAL_DRIVE, DataFolder::InternalDrive(dataFolder), false);
-    if (!m_Store.HasParameter(PARAM_EXTERNAL_DRIVE)) {
-        const QString mountPoint = DataFolder::ExternalDrive(dataFolder);
-        QDir().mkpath(mountPoint);
-        m_Store.SetParameter(PARAM_EXTERNAL_DRIVE, mountPoint, false);
-    }
-
-    const QString internal = m_Store.GetParameter(PARAM_INTERNAL_DRIVE).toString();
-    if (!internal.endsWith(QLatin1Char('/')))
-        m_Store.SetParameter(PARAM_INTERNAL_DRIVE, internal + QLatin1Char('/'), false);
+    SetFirstStartValues(m_Store);
+    m_Parameters = std::make_unique<TTerminalParameters>(m_Store, dataFolder);
+    if (!m_Parameters->PlaceDrives(error))
+        return false;
+    ConfigManager = m_Parameters.get();
+    return true;
 }
 
-void TTerminal::RestoreSettings()
+void TTerminal::PublishSettings(const QString& softwareVersion, const QString& clientRoot)
 {
+    TRegionSettings::InitializeLanguageStrings();
+    InstallTranslation(m_Translator);
+    TUnitAbbreviations::Initialize();
+
     const TSelections selections = StoredSelections(m_Store);
     m_Settings = std::make_unique<TSettings>();
     Settings = m_Settings.get();
+    TSystemSettingsProxy().SetSoftwareVersion(softwareVersion);
+    TSystemSettingsProxy().SetCFFRoot(clientRoot);
     Settings->Initialise();
     Settings->Restore();
     for (const auto& selection : selections)
         m_Store.SetParameter(selection.first, selection.second, true);
+    m_UserLogAccessor = std::make_unique<TOneLineLogAccessor>();
+    UserLogAccessorPtr = m_UserLogAccessor.get();
 }

@@ -9,16 +9,35 @@
 #include <memory>
 
 class TSettings;
+class TTerminalParameters;
 class TUserLogAccessor;
 
-/// A terminal that runs: everything between a parameter store and a display that can use the façades.
+/// What the display tells a terminal at its start.
+struct tagTerminalOptions
+{
+    /// The version of the display's software. It is part of file names and package names, so it must be a possible file
+    /// name. Empty: QCoreApplication::applicationVersion().
+    QString softwareVersion = QString();
+
+    /// The folder of the internal drive in which the folders of the clients are, without "/" at its end. Empty: the
+    /// drive itself. See TSystemSettings::SetCFFRoot().
+    QString clientRoot = QString();
+};
+
+/// A running terminal: creates, restores and publishes everything that the façades need.
 ///
-/// Needs a QCoreApplication (for translations) and is used from its thread. One at a time: the library's globals belong
-/// to it from Start() to Stop().
+/// @code
+/// TTerminal terminal(store); // declared after the store: it closes the logs while the store is still there
+/// if (!terminal.Start(folder, &error, {QLatin1String("2.1.4-r7")}))
+///     return Fail(error);
+/// @endcode
+///
+/// One terminal can run at a time, because Settings, ConfigManager and UserLogAccessorPtr belong to it from Start() to
+/// Stop(). Needs a QCoreApplication, for translations, and is used from its thread.
 class CABHOST_EXPORT TTerminal
 {
 public:
-    /// @p store must outlive the terminal.
+    /// @param store must outlive the terminal.
     explicit TTerminal(TParameterStore& store);
 
     /// Stops.
@@ -27,24 +46,34 @@ public:
     TTerminal(const TTerminal&) = delete;
     TTerminal& operator=(const TTerminal&) = delete;
 
-    /// Gives absent parameters their first values, makes the folder tree, publishes store and settings, restores the
-    /// clock, opens the logs, and brings the operator's last selections back. Nothing reaches the disk's store until
-    /// all of it is in place, in one step: a power cut on the way loses no selection.
+    /// Gives absent parameters the values of a first start, makes the folders, publishes parameters and settings,
+    /// restores the clock, opens the logs, and brings the operator's last selections back. Stops first when it is
+    /// running.
     ///
-    /// @param dataFolder stands for the terminal; see DataFolder. PARAM_INTERNAL_DRIVE and PARAM_EXTERNAL_DRIVE, where
-    ///        the store holds them, put the drives elsewhere.
-    /// @param error says what failed and where when the result is false; the terminal is then stopped.
-    bool Start(const QString& dataFolder, QString* error);
+    /// The changes to the store are written in one step when everything has succeeded: neither a power cut nor a start
+    /// that fails loses a selection or leaves anything in the store.
+    ///
+    /// While the terminal runs, the drives of the library are always usable. PARAM_INTERNAL_DRIVE and
+    /// PARAM_EXTERNAL_DRIVE name them; where a parameter is empty or absent, the drive is in the data folder. When
+    /// another program changes the internal drive, its folders are made at the next read; a drive that cannot be used
+    /// leaves the terminal with the one it has.
+    ///
+    /// @param dataFolder the folder that stands for the terminal; see DataFolder.
+    /// @param error says what failed, and where, when the result is false. The terminal is then stopped.
+    bool Start(const QString& dataFolder, QString* error, const tagTerminalOptions& options = {});
 
-    /// Closes the logs, what they have staged included, and takes settings and store back. Does nothing when stopped.
+    /// Closes the logs, writes what they have staged, and takes back what Start() has published. Does nothing when this
+    /// terminal is not running, even when another one is.
     void Stop();
 
 private:
-    void PlaceDrives(const QString& dataFolder);
-    void RestoreSettings();
+    bool PublishParameters(const QString& dataFolder, QString* error);
+    void PublishSettings(const QString& softwareVersion, const QString& clientRoot);
 
     TParameterStore& m_Store;
+    bool m_IsStarted;
     QTranslator m_Translator;
+    std::unique_ptr<TTerminalParameters> m_Parameters;
     std::unique_ptr<TSettings> m_Settings;
     std::unique_ptr<TUserLogAccessor> m_UserLogAccessor;
 };

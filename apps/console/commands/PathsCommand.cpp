@@ -302,9 +302,11 @@ int RunPaths(const tagContext& context, const QStringList& arguments)
         return STATUS_FAILED;
     TParameterStore& store = session.Store();
     const bool areNamesGiven = TakeNames(line, store);
+    QString mountPoint;
+    TSystemSettingsProxy().GetExternalDrivePath(mountPoint);
     const tagNames names = {store.GetParameter(PARAM_CLIENT).toString(), store.GetParameter(PARAM_FARM).toString(),
                             store.GetParameter(PARAM_FIELD).toString(), store.GetParameter(PARAM_ACTIVE_JOB).toString(),
-                            QFileInfo::exists(store.GetParameter(PARAM_EXTERNAL_DRIVE).toString())};
+                            QFileInfo::exists(mountPoint)};
     QJsonArray array;
     QList<QStringList> rows;
     const QList<tagShown> shown = AllPaths(names, areNamesGiven);

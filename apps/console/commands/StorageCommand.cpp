@@ -130,7 +130,8 @@ int RunStorage(const tagContext& context, const QStringList& arguments)
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
     const TSystemSettingsProxy system;
-    const QString mountPoint = session.Store().GetParameter(PARAM_EXTERNAL_DRIVE).toString();
+    QString mountPoint;
+    system.GetExternalDrivePath(mountPoint);
     const QList<tagDrive> drives = {InternalDrive(system), RemovableDrive(system, mountPoint)};
     const std::optional<tagSpace> memory = Memory(system);
     const std::optional<float> load = Load(system);

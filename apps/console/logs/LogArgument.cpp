@@ -19,6 +19,7 @@ std::optional<QString> FindLogDrive(const tagContext& context)
     TSession session;
     if (!session.Open(context, SESSION_STORE))
         return std::nullopt;
-    const QString drive = session.Store().GetParameter(PARAM_INTERNAL_DRIVE).toString();
-    return drive.isEmpty() ? DataFolder::InternalDrive(context.dataFolder) : drive;
+    QString problem; // said when the terminal runs
+    return DataFolder::InternalDrive(context.dataFolder, session.Store().GetParameter(PARAM_INTERNAL_DRIVE).toString(),
+                                     &problem);
 }

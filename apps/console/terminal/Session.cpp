@@ -52,7 +52,7 @@ bool TSession::StartTerminal(const tagContext& context)
 {
     m_Terminal = std::make_unique<TTerminal>(*m_Store);
     QString error;
-    if (m_Terminal->Start(context.dataFolder, &error))
+    if (m_Terminal->Start(context.dataFolder, &error, {QLatin1String(CABSETTINGS_VERSION)}))
         return true;
     Fail(error);
     return false;

@@ -250,6 +250,8 @@ void ParameterCatalogue::otherTextsAreRefused_data()
     row(PARAM_ACTIVE_JOB, "..", "the name refers to another folder");
     row(PARAM_INTERNAL_DRIVE, "/media/internal", "expected an absolute path that ends in \"/\"");
     row(PARAM_INTERNAL_DRIVE, "internal/", "expected an absolute path that ends in \"/\"");
+    for (const char* root : {"/", "//", "/./", "/../", "/nowhere/../"})
+        row(PARAM_INTERNAL_DRIVE, root, "and is not \"/\"");
     row(PARAM_EXTERNAL_DRIVE, "usb", "expected an absolute path");
     row(PARAM_EXTERNAL_DRIVE, "", "expected an absolute path");
     row(PARAM_MAP_COLOR_NIGHT, "blurple", "expected a colour: #rrggbb, #aarrggbb or a name such as navy");

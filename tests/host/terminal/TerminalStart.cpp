@@ -22,10 +22,9 @@ private slots:
     void theOperatorsSelectionsAreBack();
     void whatWasNeverSelectedIsWhatADisplayStartsWith();
     void nothingIsStoredBeforeEverythingIsInPlace();
-    void drivesFollowTheDataFolder();
-    void drivesOfTheStoreAreUsed();
     void theFolderTreeIsMade();
-    void aFolderThatCannotBeMadeIsNamed();
+    void theVersionAndTheClientRootAreInThePaths();
+    void theVersionIsTheApplicationsUnlessAnotherIsGiven();
     void logsAreOpenUntilTheStop();
     void theClockOffsetIsBack();
     void textsFollowTheLanguage_data();
@@ -69,7 +68,11 @@ void TerminalStart::startPublishesAndStopTakesBack()
     QString error;
     QVERIFY2(terminal.Start(Folder(), &error), qPrintable(error));
     QVERIFY(Settings && UserLogAccessorPtr);
-    QCOMPARE(ConfigManager, static_cast<TConfigManager*>(&store));
+    QVERIFY(ConfigManager);
+    store.SetParameter(PARAM_AREA_UNIT, 4711, false);
+    QCOMPARE(ConfigManager->GetParameter(PARAM_AREA_UNIT), QVariant(4711));
+    QVERIFY(ConfigManager->SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true));
+    QCOMPARE(store.GetParameter(PARAM_CLIENT), QVariant(QLatin1String("Smith")));
     QCOMPARE(TRegionSettings::GetLanguageString(LANGUAGE_GERMAN), QString::fromLatin1("Deutsch"));
     QVERIFY(UserLogAccessorPtr->AddEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_DTC, 1, QString(), QString()));
     terminal.Stop();
@@ -133,35 +136,6 @@ void TerminalStart::nothingIsStoredBeforeEverythingIsInPlace()
     QVERIFY2(store.persisted.isEmpty() || store.persisted.first().isEmpty(), "a second start changes nothing");
 }
 
-void TerminalStart::drivesFollowTheDataFolder()
-{
-    TRecordingStore store;
-    TTerminal terminal(store);
-    QString error;
-    QVERIFY(terminal.Start(Folder(), &error));
-    QCOMPARE(TSystemSettingsProxy().GetInternalDrivePath(), Folder() + QLatin1String("/internal/"));
-    QString external;
-    QVERIFY(!TSystemSettingsProxy().GetExternalDrivePath(external));
-    QCOMPARE(external, Folder() + QLatin1String("/usb"));
-    for (const auto& changes : store.persisted) {
-        QVERIFY(!changes.contains(PARAM_INTERNAL_DRIVE));
-        QVERIFY(!changes.contains(PARAM_EXTERNAL_DRIVE));
-    }
-}
-
-void TerminalStart::drivesOfTheStoreAreUsed()
-{
-    TMemoryStore store;
-    store.SetParameter(PARAM_INTERNAL_DRIVE, Folder() + QLatin1String("/flash"), true);
-    store.SetParameter(PARAM_EXTERNAL_DRIVE, QLatin1String("/proc"), true);
-    TTerminal terminal(store);
-    QString error;
-    QVERIFY(terminal.Start(Folder(), &error));
-    QCOMPARE(TSystemSettingsProxy().GetInternalDrivePath(), Folder() + QLatin1String("/flash/"));
-    QVERIFY(QFileInfo::exists(Folder() + QLatin1String("/flash/Jobs")));
-    QVERIFY(TSystemSettingsProxy().IsExternalDrivePresent());
-}
-
 void TerminalStart::theFolderTreeIsMade()
 {
     TMemoryStore store;
@@ -177,16 +151,40 @@ void TerminalStart::theFolderTreeIsMade()
     QVERIFY(!drive.exists(QLatin1String("Fields")));
 }
 
-void TerminalStart::aFolderThatCannotBeMadeIsNamed()
+void TerminalStart::theVersionAndTheClientRootAreInThePaths()
 {
-    QFile file(Folder() + QLatin1String("/internal"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    TMemoryStore store;
+    store.SetParameter(PARAM_EXTERNAL_DRIVE, QLatin1String("/proc"), true); // a mount point
+    store.SetParameter(PARAM_ACTIVE_IMPLEMENT, QLatin1String("Seeder"), true);
+    TTerminal terminal(store);
+    QString error;
+    for (const char* version : {"2.1.4-r7", "2.1.5-r12"}) {
+        QVERIFY2(terminal.Start(Folder(), &error, {QLatin1String(version), QLatin1String("tasks")}), qPrintable(error));
+        const TSystemSettingsProxy system;
+        QCOMPARE(system.GetSoftwareVersion(false), QLatin1String(version));
+        QCOMPARE(system.GetPackageName(), QLatin1String("kdm740-") + QLatin1String(version));
+        const QString shown = system.GetSoftwareVersion(true);
+        QVERIFY(system.GetActivePerformanceTestLogPath(QLatin1String("tag"))
+                    .endsWith(QString::fromLatin1("_tag_%1_Seeder.csv").arg(shown)));
+        QCOMPARE(system.GetCFFRoot(), QLatin1String("tasks"));
+        QCOMPARE(system.GetFlagPointsFilePath(QLatin1String("c"), QLatin1String("f"), QLatin1String("g")),
+                 Folder() + QLatin1String("/internal/tasks/Clients/c/f/g/flagpoints.ini"));
+    }
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TSystemSettingsProxy().GetCFFRoot(), QString());
+}
+
+void TerminalStart::theVersionIsTheApplicationsUnlessAnotherIsGiven()
+{
     TMemoryStore store;
     TTerminal terminal(store);
     QString error;
-    QVERIFY(!terminal.Start(Folder(), &error));
-    QVERIFY2(error.contains(Folder() + QLatin1String("/internal/Jobs")), qPrintable(error));
-    QVERIFY(!Settings && !ConfigManager);
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TSystemSettingsProxy().GetPackageName(), QLatin1String("kdm740-")); // the test has no version
+    QCoreApplication::setApplicationVersion(QLatin1String("7.3"));
+    QVERIFY(terminal.Start(Folder(), &error));
+    QCOMPARE(TSystemSettingsProxy().GetPackageName(), QLatin1String("kdm740-7.3"));
+    QCoreApplication::setApplicationVersion(QString());
 }
 
 void TerminalStart::logsAreOpenUntilTheStop()
