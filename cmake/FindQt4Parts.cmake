@@ -17,11 +17,3 @@ endif()
 foreach(_part IN LISTS _parts)
     add_library(Qt4::${_part} ALIAS Qt4::Qt${_part})
 endforeach()
-
-# What GCC finds by following a call into Qt's inline functions it reports at our line, which cannot mend it: no errors.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    set(_found_by_flow array-bounds dangling-pointer free-nonheap-object maybe-uninitialized nonnull restrict
-        strict-aliasing stringop-overflow stringop-overread use-after-free)
-    list(TRANSFORM _found_by_flow PREPEND -Wno-error=)
-    target_compile_options(BuildSettings INTERFACE ${_found_by_flow})
-endif()
