@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdlib>
 #include <ctime>
 #include <limits>
 
@@ -12,8 +11,9 @@
 // for every log line.
 //
 // What is promised:
-// - SetDateTime() changes the clock only when it is wrong by a second or more. So the clock stays within a second of
-//   the time that it was set to last, and lines of a receiver that are early or late by less do not move it.
+// - SetDateTime() changes the clock only when it is at least a second ahead of the second given, or at least half a
+//   second behind its beginning. So the clock stays within a second of the time that it was set to last, and lines of a
+//   receiver that are early or late by less than half a second do not move it.
 // - When it changes the clock, the second that was given begins at that moment.
 // - The clock never runs backwards by less than two seconds. It stands still until the time has come.
 // - Offsets are in milliseconds inside and in whole seconds outside, rounded up: after a restart the clock shows the
@@ -28,6 +28,11 @@ const qint64 JulianDayOf1970 = 2440588;
 
 const qint64 Smallest = std::numeric_limits<qint64>::min();
 const qint64 LongestStandstill = 2 * MillisecondsPerSecond;
+
+// A time given in whole seconds is on average half a second past the beginning of its second: a clock that is half a
+// second behind that beginning is about a second wrong.
+const qint64 LargestLead = MillisecondsPerSecond;
+const qint64 LargestLag = MillisecondsPerSecond / 2;
 
 std::atomic<qint64> OffsetInMilliseconds{0};
 std::atomic<qint64> StandsUntil{Smallest}; ///< a time that the clock has shown, and does not go behind
@@ -93,9 +98,9 @@ int TLocalTime::SetDateTime(int year, int month, int day, int hour, int minute, 
         return GetOffset();
     const qint64 wanted = (date.toJulianDay() - JulianDayOf1970) * MillisecondsPerDay + time.msecsSinceStartOfDay();
     const qint64 machine = MachineTime();
-    const qint64 error = machine + OffsetInMilliseconds.load() - wanted;
-    if (std::abs(error) >= MillisecondsPerSecond) {
-        const bool standsStill = error > 0 && error < LongestStandstill;
+    const qint64 lead = machine + OffsetInMilliseconds.load() - wanted;
+    if (lead >= LargestLead || -lead >= LargestLag) {
+        const bool standsStill = lead > 0 && lead < LongestStandstill;
         Change(std::clamp(wanted - machine, Milliseconds(std::numeric_limits<int>::min()),
                           Milliseconds(std::numeric_limits<int>::max())),
                standsStill ? ShownTime() : Smallest);

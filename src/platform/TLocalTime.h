@@ -21,9 +21,10 @@ public:
     /// Sets the clock and returns its new offset, in a unit of the host's choice. The library stores the offset and
     /// passes it to SetOffset() at the next start.
     ///
-    /// While time comes from GPS, this is called once a second with whole seconds. The call may come a fraction of a
-    /// second early or late, and the clock must not jump with it. The clock of the ready host changes only when it is
-    /// wrong by a second or more, and stands still instead of running backwards by less than two seconds.
+    /// While time comes from GPS this is called once a second, with whole seconds whose lines are early or late by
+    /// parts of a second. The clock must not follow them to and fro. The ready host's clock stays as it is while it is
+    /// less than a second ahead, or less than half a second behind; and it stands still rather than run backwards by
+    /// less than two seconds.
     static int SetDateTime(int year, int month, int day, int hour, int minute, int second);
 
     /// The current offset; 0 when none has been applied.
