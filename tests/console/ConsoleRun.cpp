@@ -153,8 +153,9 @@ void ConsoleRun::theClockShowsTheLastUtcPlusTheOffset()
     QVERIFY2(lastUtc.isValid(), qPrintable(utc));
     const QTime shown = QTime::fromString(
         result.output.section(QLatin1String("2024 "), 1).section(QLatin1Char(' '), 0, 0), QLatin1String("HH:mm:ss"));
+    // The clock may be up to a second off: it is not set again for less.
     const int lag = lastUtc.addSecs(5 * 3600 + 30 * 60).time().secsTo(shown);
-    QVERIFY2(lag >= 0 && lag <= 5, qPrintable(result.output));
+    QVERIFY2(lag >= -1 && lag <= 5, qPrintable(result.output));
 }
 
 void ConsoleRun::theClockBeginsAtTheFirstTimeOfARecording_data()
@@ -176,7 +177,7 @@ void ConsoleRun::theClockBeginsAtTheFirstTimeOfARecording_data()
     QTest::newRow("winter") << europe << fix + later << "+01:00" << QByteArray("2024.01.15-11:0");
     QTest::newRow("summer") << europe << summer << "+02:00" << QByteArray("2024.07.15-12:0");
     QTest::newRow("another day there") << QByteArray("XXX-12") << Rmc("235959.90", 'A', "290224") << "+12:00"
-                                       << QByteArray("2024.03.01-11:59:59");
+                                       << QByteArray("2024.03.01-11:59:5");
     QTest::newRow("half a day ahead") << QByteArray("XXX-12") << fix << "+12:00" << QByteArray("2024.01.15-22:0");
     QTest::newRow("more than half a day ahead")
         << QByteArray("XXX-13:45") << fix << "+13:45" << QByteArray("2024.01.15-23:4");
