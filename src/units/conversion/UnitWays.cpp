@@ -19,7 +19,7 @@ struct tagWay
         if (special)
             return special(*this, value);
         // Both for every factor: a branch that spares the division is mispredicted, which costs more.
-        return Narrow(Wide(Stored(static_cast<float>(value))) * Wide(times) / Wide(over));
+        return Narrow(Widen(static_cast<float>(value)) * Wide(times) / Wide(over));
     }
 
     /// The way of a unit of two sizes by one of them; these two follow it.

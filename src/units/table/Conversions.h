@@ -37,12 +37,12 @@ inline double PsiToKilopascals(double value) { return value / 0.14504; }
 
 inline double CelsiusToFahrenheit(double value)
 {
-    return Narrow(Wide(Stored(static_cast<float>(value))) / Wide(CelsiusPerFahrenheit) + 32);
+    return Narrow(Widen(static_cast<float>(value)) / Wide(CelsiusPerFahrenheit) + 32);
 }
 
 inline double FahrenheitToCelsius(double value)
 {
-    return Narrow((Wide(Stored(static_cast<float>(value))) - 32) * Wide(CelsiusPerFahrenheit));
+    return Narrow((Widen(static_cast<float>(value)) - 32) * Wide(CelsiusPerFahrenheit));
 }
 
 // clang-format off
