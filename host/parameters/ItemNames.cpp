@@ -12,7 +12,7 @@ const char* const Separators = "/\\";
 const char* const ForbiddenByFat = "\"*:<>?|";
 const QChar Substitute = QLatin1Char('_');
 
-/// Devices of the systems that sticks come from: a file of that name, with whatever extension, opens the device.
+/// Names of devices on other systems that use FAT. There, a file with such a name and any extension opens the device.
 const char* const Reserved[] = {
     "CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
     "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9",
@@ -25,7 +25,7 @@ bool IsOneOf(QChar character, const char* characters)
 
 bool IsControl(QChar character) { return character.category() == QChar::Other_Control; }
 
-/// Half of a character beyond 16 bits: no file system has a name for it.
+/// Whether the character at @p i is half of a surrogate pair, which has no form in UTF-8.
 bool IsAlone(const QString& name, int i)
 {
     if (name.at(i).isHighSurrogate())

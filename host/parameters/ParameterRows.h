@@ -16,16 +16,16 @@
 #include <cstddef>
 #include <limits>
 
-/// The rows of TParameterCatalogue, by kind: everything that is known about each parameter stands here, once.
+/// The rows of TParameterCatalogue, by kind. They are the only place that describes the parameters.
 namespace ParameterRows {
 
-/// What every row has.
+/// The part that every row has.
 struct tagAbout
 {
     EParamID id;
-    const char* name; ///< for people and tools: a group, a full stop, and what it is in the group
+    const char* name; ///< a group, a full stop, and a name within the group
     const char* meaning;
-    const char* readers; ///< what changes with it
+    const char* readers; ///< what the parameter has an effect on
 };
 
 struct tagSwitch
@@ -57,12 +57,12 @@ struct tagNumber
     const char* unit;
 };
 
-/// An item or folder that the operator names; which names are accepted is in the namespace ItemNames.
+/// An item or a folder whose name the operator gives. The namespace ItemNames says which names are accepted.
 struct tagItem
 {
     tagAbout about;
-    bool hasExtension; ///< of an item's file; else of a folder
-    bool isFirstEmpty; ///< else TSettings::Restore() puts the built-in name there
+    bool hasExtension; ///< true for the name of an item's file, false for that of a folder
+    bool isFirstEmpty; ///< false: absent at first, and TSettings::Restore() sets the built-in name
 };
 
 struct tagDrive
@@ -71,7 +71,7 @@ struct tagDrive
     const char* accepts;
 };
 
-/// An element of the map or of a control, by day and by night.
+/// The two colours of an element of the map or of a control.
 struct tagColor
 {
     EParamID day;
@@ -228,7 +228,7 @@ inline constexpr tagNumber Numbers[] = {
      ""},
 };
 
-/// Its value of a first start is what the machine takes for local time.
+/// Its value of a first start is the machine's offset from UTC.
 inline constexpr tagNumber ClockOffset = {
     {PARAM_CLOCK_OFFSET, "clock.offset", "the display's clock less UTC", "the clock at start-up"},
     AnyLeast,
@@ -276,8 +276,9 @@ inline constexpr tagItem Items[] = {
     {{PARAM_FIELD, "active.field", "the active field", "paths of jobs, lines and boundaries"}, false, true},
 };
 
-/// By night everything that fills an area is near black, so that the screen does not blind; what must be read or
-/// steered by keeps a contrast of at least 4.5 to 1 against it, in warm tones that spare the eye's dark adaptation.
+/// At night, everything that fills an area is nearly black, so that the screen does not dazzle. Texts and lines that
+/// the operator steers by have a contrast of at least 4.5 to 1 against it, in warm tones, which disturb night vision
+/// least.
 inline constexpr tagColor Colors[] = {
     {PARAM_TEXT_COLOR_DAY, PARAM_TEXT_COLOR_NIGHT, "text", "texts", 0xff101418, 0xffd8c7a8},
     {PARAM_BUTTON_COLOR_DAY, PARAM_BUTTON_COLOR_NIGHT, "button", "buttons", 0xffd6dde3, 0xff22262a},

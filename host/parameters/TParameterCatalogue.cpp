@@ -105,17 +105,17 @@ QList<tagParameter> AllParameters()
         parameters.append(ColorParameter(row.night, "night", row, row.firstByNight));
     }
     tagParameter clock = Parameter(ClockOffset);
-    clock.firstValue = QVariant(); // the machine's
+    clock.firstValue = QVariant(); // depends on the machine; see FirstValue()
     parameters.append(clock);
     std::sort(parameters.begin(), parameters.end(),
               [](const tagParameter& left, const tagParameter& right) { return left.id < right.id; });
     return parameters;
 }
 
-/// Whether @p path is the root folder, under whatever name.
+/// Whether @p path leads to the root folder.
 bool IsRoot(const QString& path) { return QFileInfo(QDir::cleanPath(path)).canonicalFilePath() == QDir::rootPath(); }
 
-/// Whether @p value, which has the parameter's type, is one that people may give it.
+/// Whether people may give the parameter @p value, which has the parameter's type.
 bool IsAccepted(const tagParameter& parameter, const QVariant& value)
 {
     const QString text = value.toString();
@@ -205,7 +205,7 @@ QString TParameterCatalogue::Text(const tagParameter& parameter, const QVariant&
 
 QVariant TParameterCatalogue::FirstValue(const tagParameter& parameter)
 {
-    // The display's clock is an offset from UTC; before anyone has set it, it shows what the machine takes for local.
+    // The display's clock is an offset from UTC. Until it is set, it shows the machine's local time.
     return parameter.id == PARAM_CLOCK_OFFSET ? QVariant(QDateTime::currentDateTime().offsetFromUtc())
                                               : parameter.firstValue;
 }

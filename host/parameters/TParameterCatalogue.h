@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <QVariant>
 
-/// What kind of value a parameter has.
+/// The type of a parameter's value.
 enum EParameterType : int
 {
     PARAMETER_BOOL,
@@ -17,32 +17,39 @@ enum EParameterType : int
     PARAMETER_COLOR,
 };
 
-/// A value that has a name of its own.
+/// A value of a parameter, and its name.
 struct tagParameterChoice
 {
     int value;
     QString name;
 };
 
-/// Everything that is known about one parameter.
+/// The description of one parameter.
 struct tagParameter
 {
     EParamID id;
-    QString name; ///< for people and tools, for instance "units.metric"
+    QString name; ///< for instance "units.metric"
     EParameterType type;
-    QList<tagParameterChoice> choices; ///< of an int that has no others; else empty
-    int least;                         ///< of an int without choices
+    QList<tagParameterChoice> choices; ///< the only values of an int; empty when there is a range, and for other types
+    int least;                         ///< the range of an int without choices
     int greatest;
-    int mostBytes;       ///< of an operator's name (see ItemNames); 0 for every other text
-    QString accepts;     ///< what people may enter, in words
+    int mostBytes;       ///< longest name, for a name that ItemNames checks; 0 for other parameters
+    QString accepts;     ///< a text that says which values are accepted
     QVariant firstValue; ///< see TParameterCatalogue::FirstValue()
-    QString unit;        ///< empty without one
+    QString unit;        ///< empty when the value has no unit
     QString meaning;
-    QString readers; ///< what changes with it
+    QString readers; ///< a text that says what the parameter has an effect on
 };
 
-/// Every parameter that the library uses, by number and by name. What people enter is checked against it: at a prompt,
-/// in a dialogue, in a file that is imported. What the library writes itself never is.
+/// The list of all parameters that the library uses. Programs use it to check and to explain what people enter: at a
+/// prompt, in a dialogue, in a file that is imported. Values that the library writes itself are not checked.
+///
+/// @code
+/// const tagParameter* const parameter = TParameterCatalogue::Find(QLatin1String("units.area"));
+/// const QVariant value = TParameterCatalogue::Read(*parameter, text, &error);
+/// if (value.isValid())
+///     store.SetParameter(parameter->id, value, true);
+/// @endcode
 ///
 /// May be used from any thread.
 class CABHOST_EXPORT TParameterCatalogue
@@ -50,26 +57,26 @@ class CABHOST_EXPORT TParameterCatalogue
 public:
     TParameterCatalogue() = delete;
 
-    /// In the order of their numbers.
+    /// All parameters, in the order of their numbers.
     static const QList<tagParameter>& Parameters();
 
-    /// Null when there is none of that number, or of that name or number.
+    /// The parameter with this number, or with this name or number; null when there is none. Letter case is ignored.
     static const tagParameter* Find(int number);
     static const tagParameter* Find(const QString& nameOrNumber);
 
-    /// Names that @p text may have been meant to be, the nearest first; none when nothing is near.
+    /// The names that are similar to @p text; see ParameterText::Near().
     static QStringList Near(const QString& text);
 
     /// "bool", "int", "string" or "color".
     static QString TypeName(EParameterType type);
 
-    /// What people wrote, as the parameter's value: choices go by name or number. An invalid variant, with @p error
-    /// naming the parameter, what is wrong and what is accepted, when it is none.
+    /// Reads what people have entered. A choice is given by its name or its number. Returns an invalid variant when the
+    /// text is not accepted; @p error then names the parameter and says what is wrong and what is accepted.
     static QVariant Read(const tagParameter& parameter, const QString& text, QString* error);
 
-    /// The value as people write it: a choice by its name.
+    /// The value as a text that Read() accepts. A choice is written by its name.
     static QString Text(const tagParameter& parameter, const QVariant& value);
 
-    /// The value of a first start on this machine at this moment; invalid when it follows from the terminal itself.
+    /// The value of a first start, at this moment on this machine; invalid when the parameter is absent at first.
     static QVariant FirstValue(const tagParameter& parameter);
 };

@@ -2,6 +2,5 @@
 
 #include <QString>
 
-/// Writes one line to standard error, whole even when several threads write at once. Line breaks within @p text become
-/// blanks.
+/// Writes one line to standard error. Lines of several threads do not mix. Line breaks in @p text become blanks.
 void SayOnStandardError(const QString& text);

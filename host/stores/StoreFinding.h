@@ -2,19 +2,19 @@
 
 #include <QString>
 
-/// What stands under the name of a store's file.
+/// What the name of a store's file refers to.
 enum EStoreFileState : int
 {
     STORE_FILE_CLEAN,
     STORE_FILE_MISSING,
-    STORE_FILE_EMPTY,        ///< zero bytes
-    STORE_FILE_DAMAGED,      ///< ours, but not in order
-    STORE_FILE_FOREIGN,      ///< not recognisable as ours
-    STORE_FILE_NEWER,        ///< ours, written by a later version of this program
-    STORE_FILE_INACCESSIBLE, ///< cannot be looked at now; nothing is known about it
+    STORE_FILE_EMPTY,        ///< a file of zero bytes
+    STORE_FILE_DAMAGED,      ///< a store that is damaged
+    STORE_FILE_FOREIGN,      ///< not a store
+    STORE_FILE_NEWER,        ///< a store that a later version of this program has written
+    STORE_FILE_INACCESSIBLE, ///< cannot be read at present; its state is not known
 };
 
-/// The state of a file and, unless it is clean, what was found, in words that can follow its name.
+/// The state of a file and, unless it is clean, a text that can follow its name in a message.
 struct tagStoreFinding
 {
     EStoreFileState state;

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The header of an SQLite file, version 3: its length, and where in it the fields are that matter here.
+// The header of an SQLite file, version 3: its length, and the positions of the fields that are used here.
 constexpr int HeaderLength = 100;
 constexpr char Magic[] = "SQLite format 3"; // with the NUL at its end
 constexpr std::size_t WriteVersionAt = 18;
@@ -27,7 +27,7 @@ using THeader = std::array<unsigned char, HeaderLength>;
 
 qint32 Number(const THeader& header, std::size_t at) { return qFromBigEndian<qint32>(&header.at(at)); }
 
-// How many bytes of the header there are; -1 when the file cannot be read, errno then tells why.
+// Returns the number of bytes that were read; -1 with errno set when the file cannot be read.
 ssize_t ReadHeader(const QString& path, THeader* header)
 {
     const int file = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -62,7 +62,7 @@ tagStoreFinding RecogniseStoreFile(const QString& path)
                 QString::fromLatin1("an SQLite file with application id %1").arg(Number(header, ApplicationIdAt))};
     if (Number(header, UserVersionAt) > StoreTable::SchemaVersion)
         return {STORE_FILE_NEWER, QString::fromLatin1("schema %1").arg(Number(header, UserVersionAt))};
-    // A later version of the format, of which nothing is known, would be refused for reading or for writing.
+    // SQLite does not open, or does not write, a file whose format is of a later version than it knows.
     if (header.at(ReadVersionAt) > LastVersion || header.at(WriteVersionAt) != header.at(ReadVersionAt))
         return {STORE_FILE_DAMAGED, QLatin1String("its header is broken")};
     return {STORE_FILE_CLEAN, QString()};

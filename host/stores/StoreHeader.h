@@ -2,6 +2,6 @@
 
 #include "stores/StoreFinding.h"
 
-/// Looks at the header of a file, without writing to it or anything beside it. Clean means no more than that it says to
-/// be ours, in a version that can be read.
+/// Reads the header of a file, without writing to it or to the files beside it. Clean means that the header is that of
+/// a store, in a version that can be read; the rest of the file is not checked.
 tagStoreFinding RecogniseStoreFile(const QString& path);

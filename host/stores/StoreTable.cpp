@@ -93,7 +93,7 @@ QString Commit(TSqliteConnection& connection)
     connection.Run(QLatin1String("COMMIT"));
     QString reason = connection.TakeFailure().text;
     if (!reason.isEmpty()) {
-        connection.Run(QLatin1String("ROLLBACK")); // fails where the failure has rolled back already
+        connection.Run(QLatin1String("ROLLBACK")); // fails when SQLite has rolled back by itself
         connection.TakeFailure();
     }
     return reason;

@@ -42,7 +42,7 @@ bool DecodeLongLong(const QString& text, QVariant* value)
     return isNumber;
 }
 
-// The shortest text that gives the same number again. Qt drops the sign of zero.
+// The shortest text that is read as the same number. Qt would drop the sign of zero.
 QString NumberText(double number, char format)
 {
     if (number == 0 && std::signbit(number))
@@ -59,8 +59,8 @@ bool DecodeDouble(const QString& text, QVariant* value)
     return isNumber;
 }
 
-// Characters that a database would lose or alter on the way (NUL, byte order marks, halves of surrogate pairs) and
-// those that cannot be read in a listing stand as \uXXXX.
+// Characters that a database may lose or change (NUL, byte order marks, halves of surrogate pairs), and control
+// characters, are written as \uXXXX.
 bool NeedsEscape(const QString& text, int at)
 {
     const QChar character = text.at(at);
@@ -75,7 +75,7 @@ bool NeedsEscape(const QString& text, int at)
 QString EncodeString(const QVariant& value)
 {
     const QString plain = value.toString();
-    QString text = QLatin1String(""); // never null: a database would take that for an absent value
+    QString text = QLatin1String(""); // not null, which a database would store as NULL
     text.reserve(plain.size());
     for (int at = 0; at < plain.size(); ++at) {
         if (plain.at(at) == QLatin1Char('\\'))
@@ -131,7 +131,7 @@ double Hue(double fraction) { return fraction < 0 ? NoHue : qRound(fraction * Ma
 bool IsComponent(double number) { return number >= 0 && number <= MaxComponent && number == qRound(number); }
 bool IsHue(double number) { return number >= NoHue && number <= MaxHue && number == qRound(number); }
 
-// qreal is what QColor takes in one generation of Qt, float in the next; both carry 16 bits exactly.
+// QColor takes qreal in Qt 5 and float in Qt 6. Both hold 16 bits exactly.
 using TFraction = decltype(QColor().redF());
 
 TFraction Fraction(double component) { return static_cast<TFraction>(component / MaxComponent); }
@@ -189,7 +189,7 @@ TComponents SplitExtended(const QColor& color) { return {color.redF(), color.gre
 
 QColor JoinExtended(const TComponents& part)
 {
-    QColor color = QColor::fromRgbF(2, 2, 2); // beyond the plain range, so that components within it stay extended too
+    QColor color = QColor::fromRgbF(2, 2, 2); // outside the range of plain RGB, so that the colour stays extended
     color.setRedF(static_cast<TFraction>(part.at(0)));
     color.setGreenF(static_cast<TFraction>(part.at(1)));
     color.setBlueF(static_cast<TFraction>(part.at(2)));

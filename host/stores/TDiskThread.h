@@ -6,14 +6,14 @@
 
 #include <functional>
 
-/// A thread that does jobs for others, one after the other: a database connection can be used by one thread alone.
+/// A thread that runs jobs for other threads, because a database connection can be used by one thread only.
 class TDiskThread : private QThread
 {
 public:
     TDiskThread();
     ~TDiskThread() override;
 
-    /// Returns when @p job is done. One caller at a time.
+    /// Runs @p job in the thread and returns when it has ended. One caller at a time.
     void Do(const std::function<void()>& job);
 
 private:
@@ -21,6 +21,6 @@ private:
 
     QMutex m_Mutex;
     QWaitCondition m_Changed;
-    const std::function<void()>* m_Job; // null when there is nothing to do
+    const std::function<void()>* m_Job; // null while there is no job
     bool m_IsEnding;
 };

@@ -40,7 +40,7 @@ bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool pers
     if (!m_Holds.isEmpty())
         return true;
     {
-        // While this thread waited, another one's transaction may have taken the wish along.
+        // The transaction of another thread may have written the value while this thread waited.
         const QReadLocker memory(&m_MemoryLock);
         const auto wish = m_Wishes.constFind(id);
         if (wish == m_Wishes.constEnd())
@@ -50,8 +50,8 @@ bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool pers
     }
     if (!PersistWishes(0, 0))
         return false;
-    // The disk works again: what failed once gets its second chance, apart from the above so that a value that can
-    // never be written (too large for the disk, say) does not keep the others from it.
+    // The disk works again, so values that have failed once are tried again. They get a transaction of their own: a
+    // value that can never be written, because it is too large for the disk, must not make the others fail.
     if (!Wishes(1, 1).isEmpty())
         PersistWishes(1, 1);
     return true;
@@ -114,7 +114,7 @@ bool TParameterStore::AbandonPersistence()
     return PersistAfterHold();
 }
 
-// Under m_DiskMutex.
+// The caller holds m_DiskMutex.
 bool TParameterStore::PersistAfterHold()
 {
     if (!m_Holds.isEmpty())
@@ -175,7 +175,7 @@ bool TParameterStore::PersistOutstanding()
     return (Wishes(0, AnyNumber).isEmpty() && m_Rescued.isEmpty()) || PersistWishes(0, AnyNumber);
 }
 
-// Under m_MemoryLock.
+// The caller holds m_MemoryLock.
 void TParameterStore::Remember(int id, const QVariant& value)
 {
     if (!IsSameValue(m_Values.value(id), value))
@@ -209,7 +209,7 @@ QMap<int, QVariant> TParameterStore::Wishes(int minFailures, int maxFailures) co
     return wishes;
 }
 
-// Those for what the disk is known to hold.
+// Removes the wishes for values that are known to be on the disk.
 void TParameterStore::DropFulfilledWishes()
 {
     const QWriteLocker memory(&m_MemoryLock);
@@ -230,11 +230,12 @@ void TParameterStore::Settle(const QMap<int, QVariant>& changes, bool done)
             m_UnknownOnDisk.remove(id);
             m_Rescued.remove(id);
         } else {
-            m_UnknownOnDisk.insert(id); // a transaction that failed in its last step may yet be found after a restart
+            m_UnknownOnDisk.insert(
+                id); // after a restart, a transaction that failed in its last step may turn out to be on the disk
         }
         const auto wish = m_Wishes.find(id);
         if (wish == m_Wishes.end() || !IsSameValue(wish->value, change.value()))
-            continue; // set anew while the disk worked
+            continue; // set again during the write
         if (done)
             m_Wishes.erase(wish);
         else

@@ -13,8 +13,8 @@ namespace {
 
 const QString ReadOption = QLatin1String(";QSQLITE_OPEN_READONLY");
 
-// SQLite asks ever more rarely whether a file is free, until those who write much leave no gap for those who ask. So it
-// is left to wait for this long at most, and then told to ask anew.
+// SQLite polls a locked file at growing intervals, and then misses the gaps that a program leaves which writes a lot.
+// So it polls for this long at most, and the statement is then started again.
 const int AskMilliseconds = 20;
 
 struct tagFailureCode
@@ -23,7 +23,7 @@ struct tagFailureCode
     bool isBusy;
 };
 
-// Failures that say nothing against the content of the file.
+// Result codes of SQLite that do not mean that the content of the file is damaged.
 constexpr tagFailureCode Surroundings[] = {
     {3, false},  // no permission
     {5, true},   // busy
@@ -37,7 +37,7 @@ constexpr tagFailureCode Surroundings[] = {
     {-1, false}, // no answer from the driver
 };
 
-// Reading less than was asked for, or nothing at all, is the file's fault: it is too short, or a bad block in it.
+// Two input errors do mean damage: a short read (the file is truncated) and a failed read (a bad block).
 constexpr int ReadFailures[] = {10 | (1 << 8), 10 | (2 << 8)};
 
 TSqliteConnection::tagFailure FailureOf(const QSqlError& error)
@@ -54,8 +54,9 @@ TSqliteConnection::tagFailure FailureOf(const QSqlError& error)
     const bool isRead = std::find(std::begin(ReadFailures), std::end(ReadFailures), code) != std::end(ReadFailures);
     if (surroundings == std::end(Surroundings) || isRead)
         return {text, true, false};
-    return {surroundings->isBusy ? QString::fromLatin1("another program keeps it busy") : text, false,
-            surroundings->isBusy};
+    return {surroundings->isBusy ? QString::fromLatin1("another program has locked it for longer than the timeout")
+                                 : text,
+            false, surroundings->isBusy};
 }
 
 QString NextName()
@@ -80,7 +81,7 @@ TSqliteConnection::~TSqliteConnection()
 {
     const QString name = m_Database.connectionName();
     m_Database.close();
-    m_Database = QSqlDatabase(); // a connection can be removed only when no copy of it is left
+    m_Database = QSqlDatabase(); // a connection can be removed only when no copy of it exists
     QSqlDatabase::removeDatabase(name);
 }
 

@@ -5,7 +5,7 @@
 #include <QVariant>
 #include <QVector>
 
-/// One connection to an SQLite file. Belongs to the thread that made it.
+/// One connection to an SQLite file. Used by the thread that has made it.
 class TSqliteConnection
 {
 public:
@@ -17,19 +17,19 @@ public:
         SQLITE_ACCESS_WRITE,
     };
 
-    /// Why something failed; everything is well while the text is empty.
+    /// The reason of a failure. The text is empty when nothing has failed.
     struct tagFailure
     {
         QString text;
-        bool isDamage; ///< the content of the file is to blame, not its surroundings
-        bool isBusy;   ///< somebody else kept the file to himself for longer than there was patience
+        bool isDamage; ///< the content of the file is damaged
+        bool isBusy;   ///< another program locked the file for longer than the timeout
     };
 
     /// @param path absolute, or ":memory:".
-    /// @param patience for how many milliseconds a statement waits for others who keep the file to themselves.
+    /// @param patience how many milliseconds a statement waits while another program has the file locked.
     TSqliteConnection(const QString& path, EAccess access, int patience);
 
-    /// Another patience, from the next statement on.
+    /// Changes the timeout, from the next statement on.
     void SetPatience(int patience) { m_Patience = patience; }
 
     ~TSqliteConnection();
@@ -37,13 +37,13 @@ public:
     TSqliteConnection(const TSqliteConnection&) = delete;
     TSqliteConnection& operator=(const TSqliteConnection&) = delete;
 
-    /// Runs one statement to its end. Once something has failed, nothing is run until the failure is taken.
+    /// Runs one statement to its end. After a failure, statements do nothing until TakeFailure() is called.
     QVector<TRow> Run(const QString& statement, const TRow& bound = {});
 
     /// The first value of the first row; invalid when there is none.
     QVariant Value(const QString& statement);
 
-    /// The first thing that has failed since this was asked last.
+    /// Returns the first failure since the last call, and clears it.
     tagFailure TakeFailure();
 
 private:

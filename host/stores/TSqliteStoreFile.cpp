@@ -336,7 +336,7 @@ QString TSqliteStoreFile::ReadChanged(StoreTable::tagContent* content, bool* isC
 QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes)
 {
     QString reason = StoreTable::Write(*m_Connection, changes);
-    // SQLite can still write to a file that was deleted or moved, or whose drive is gone; nobody will find the values.
+    // SQLite can still write to a file that was deleted or moved, or whose drive is gone. Such a write has failed.
     if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(CompanionSuffixes[0]))))
         reason = QLatin1String("it is no longer there");
     return reason.isEmpty() ? reason : CannotBeWritten(m_Path, reason);

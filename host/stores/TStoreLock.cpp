@@ -14,7 +14,7 @@ namespace {
 
 const unsigned long PollMilliseconds = 20;
 const char Separator = ' ';
-const char End = '\n'; // a note without it was not finished
+const char End = '\n'; // a note without it is incomplete
 
 } // namespace
 
@@ -24,7 +24,7 @@ TStoreLock::~TStoreLock()
 {
     QString reason;
     if ((m_IsAlone || TakeAlone()) && IsStillThere())
-        DurableFiles::Remove(m_Path, &reason); // one that stays does no harm: it is not locked
+        DurableFiles::Remove(m_Path, &reason); // a file that stays is not locked, and does no harm
     Drop();
 }
 
@@ -40,8 +40,9 @@ bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
             return true;
         const bool isTaken = errno == EWOULDBLOCK || errno == EINTR;
         if (!isTaken || deadline.hasExpired()) {
-            *reason = isTaken ? QString::fromLatin1("another program keeps it busy: %1 is locked").arg(m_Path)
-                              : DurableFiles::SystemReason(QLatin1String("cannot lock"), m_Path);
+            *reason = isTaken
+                          ? QString::fromLatin1("another program has locked %1 for longer than the timeout").arg(m_Path)
+                          : DurableFiles::SystemReason(QLatin1String("cannot lock"), m_Path);
             Drop();
             return false;
         }
@@ -50,14 +51,14 @@ bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
     }
 }
 
-// When this is false, errno tells why.
+// Returns false with errno set.
 bool TStoreLock::TryToTake()
 {
     m_IsAlone = flock(m_File, LOCK_EX | LOCK_NB) == 0;
     if (!m_IsAlone && (errno != EWOULDBLOCK || flock(m_File, LOCK_SH | LOCK_NB) != 0))
         return false;
-    // What was locked may have been removed in between by the last one. And between the two attempts one who was alone
-    // may have ended before the file was fit to be shared. Either way there is another chance.
+    // The last holder may have removed the file before it was locked here. An exclusive holder may have ended between
+    // the two attempts, before it had prepared the file for sharing. In both cases the caller tries again.
     DurableFiles::tagIdentity file;
     if (!IsStillThere() || !(m_IsAlone || FileInUse(&file))) {
         errno = EWOULDBLOCK;
@@ -74,7 +75,7 @@ bool TStoreLock::Share(const DurableFiles::tagIdentity& file, QString* reason)
         *reason = DurableFiles::SystemReason(QLatin1String("cannot write"), m_Path);
         return false;
     }
-    // The change is not promised to be atomic: somebody else may have been alone in between, and may still be.
+    // flock() does not promise that the change is atomic: another process may have taken the lock exclusively.
     DurableFiles::tagIdentity noted;
     m_IsAlone = false;
     if (flock(m_File, LOCK_SH | LOCK_NB) == 0 && IsStillThere() && FileInUse(&noted) && noted == file)
@@ -98,8 +99,8 @@ bool TStoreLock::FileInUse(DurableFiles::tagIdentity* file) const
     return numbers.size() == 2 && isDevice && isNumber;
 }
 
-// Two who leave at once must not both find the other still there: each lets go before it tries. What comes in between
-// is a new user, who needs nothing of what the last one does.
+// Two holders that leave at the same time must not each find the lock held by the other, so each releases it before it
+// tries. A new user that takes the lock in between does not depend on what the last holder does.
 bool TStoreLock::TakeAlone()
 {
     if (m_File >= 0) {

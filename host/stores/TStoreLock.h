@@ -5,35 +5,36 @@
 #include <QDeadlineTimer>
 #include <QString>
 
-/// Tells the users of a store's file, in this process or others, whether they are alone with it. Alone, one may repair
-/// and replace the file; after that it is shared, and nobody replaces it under the others. The system lets go of the
-/// lock when the process dies.
+/// The lock of a store's file. It tells each user of the file, in this process or others, whether it is the only one.
+/// An exclusive holder may repair and replace the file. Then the lock becomes shared, and the file is not replaced
+/// while it is. The system releases the lock when the process dies.
 class TStoreLock
 {
 public:
-    /// @param path of the lock's own file, which is there while the lock is held.
+    /// @param path of the lock's own file, which exists while the lock is held.
     explicit TStoreLock(const QString& path);
 
-    /// The last one removes the lock's file.
+    /// Releases the lock. The last holder removes the lock's file.
     ~TStoreLock();
 
     TStoreLock(const TStoreLock&) = delete;
     TStoreLock& operator=(const TStoreLock&) = delete;
 
-    /// Takes the lock: alone when nobody else has it, else with those who share it. Waits for one who is alone until
-    /// @p deadline has passed. False with a reason when the lock could not be had.
+    /// Takes the lock: exclusively when it is free, else shared. Waits until @p deadline for an exclusive holder.
+    /// Returns false with a reason when the lock was not taken.
     bool Take(const QDeadlineTimer& deadline, QString* reason);
 
+    /// Whether the lock is held exclusively.
     bool IsAlone() const { return m_IsAlone; }
 
-    /// From alone to shared; those who come learn which file it is that all of them use. False when the lock was lost
-    /// to somebody else on the way, with an empty reason, or when its file cannot be written.
+    /// Makes an exclusive lock shared, and notes for later holders which file is in use. Returns false when another
+    /// process has taken the lock during the change, with an empty reason, or when the note cannot be written.
     bool Share(const DurableFiles::tagIdentity& file, QString* reason);
 
-    /// Which file it is, told by the one who shared the lock.
+    /// The file that Share() has noted. Returns false when there is no complete note.
     bool FileInUse(DurableFiles::tagIdentity* file) const;
 
-    /// From shared to alone, without waiting: true for the last one. Whoever is not holds nothing any more.
+    /// Makes a shared lock exclusive, without waiting. Returns true for the last holder; the others release the lock.
     bool TakeAlone();
 
 private:

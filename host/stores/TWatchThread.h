@@ -6,13 +6,13 @@
 
 #include <functional>
 
-/// Looks at something several times a second, in a thread of its own, until it is destroyed.
+/// Calls a function four times a second, in a thread of its own, until the object is destroyed.
 class TWatchThread : private QThread
 {
 public:
     explicit TWatchThread(std::function<void()> look);
 
-    /// Waits for a look that is under way.
+    /// Waits until a call that is in progress has ended.
     ~TWatchThread() override;
 
 private:

@@ -3,6 +3,12 @@
 #include "HostExport.h"
 #include "stores/TParameterStore.h"
 
-/// Gives every parameter that the store does not hold its value for a first start: a metric display in English that
-/// shows the machine's local time, with a colour scheme for day and one for night. What the store holds stays.
+/// Gives every parameter that is absent from the store its value of a first start; see
+/// TParameterCatalogue::FirstValue(). They make a metric display in English that shows the machine's local time and has
+/// a colour scheme for day and one for night. Parameters that are in the store stay as they are.
+///
+/// @code
+/// TPersistenceHold hold(store); // one transaction
+/// SetFirstStartValues(store);
+/// @endcode
 CABHOST_EXPORT void SetFirstStartValues(TParameterStore& store);

@@ -53,10 +53,10 @@ public:
     /// The changes to the store are written in one step when everything has succeeded: neither a power cut nor a start
     /// that fails loses a selection or leaves anything in the store.
     ///
-    /// While the terminal runs, the drives of the library are always usable. PARAM_INTERNAL_DRIVE and
-    /// PARAM_EXTERNAL_DRIVE name them; where a parameter is empty or absent, the drive is in the data folder. When
-    /// another program changes the internal drive, its folders are made at the next read; a drive that cannot be used
-    /// leaves the terminal with the one it has.
+    /// While the terminal runs, the library's drives are always usable. PARAM_INTERNAL_DRIVE and PARAM_EXTERNAL_DRIVE
+    /// name them; a drive is in the data folder when its parameter is empty, absent or not accepted by
+    /// TParameterCatalogue. When the internal drive is changed, by whichever program, its folders are made at the next
+    /// read. When they cannot be made, the terminal goes on with the drive in use.
     ///
     /// @param dataFolder the folder that stands for the terminal; see DataFolder.
     /// @param error says what failed, and where, when the result is false. The terminal is then stopped.

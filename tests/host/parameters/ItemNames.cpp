@@ -2,7 +2,7 @@
 
 #include <QtTest>
 
-/// Names that operators give, before they become paths.
+/// The check of the names that operators give.
 class ItemNamesTest : public QObject
 {
     Q_OBJECT

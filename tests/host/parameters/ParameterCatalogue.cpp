@@ -8,7 +8,7 @@
 #include <QSet>
 #include <QtTest>
 
-/// The table of every parameter: complete, without contradictions, and what follows from it.
+/// The list of all parameters is complete and consistent, and texts are checked by it.
 class ParameterCatalogue : public QObject
 {
     Q_OBJECT
@@ -278,7 +278,7 @@ void ParameterCatalogue::everyFirstValueIsAccepted()
     const tagParameter* const parameter = TParameterCatalogue::Find(number);
     const QVariant first = TParameterCatalogue::FirstValue(*parameter);
     if (!first.isValid())
-        return; // the terminal finds it
+        return; // depends on the terminal
     QString error;
     const QVariant read = TParameterCatalogue::Read(*parameter, TParameterCatalogue::Text(*parameter, first), &error);
     QCOMPARE(error, QString());

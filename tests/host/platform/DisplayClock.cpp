@@ -74,11 +74,12 @@ namespace {
 /// 2024-03-05 14:05:00 UTC.
 const qint64 Base = 1709647500000;
 
-/// When in its second the machine sees a receiver's line, and by how much the following lines are early or late.
+/// The machine's milliseconds at which the first line of a receiver arrives, and by how much later lines are early or
+/// late.
 const QList<int> Phases = {0, 1, 2, 250, 500, 750, 997, 998, 999};
 const QList<int> Jitter = {0, 1, -1, 2, -2, 3, 400, -400, 600, -499, 999, -499};
 
-/// From line to line; long enough to keep early and late ones in order.
+/// The time between two lines; early and late ones stay in order.
 const qint64 Step = 2000;
 
 /// The display's time in milliseconds since 1970.
@@ -93,7 +94,7 @@ int Set(const QDateTime& utc)
 
 QDateTime Utc(qint64 milliseconds) { return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC); }
 
-/// Counts what would be written to a disk.
+/// Counts the transactions that would be written to a disk.
 class TCountingStore : public TParameterStore
 {
 public:
@@ -107,7 +108,7 @@ protected:
     }
 };
 
-/// The display's time between two looks at the machine's clock, as seconds since 1970 in UTC.
+/// The times of the display and of the machine, in seconds since 1970.
 qint64 ShownSeconds() { return TLocalTime::currentDateTime().toMSecsSinceEpoch() / 1000; }
 qint64 MachineSeconds() { return std::time(nullptr); }
 
@@ -124,7 +125,7 @@ void DisplayClock::withoutAnOffsetItShowsTheMachinesUtc()
     const qint64 before = MachineSeconds();
     const qint64 shown = ShownSeconds();
     const qint64 after = MachineSeconds();
-    // time(2) may lag by one tick of the kernel behind the exact clock.
+    // time(2) may be behind the exact clock by one tick of the kernel.
     QVERIFY2(before <= shown && shown <= after + 1, "between the two looks");
     QCOMPARE(TLocalTime::GetOffset(), 0);
 }
@@ -152,7 +153,7 @@ void DisplayClock::anOffsetMovesDateAndTime()
     const QDateTime first = QDateTime::fromMSecsSinceEpoch(before * 1000, Qt::UTC);
     const QDateTime last = QDateTime::fromMSecsSinceEpoch((after + 2) * 1000, Qt::UTC);
     const QDateTime shown(date, time, Qt::UTC);
-    // Date and time are two looks: at midnight the date may be the older one by a day.
+    // Date and time are read one after the other: at midnight the date may be a day too early.
     const QDateTime shownNextDay(date.addDays(1), time, Qt::UTC);
     QVERIFY((first <= shown && shown <= last) || (first <= shownNextDay && shownNextDay <= last));
 }
@@ -229,7 +230,7 @@ void DisplayClock::jitterNeverTurnsItBack_data()
         QTest::addRow("at %d ms", phase) << phase;
 }
 
-// A stored offset leaves open when the second begins: the clock may be wrong by nearly a second from the start.
+// A stored offset has whole seconds only, so the clock may be ahead by nearly a second from the start.
 void DisplayClock::jitterNeverTurnsItBack()
 {
     QFETCH(int, phase);
@@ -258,7 +259,7 @@ void DisplayClock::jitterWritesNothingToTheStore()
     TTerminal terminal(store);
     QString error;
     const int phase = 999;
-    const int ahead = 30000; // within the minute, which the offset from UTC leaves out
+    const int ahead = 30000; // less than a minute: minutes would go into the offset from UTC
     qint64 due = Base + phase;
     StoppedAt = due;
     QVERIFY2(terminal.Start(folder.path(), &error), qPrintable(error));

@@ -67,7 +67,7 @@ QByteArray Read(const QString& path)
 const rlim_t SizeLimit = 100000;
 const int BeyondLimit = 300000;
 
-/// From here on a file of this process cannot grow beyond SizeLimit: the write that tries raises SIGXFSZ.
+/// Limits the files of this process to SizeLimit. A write beyond it raises SIGXFSZ.
 void LimitFiles()
 {
     struct rlimit limit = {};
@@ -95,11 +95,10 @@ void StopAtLimit(int)
         _exit(EXIT_FAILURE);
 }
 
-/// How this program runs again as a process that copies.
-const QLatin1String Copy("--copy");               ///< ends when it has copied
-const QLatin1String CopyAndDie("--copy-and-die"); ///< is killed in the middle
-const QLatin1String
-    CopyAndStop("--copy-and-stop"); ///< tells on its standard output that it is in the middle, and stays
+/// The first argument of this program when it runs as a process that copies.
+const QLatin1String Copy("--copy");                 ///< ends when it has copied
+const QLatin1String CopyAndDie("--copy-and-die");   ///< is killed by SIGXFSZ at the limit
+const QLatin1String CopyAndStop("--copy-and-stop"); ///< writes a byte to standard output at the limit, and stops
 
 int RunCopy(const QStringList& arguments)
 {
@@ -228,7 +227,7 @@ void FileCopy::copyingAFileOntoItselfKeepsIt()
 
 void FileCopy::aFullDiskKeepsTheOldFile()
 {
-    // A limit on the size of files fails a write as a full disk does, wherever the tests run.
+    // A limit on the size of files makes a write fail as a full disk does, and needs no privileges.
     Write(Path("source"), QByteArray(300000, 'n'));
     Write(Path("target"), "old");
     const QString program = QCoreApplication::applicationFilePath();
@@ -305,7 +304,7 @@ void FileCopy::otherHiddenFilesStay()
 {
     Write(Path("source"), "x");
     for (const char* name : {".cabsettings-copy-12345", ".cabsettings-copy-1234567", ".copy-123456", ".hidden"})
-        Write(Path(name), "somebody's");
+        Write(Path(name), "other");
     QVERIFY(QDir().mkdir(Path(".cabsettings-copy-folder")));
     QVERIFY(QFile::link(Path("source"), Path(".cabsettings-copy-linked")));
     const QDir folder(m_Folder->path());

@@ -80,7 +80,7 @@ void BusyStore::init()
 {
     m_Folder = MakeFolder();
     m_Path = m_Folder->filePath(QLatin1String("settings.db"));
-    m_Said = m_Path + QLatin1String(" cannot be written: another program keeps it busy");
+    m_Said = m_Path + QLatin1String(" cannot be written: another program has locked it for longer than the timeout");
 }
 
 std::unique_ptr<TSqliteStore> BusyStore::Open(int patience)
@@ -146,7 +146,7 @@ void BusyStore::othersWaitNoLongerThanTheFirst()
         });
     for (std::thread& thread : threads)
         thread.join();
-    // One comes first, and the others wait together.
+    // One thread's write goes first. The others wait together and share one transaction.
     QVERIFY2(timer.elapsed() < threadCount * patience, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(failures.load(), threadCount);
     QCOMPARE(standardError.Lines(), QStringList(m_Said));
@@ -234,7 +234,8 @@ void BusyStore::openingABusyFileIsSaidAfterAWhile()
     other.Run(QLatin1String("UPDATE parameters SET value = 'false', digest = NULL"));
     QString error;
     QVERIFY(!TSqliteStore::Open(m_Path, &error, Impatience));
-    QCOMPARE(error, m_Path + QLatin1String(" cannot be used: another program keeps it busy"));
+    QCOMPARE(error,
+             m_Path + QLatin1String(" cannot be used: another program has locked it for longer than the timeout"));
 }
 
 void BusyStore::openingABusyFileWaits()

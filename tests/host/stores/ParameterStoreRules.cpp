@@ -27,7 +27,7 @@ void Apply(const TChanges& changes, TChanges* values)
     }
 }
 
-// A disk that can be made to fail, that others can change, and that tells what it was asked for.
+// A store whose disk can fail and can be changed by other programs. Records the transactions.
 class TRecordingStore : public TParameterStore
 {
 public:
@@ -36,7 +36,7 @@ public:
     using TParameterStore::TakeStored;
 
     std::function<bool(const TChanges&)> accepts = [](const TChanges&) { return true; };
-    QList<TChanges> transactions; ///< those that were tried
+    QList<TChanges> transactions; ///< including those that failed
     TChanges disk;
     QSet<int> unreadable;
     QSet<int> damaged;
@@ -272,7 +272,7 @@ void ParameterStoreRules::aValueThatCanNeverBeWrittenDoesNotKeepOthersFromTheDis
     QVERIFY(store.SetParameter(PARAM_METRIC, true, true));
     QVERIFY(store.SetParameter(PARAM_AREA_UNIT, 1, true));
     QCOMPARE(store.disk.keys(), (QList<int>{PARAM_METRIC, PARAM_AREA_UNIT}));
-    // Tried when it was set and once more; then it waits until it is set again, or for the last chance.
+    // It was tried when it was set and once more. Now it waits until it is set again or the store is closed.
     int attempts = 0;
     for (const TChanges& transaction : std::as_const(store.transactions))
         attempts += transaction.contains(PARAM_FIELD) ? 1 : 0;
@@ -287,7 +287,7 @@ void ParameterStoreRules::afterAFailureTheOldValueIsWrittenToo()
     store.accepts = Refuse;
     store.SetParameter(PARAM_AREA_UNIT, 1, true);
     store.accepts = Accept;
-    // What the failed transaction has left on the disk is not known.
+    // The effect of the failed transaction on the disk is not known.
     QVERIFY(store.SetParameter(PARAM_AREA_UNIT, 0, true));
     QCOMPARE(store.transactions.size(), 3);
     QCOMPARE(store.disk, (TChanges{{PARAM_AREA_UNIT, 0}}));
@@ -331,12 +331,12 @@ void ParameterStoreRules::theReleaseWritesTheDifferencesInOneTransaction()
     store.transactions.clear();
 
     store.HoldPersistence();
-    store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("built in"), true); // and back again
+    store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("built in"), true); // changed, and changed back below
     store.SetParameter(PARAM_ACTIVE_JOB, QLatin1String("north"), true);
     store.SetParameter(PARAM_FARM, QVariant(), true);
     store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
     store.SetParameter(PARAM_METRIC, true, false);
-    store.SetParameter(PARAM_FIELD, QLatin1String("West"), true); // persistent, then covered in memory alone
+    store.SetParameter(PARAM_FIELD, QLatin1String("West"), true); // persistent, then changed in memory alone
     store.SetParameter(PARAM_FIELD, QLatin1String("East"), false);
     QVERIFY(store.ReleasePersistence());
 
@@ -602,7 +602,7 @@ void ParameterStoreRules::whatAHoldChangesIsLaterThanTheirs()
         store.SetParameter(PARAM_METRIC, true, true);
         store.ChangeElsewhere({{PARAM_AREA_UNIT, 2}, {PARAM_METRIC, true}, {PARAM_FARM, QLatin1String("Hill")}});
     }
-    QCOMPARE(store.transactions.last(), (TChanges{{PARAM_AREA_UNIT, 1}})); // the other one is there already
+    QCOMPARE(store.transactions.last(), (TChanges{{PARAM_AREA_UNIT, 1}})); // the other value is on the disk already
     QCOMPARE(store.Values(), store.disk);
     QCOMPARE(store.disk, (TChanges{{PARAM_AREA_UNIT, 1}, {PARAM_METRIC, true}, {PARAM_FARM, QLatin1String("Hill")}}));
 }
@@ -612,7 +612,7 @@ void ParameterStoreRules::aDamagedValueStaysInMemoryAndTheNextWriteRepairsIt()
     TRecordingStore store;
     store.SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true);
     store.SetParameter(PARAM_FARM, QLatin1String("Hill"), true);
-    store.SetParameter(PARAM_FARM, QLatin1String("Dale"), false); // not what the disk had
+    store.SetParameter(PARAM_FARM, QLatin1String("Dale"), false); // differs from the value on the disk
     store.Damage(PARAM_CLIENT);
     store.Damage(PARAM_FARM);
     store.LookAtDisk();
@@ -678,7 +678,7 @@ void ParameterStoreRules::aDamagedValueThatOthersSetOrRemoveIsTheirs()
     QVERIFY(store.SetParameter(PARAM_METRIC, true, true));
     QCOMPARE(store.transactions, (QList<TChanges>{{{PARAM_METRIC, true}}}));
     QCOMPARE(store.GetParameter(PARAM_CLIENT), theirs);
-    // The disk is known again: setting what it holds is no work.
+    // The content of the disk is known again, so setting the same value writes nothing.
     QVERIFY(store.SetParameter(PARAM_CLIENT, theirs, true));
     QCOMPARE(store.transactions.size(), 1);
 }
@@ -700,7 +700,7 @@ void ParameterStoreRules::aDiskThatCannotBeReadIsNotWritten()
     TRecordingStore store;
     store.SetParameter(PARAM_AREA_UNIT, 0, true);
     store.isReadable = false;
-    // Not even for what seems to be there: others may have changed it.
+    // Not even a value that was on the disk before: another program may have changed it.
     QVERIFY(!store.SetParameter(PARAM_AREA_UNIT, 0, true));
     QVERIFY(!store.SetParameter(PARAM_METRIC, true, true));
     QCOMPARE(store.transactions.size(), 1);
@@ -788,7 +788,7 @@ void ParameterStoreRules::aParameterThatOthersMakeUnreadableIsAbsent()
     store.LookAtDisk();
     QVERIFY(store.Values().isEmpty());
     store.transactions.clear();
-    QVERIFY(store.SetParameter(PARAM_FARM, QVariant(), true)); // takes the rows away
+    QVERIFY(store.SetParameter(PARAM_FARM, QVariant(), true)); // removes the row
     QVERIFY(store.SetParameter(PARAM_FIELD, QVariant(), true));
     QCOMPARE(store.transactions, (QList<TChanges>{{{PARAM_FARM, QVariant()}}, {{PARAM_FIELD, QVariant()}}}));
 }
@@ -856,9 +856,9 @@ void ParameterStoreRules::memoryAndDiskAgreeWhateverTheThreadsDo()
 {
     const int threadCount = 8;
     const int rounds = 2000;
-    const int parameters = 3; // few, so that the threads meet
+    const int parameters = 3; // few, so that the threads change the same ones
     TRecordingStore store;
-    // Failing now and then, the disk leaves values behind that later transactions have to take along.
+    // The disk fails at times. Later transactions must write the values that were left.
     std::atomic<int> count{0};
     store.accepts = [&count](const TChanges&) { return ++count % 5 != 0; };
 

@@ -11,15 +11,15 @@
 
 #include <vector>
 
-// Several programs change one store at once, each as its seed says, so that what each of them did last is known without
-// asking it. The children are this same program.
+// Several programs change one store at the same time. The changes of each follow from its seed, so the test knows the
+// last ones. The children run this program.
 namespace {
 
 const int ProgramCount = 3;
-const int ChangeCount = 1500; // of each program
+const int ChangeCount = 1500; // made by each program
 const int KillPoints = 15;
 
-// Parameters that every program changes, those that each has for itself, and one that says that it is done.
+// Parameters that every program changes, parameters of each program alone, and one that says that the program is done.
 const int SharedCount = 20;
 const int OwnCount = 10;
 const int FirstShared = 100;
@@ -30,10 +30,10 @@ const QLatin1String ChangeAtRandom("change-at-random");
 const QLatin1String ChangeForEver("change-for-ever");
 const QLatin1String ComeAndGoForEver("come-and-go-for-ever");
 
-// Some parameters that are set together.
+// Parameters that are set together.
 using TChange = QMap<int, QVariant>;
 
-// What a program does: the same changes for the same number and seed.
+// The changes of a program. They are the same for the same number and seed.
 class TChanges
 {
 public:
@@ -55,7 +55,7 @@ private:
                                         : FirstOwn * (m_Program + 1) + m_Random.bounded(OwnCount);
     }
 
-    // No two values are the same, in no program; now and then there is none.
+    // All values differ, in all programs. Some changes remove the parameter.
     QVariant NextValue()
     {
         ++m_Count;
@@ -99,8 +99,9 @@ int Fingerprint(const QMap<int, QVariant>& values)
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex().left(digits).toInt(nullptr, 16);
 }
 
-// Makes its changes, waits for the others to have made theirs, and tells what it has in memory then. The numbers that
-// it tells: 1 when it has begun, how many changes failed, and the fingerprint, or -1 when the others were not seen.
+// Makes its changes and waits until the other programs have made theirs. Reports three numbers: 1 when it has begun,
+// the number of changes that failed, and a fingerprint of its memory, or -1 when it has not seen the changes of the
+// others.
 int Change(TSqliteStore& store, int program, quint32 seed)
 {
     TChild::Tell(1);
@@ -119,7 +120,7 @@ int Change(TSqliteStore& store, int program, quint32 seed)
     return 0;
 }
 
-// Tells the number of each change that is stored.
+// Reports the number of each change that is stored.
 int ChangeAndTell(TSqliteStore& store, int program, quint32 seed)
 {
     TChanges changes(program, seed);
@@ -128,7 +129,7 @@ int ChangeAndTell(TSqliteStore& store, int program, quint32 seed)
     return 1;
 }
 
-// Opens the store, changes it and closes it, and tells the number of each time that it has done so.
+// Opens, changes and closes the store in a loop. Reports the number of each round.
 int ComeAndGo(const QString& path, int program)
 {
     for (int count = 1;; ++count) {
@@ -151,7 +152,7 @@ int RunChild(const QStringList& arguments)
     return arguments.at(1) == ChangeAtRandom ? Change(*store, program, seed) : ChangeAndTell(*store, program, seed);
 }
 
-// What each parameter that a program has changed was set to last.
+// The last value of each parameter that a program has changed.
 TChange LastOf(int program, quint32 seed, int count)
 {
     TChanges changes(program, seed);
@@ -211,13 +212,13 @@ void StoreAmongPrograms::randomChangesEndWithTheSameValuesEverywhere()
         fingerprints.push_back(child->NextNumber());
     }
     for (const auto& child : children)
-        QCOMPARE(child->NextNumber(), -1); // it has closed the store
+        QCOMPARE(child->NextNumber(), -1); // the child has closed the store
 
     const QMap<int, QVariant> values = StoredValues(m_Path);
     for (const int fingerprint : fingerprints)
         QCOMPARE(fingerprint, Fingerprint(values));
 
-    QMap<int, QVector<QVariant>> candidates; // for each parameter what its writers set it to last
+    QMap<int, QVector<QVariant>> candidates; // for each parameter the last value of each writer
     for (int program = 0; program < ProgramCount; ++program) {
         const TChange last = LastOf(program, seed, ChangeCount);
         for (auto part = last.constBegin(); part != last.constEnd(); ++part)
@@ -259,7 +260,7 @@ void StoreAmongPrograms::aKilledProgramLosesNothingThatItHasTold()
     for (int number = child->NextNumber(); number > 0; number = child->NextNumber()) {
         last = number;
         if (number < told) {
-            // Both at once. What the child has for itself is not touched.
+            // Both change the same parameters at the same time, but not the child's own.
             const TChange change = changes.Next();
             QVERIFY(Set(*store, change));
             for (auto part = change.constBegin(); part != change.constEnd(); ++part)
@@ -274,7 +275,7 @@ void StoreAmongPrograms::aKilledProgramLosesNothingThatItHasTold()
     QVERIFY(child->WasKilled());
     QVERIFY(store->SetParameter(PARAM_METRIC, true, true));
 
-    // The change under way at the kill may have arrived or not, but not in part.
+    // The change that was in progress at the kill is stored completely or not at all.
     const TChange without = LastOf(0, seed, last);
     const TChange with = LastOf(0, seed, last + 1);
     const auto isThere = [&store](const TChange& change) {
@@ -298,7 +299,7 @@ void StoreAmongPrograms::aProgramKilledAsItComesOrGoesHindersNobody()
     QFETCH(int, told);
     QFETCH(int, spins);
     TStandardErrorCapture standardError;
-    // One is killed, others go on.
+    // One program is killed, the others continue.
     std::vector<std::unique_ptr<TChild>> children;
     for (int program = 0; program < ProgramCount; ++program)
         children.push_back(Child(ComeAndGoForEver, program, 0));
@@ -325,7 +326,7 @@ void StoreAmongPrograms::aProgramKilledAsItComesOrGoesHindersNobody()
     const QMap<int, QVariant> values = StoredValues(m_Path);
     for (int program = 0; program < ProgramCount; ++program) {
         const int beyond = values.value(FirstOwn * (program + 1)).toInt() - last[static_cast<size_t>(program)];
-        QVERIFY(beyond == 0 || beyond == 1); // stored, and killed before it could tell
+        QVERIFY(beyond == 0 || beyond == 1); // stored, but killed before the report
     }
     QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.good")}));
     QCOMPARE(standardError.Lines(), QStringList());

@@ -24,7 +24,7 @@ const QLatin1String SecondAside(".damaged-2");
 const int Impatience = 50; // milliseconds
 const int OpenerCount = 3;
 
-// The children: each opens the store and tells how many parameters there are.
+// What a child does: it opens the store and reports the number of parameters.
 int Stay(const QString& path)
 {
     const auto store = OpenStore(path);
@@ -40,7 +40,7 @@ int Leave(const QString& path)
     return 0;
 }
 
-// One who has the lock of a store without being a store.
+// Holds the lock of a store without being a store.
 class TLockHolder
 {
 public:
@@ -146,7 +146,7 @@ void StoreHasSeveralUsers::oneOfManyRepairsADamagedFile()
         }
         QVERIFY(QFile::exists(m_Path + FirstAside));
         QVERIFY(!QFile::exists(m_Path + SecondAside));
-        QCOMPARE(standardError.Lines().size(), 2); // said by the one who repaired
+        QCOMPARE(standardError.Lines().size(), 2); // from the store that has repaired the file
     }
 }
 
@@ -176,7 +176,7 @@ void StoreHasSeveralUsers::anOpenerWaitsForOneWhoRepairs()
     TStandardErrorCapture standardError;
     QString error;
     std::thread opener([&] { store = TSqliteStore::Open(m_Path, &error, SoonMilliseconds); });
-    // An opener that does not wait would find the file missing, and say so.
+    // A store that does not wait would find the file missing and say so.
     QString otherError;
     const bool isRefused = !TSqliteStore::Open(m_Path, &otherError, Impatience);
     QFile::rename(away, m_Path);
@@ -196,7 +196,8 @@ void StoreHasSeveralUsers::anOpenerDoesNotWaitForEver()
     QString error;
     QVERIFY(!TSqliteStore::Open(m_Path, &error, Impatience));
     QCOMPARE(error,
-             QString::fromLatin1("%1 cannot be used: another program keeps it busy: %1.lock is locked").arg(m_Path));
+             QString::fromLatin1("%1 cannot be used: another program has locked %1.lock for longer than the timeout")
+                 .arg(m_Path));
     QCOMPARE(NamesBeside(m_Path), names);
 }
 
@@ -216,7 +217,7 @@ void StoreHasSeveralUsers::aLockThatIsSharedBeforeTheFileIsReadyDoesNotCount()
     const TLockHolder strange(m_Path + Lock, LOCK_SH, note);
     QString error;
     QVERIFY(!TSqliteStore::Open(m_Path, &error, Impatience));
-    QVERIFY2(error.contains(QLatin1String("another program keeps it busy")), qPrintable(error));
+    QVERIFY2(error.contains(QLatin1String("another program has locked")), qPrintable(error));
     QVERIFY(!QFile::exists(m_Path));
 }
 
@@ -367,7 +368,7 @@ void StoreHasSeveralUsers::aFileThatIsDamagedBelowOthersIsRefused()
     {
         const auto store = OpenStore(m_Path);
         store->HoldPersistence();
-        for (int id = 0; id < 200; ++id) // several pages
+        for (int id = 0; id < 200; ++id) // fills several pages
             store->SetParameter(Param(id), QString::fromLatin1("value of parameter %1").arg(id), true);
         QVERIFY(store->ReleasePersistence());
     }
@@ -414,7 +415,7 @@ void StoreHasSeveralUsers::aFileThatIsNotTheOneOthersUseIsRefused()
     QCOMPARE(NamesBeside(m_Path), names);
     QCOMPARE(FileBytes(m_Path), bytes);
 
-    // Nor is it copied, by the one who had another.
+    // The store that has the other file open does not copy it either.
     const QByteArray good = FileBytes(m_Path + Good);
     first.reset();
     QCOMPARE(FileBytes(m_Path + Good), good);
@@ -425,13 +426,13 @@ void StoreHasSeveralUsers::aFileThatIsNotTheOneOthersUseIsRefused()
 
 void StoreHasSeveralUsers::aStoreThatClosesLeavesTheOthersTheirLocks()
 {
-    // A process that closes a file once loses all its locks on it; the next program would take the log away.
+    // A process that closes a file loses all its locks on it. The next program would then remove the log.
     auto stays = OpenStore(m_Path);
     QVERIFY(stays->SetParameter(PARAM_METRIC, true, true));
     QVERIFY(OpenStore(m_Path) != nullptr);
     TChild child({OpenTellAndClose, m_Path});
     QCOMPARE(child.NextNumber(), 1);
-    QCOMPARE(child.NextNumber(), -1); // it has closed the store
+    QCOMPARE(child.NextNumber(), -1); // the child has closed the store
     QVERIFY(QFile::exists(m_Path + Log));
     QVERIFY(stays->SetParameter(PARAM_METRIC, false, true));
     stays.reset();

@@ -8,13 +8,13 @@ namespace {
 const QLatin1String Good(".good");
 const QLatin1String FirstAside(".damaged-1");
 
-// The four bytes of the file that tell the schema: a larger number stands for a newer program's file, which is refused.
+// The bytes of the schema number. A larger number means a later version of the program, and the file is refused.
 const int SchemaAt = 60;
 const int SchemaEnd = 64;
 
 } // namespace
 
-/// The file and its good copy hold different values, so that it shows which of them has been read.
+/// The file and its good copy have different values, so the test can tell which of them was read.
 class StoreRecoversFromDamage : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ void StoreRecoversFromDamage::initTestCase()
         const auto store = OpenStore(m_Path);
         store->HoldPersistence();
         store->SetParameter(PARAM_CLIENT, QLatin1String("Jones"), true);
-        for (int id = 1; id <= 200; ++id) // several pages
+        for (int id = 1; id <= 200; ++id) // fills several pages
             store->SetParameter(Param(id), QString::fromLatin1("value of parameter %1").arg(id), true);
         QVERIFY(store->ReleasePersistence());
         store->SetParameter(Param(100), QVariant(), true);
@@ -97,7 +97,7 @@ void StoreRecoversFromDamage::init()
     m_Path = m_Folder->filePath(QLatin1String("settings.db"));
 }
 
-// A folder with these bytes as the file, and the good copy.
+// Makes a new folder with @p bytes as the file, and the good copy.
 void StoreRecoversFromDamage::Place(const QByteArray& bytes)
 {
     init();
@@ -105,7 +105,7 @@ void StoreRecoversFromDamage::Place(const QByteArray& bytes)
     SetFileBytes(m_Path + Good, m_GoodBytes);
 }
 
-// Whether a store holds the file's values but for some rows, which have the good copy's values or are absent.
+// Whether @p values are those of the file, except for some rows that have the good copy's value or are absent.
 bool StoreRecoversFromDamage::HasLostRowsAlone(const QMap<int, QVariant>& values, int most) const
 {
     int lost = 0;
@@ -121,8 +121,8 @@ bool StoreRecoversFromDamage::HasLostRowsAlone(const QMap<int, QVariant>& values
     return lost <= most;
 }
 
-// Empty when opening gave the file's values without a word, or told that rows or the whole were damaged and gave the
-// values that are left; and when the store can be written.
+// Empty when the store has the right values: those of the file without a message, or with a message those that are left
+// after damage. The store must also accept a write.
 QString StoreRecoversFromDamage::Verdict(int mostRowsLost)
 {
     TStandardErrorCapture standardError;
@@ -135,7 +135,7 @@ QString StoreRecoversFromDamage::Verdict(int mostRowsLost)
     if (values == m_FileValues && isSaid)
         return QLatin1String("right values, but: ") + standardError.Lines().first();
     if (values != m_FileValues && !isSaid)
-        return QLatin1String("wrong values without a word");
+        return QLatin1String("wrong values without a message");
     if (values != m_FileValues && values != m_GoodValues && !HasLostRowsAlone(values, mostRowsLost))
         return QLatin1String("wrong values");
     return store->SetParameter(PARAM_FARM, QLatin1String("Hill"), true) ? QString()
@@ -180,7 +180,7 @@ void StoreRecoversFromDamage::aChangedByteOfARowNeverGivesWrongValues()
     const QByteArray text("value of parameter 42");
     const int at = static_cast<int>(m_FileBytes.indexOf(text));
     QVERIFY(at > 0);
-    // From before the row's header, over its type and text, to the end of its digest.
+    // From a position before the row's header to the end of its digest.
     for (int offset = at - 15; offset < at + text.size() + 16 && !QTest::currentTestFailed(); ++offset) {
         CheckByte(offset, '\x01');
         CheckByte(offset, '\x20');
@@ -279,7 +279,7 @@ void StoreRecoversFromDamage::aDamagedRowCostsThatRowAlone_data()
     row("digest", "UPDATE parameters SET digest = '0' WHERE id = 42", damaged42, lost42, {}, {42});
     row("number", "UPDATE parameters SET id = 4242 WHERE id = 42", "its parameter 4242 does not match its digest",
         "parameter 4242 is lost", {}, {42});
-    // The lower 32 bits of that number are those of the client.
+    // The lower 32 bits of that number are the number of PARAM_CLIENT.
     row("large number", "UPDATE parameters SET id = 4294976228 WHERE id = 42",
         "its parameter 4294976228 does not match its digest", "parameter 4294976228 is lost", {}, {42});
     row("in the good copy", "UPDATE parameters SET value = 'x' WHERE id = 8932",
@@ -319,7 +319,7 @@ void StoreRecoversFromDamage::aDamagedRowCostsThatRowAlone()
     store.reset();
     QCOMPARE(StoredValues(m_Path), expected);
     QCOMPARE(StoredValues(m_Path + Good), expected);
-    QCOMPARE(standardError.Lines().size(), 2); // no further word: the file is repaired
+    QCOMPARE(standardError.Lines().size(), 2); // no further message: the file is repaired
 }
 
 void StoreRecoversFromDamage::aDamagedRowOfTheGoodCopyCostsThatRowAlone()
@@ -330,7 +330,7 @@ void StoreRecoversFromDamage::aDamagedRowOfTheGoodCopyCostsThatRowAlone()
     expected.remove(PARAM_CLIENT);
     TStandardErrorCapture standardError;
     QCOMPARE(StoredValues(m_Path), expected);
-    QCOMPARE(standardError.Lines().size(), 4); // the file, what it goes on with, the row, what is left of it
+    QCOMPARE(standardError.Lines().size(), 4); // two for the file, two for the row
     QCOMPARE(FileBytes(m_Path + FirstAside), m_FileBytes.left(5000));
     QVERIFY(FileBytes(m_Path + QLatin1String(".damaged-2")).contains("Smyth"));
 }
@@ -362,7 +362,7 @@ void StoreRecoversFromDamage::earlierDamagedFilesAreKept()
 
 void StoreRecoversFromDamage::aMissingFileIsReplacedByTheGoodCopy()
 {
-    // As a power cut leaves it between the moving and the replacing of a damaged file.
+    // The state after a power cut between the moving and the replacing of a damaged file.
     Place(QByteArray());
     QVERIFY(QFile::remove(m_Path));
     TStandardErrorCapture standardError;
@@ -373,7 +373,7 @@ void StoreRecoversFromDamage::aMissingFileIsReplacedByTheGoodCopy()
 
 void StoreRecoversFromDamage::aLogLeftBehindIsNotAppliedToTheGoodCopy()
 {
-    // The log of an open store, which holds what is not in the good copy.
+    // The log of an open store. It has changes that are not in the good copy.
     Place(m_FileBytes);
     QByteArray log;
     {
@@ -392,7 +392,7 @@ void StoreRecoversFromDamage::aLogLeftBehindIsNotAppliedToTheGoodCopy()
 
 void StoreRecoversFromDamage::aTornLogGivesAWholeEarlierState()
 {
-    // A power cut tears off the end of what the disk was told last; what a write returned for is before that.
+    // A power cut removes the end of the last changes. Writes that have returned are before that.
     const int writes = 5;
     const QLatin1String suffix("-wal");
     QByteArray file;

@@ -36,7 +36,8 @@ void StoreRefusesForeignFiles::init()
     m_Path = m_Folder->filePath(QLatin1String("settings.db"));
 }
 
-// Tries to open; the error, if nothing in the folder has changed and nothing else was said, else what is wrong.
+// Tries to open the store. Returns the error when the folder is unchanged and nothing else was said, else what is
+// wrong.
 QString StoreRefusesForeignFiles::Refused()
 {
     const QDir folder(m_Folder->path());
@@ -95,7 +96,7 @@ void StoreRefusesForeignFiles::aForeignFileIsRefusedAndLeftAlone()
 
 void StoreRefusesForeignFiles::aForeignDatabaseWithWorkUnderWayIsLeftAlone()
 {
-    // Opened by anybody, a database with a log beside it is written.
+    // Whoever opens a database that has a log beside it writes to it.
     const QString other = m_Folder->filePath(QLatin1String("other.db"));
     const QString wal = QLatin1String("-wal");
     RunSql(other, QLatin1String("PRAGMA journal_mode = WAL"));

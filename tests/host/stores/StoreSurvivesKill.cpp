@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-// The children are this same program. Each opens the store named by its second argument and does what the first says.
+// The children run this program. The first argument is what a child does, the second is the file of the store.
 namespace {
 
 const int ParameterCount = 5;
@@ -20,7 +20,7 @@ const QLatin1String HoldForEver("hold-for-ever");
 
 QVariant ValueOfRound(int round) { return QString::fromLatin1("round %1").arg(round); }
 
-// Writes rounds 1, 2, 3... each to one of the parameters, and is killed right after the given number of them.
+// Writes the rounds 1, 2, 3... each to one of the parameters, and is killed after the given number of rounds.
 void WriteRounds(TSqliteStore& store, int count)
 {
     for (int round = 1; round <= count; ++round)
@@ -81,10 +81,10 @@ int RunChild(const QStringList& arguments)
         KillReleased(*store);
     else if (task == HoldForEver)
         HoldAndTell(*store);
-    return 1; // every child ends by being killed
+    return 1; // not reached: every child is killed
 }
 
-// What the parameters hold after so many rounds.
+// The values of the parameters after a number of rounds.
 QMap<int, QVariant> ValuesAfter(int rounds)
 {
     QMap<int, QVariant> values;
@@ -101,7 +101,7 @@ QMap<int, QVariant> AllOfRound(int round)
     return values;
 }
 
-// Kills a child a while of work after it has told the given number. The last number it told.
+// Kills a child some work after it has reported @p number. Returns the last number it has reported.
 int KillSoonAfter(TChild& child, int told, int spins)
 {
     int last = 0;
@@ -152,7 +152,7 @@ void StoreSurvivesKill::AddRandomPoints()
     QTest::addColumn<int>("told");
     QTest::addColumn<int>("spins");
     QRandomGenerator random(TestSeed());
-    // The kill comes a random while of work after a random number of writes, and so at any point of the next ones.
+    // The kill comes after a random number of writes and some random work, so at any point of the next writes.
     for (int point = 0; point < 20; ++point)
         QTest::addRow("point %d", point) << random.bounded(1, 40) << random.bounded(300000);
 }
@@ -184,7 +184,7 @@ void StoreSurvivesKill::everyToldWriteIsThereWheneverTheKillComes()
 
     TStandardErrorCapture standardError;
     const QMap<int, QVariant> values = StoredValues(m_Path);
-    // The write under way at the kill may have arrived or not.
+    // The write that was in progress at the kill is stored or not.
     QVERIFY(values == ValuesAfter(last) || values == ValuesAfter(last + 1));
     QCOMPARE(standardError.Lines(), QStringList());
 }

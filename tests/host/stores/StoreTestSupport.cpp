@@ -94,7 +94,7 @@ QStringList TStandardErrorCapture::Lines()
 {
     std::fflush(stderr);
     QStringList lines = QString::fromUtf8(FileBytes(m_File.fileName())).split(QLatin1Char('\n'));
-    lines.removeLast(); // what follows the last line break
+    lines.removeLast(); // the empty text after the last line break
     return lines;
 }
 

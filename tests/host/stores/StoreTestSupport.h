@@ -12,34 +12,34 @@
 
 #include <memory>
 
-/// Any number as a parameter's.
+/// Any number as the number of a parameter.
 inline EParamID Param(int id) { return static_cast<EParamID>(id); }
 
-/// A folder in memory where that is possible: tests that open hundreds of stores would wait for the disk each time.
+/// Makes a folder, in memory where that is possible, because tests open hundreds of stores.
 std::unique_ptr<QTemporaryDir> MakeFolder();
 
-/// Opens a store; a reason for failing is said as a warning of the test.
+/// Opens a store. When that fails, the reason is a warning of the test.
 std::unique_ptr<TSqliteStore> OpenStore(const QString& path);
 
-/// Within so many milliseconds stores that share a file have the same values.
+/// The time in milliseconds within which stores that share a file have the same values.
 const int SharingMilliseconds = 1000;
 
-/// How long tests wait for what happens soon, however slow the machine.
+/// How long tests wait for an event, on a slow machine too.
 const int SoonMilliseconds = 60000;
 
-/// What the file holds: opens it as a store, reads everything and closes it.
+/// The values in the file: opens it as a store, reads them and closes it.
 QMap<int, QVariant> StoredValues(const QString& path);
 
 QByteArray FileBytes(const QString& path);
 void SetFileBytes(const QString& path, const QByteArray& bytes);
 
-/// Names in the folder of @p path, in order.
+/// The sorted names in the folder of @p path.
 QStringList NamesBeside(const QString& path);
 
-/// Runs a statement in an SQLite file without the store's doing; the first value of the first row.
+/// Runs a statement in an SQLite file without a store. Returns the first value of the first row.
 QVariant RunSql(const QString& path, const QString& statement);
 
-/// Takes what goes to standard error while it lives.
+/// Catches the lines that this process writes to standard error while the object exists.
 class TStandardErrorCapture
 {
 public:
@@ -53,26 +53,26 @@ private:
     int m_Original;
 };
 
-/// A child that runs this program again with other arguments and talks on its standard output.
+/// A child process that runs this program with other arguments and reports numbers on its standard output.
 class TChild
 {
 public:
     explicit TChild(const QStringList& arguments);
     ~TChild();
 
-    /// The next number the child has told; -1 at the end of its output.
+    /// The next number that the child has reported; -1 at the end of its output.
     int NextNumber();
 
-    /// Kills it, unless it has ended.
+    /// Kills the child unless it has ended.
     void Kill();
 
-    /// Waits for its end. @return whether SIGKILL ended it.
+    /// Waits until the child has ended. @return whether SIGKILL has ended it.
     bool WasKilled();
 
-    /// For the child: tells a number at once.
+    /// For the child: reports a number.
     static void Tell(int number);
 
-    /// For the child: ends it as `kill -9` does.
+    /// For the child: ends the process as `kill -9` does.
     [[noreturn]] static void KillMyself();
 
 private:

@@ -13,7 +13,7 @@ namespace {
 const int ThreadCount = 8;
 const int Rounds = 150;
 
-// Runs the task once in each of the threads, and waits for all.
+// Runs the task once in each thread and waits until all have ended.
 template <typename TTask>
 void InThreads(TTask task)
 {

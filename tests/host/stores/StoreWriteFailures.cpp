@@ -27,7 +27,7 @@ bool WriteSystemFile(const char* path, const QByteArray& text)
     return isWritten;
 }
 
-// Gives this process mounts of its own, which vanish with it. Before it has a second thread.
+// Gives this process its own mounts, which end with it. Must be called before a second thread exists.
 bool SeparateMounts()
 {
     const uid_t user = getuid();
@@ -102,7 +102,7 @@ bool StoreWriteFailures::Mount(const char* options)
     return HasMounts && mount("tmpfs", QFile::encodeName(m_Drive).constData(), "tmpfs", 0, options) == 0;
 }
 
-// Takes all the room there is.
+// Fills the drive.
 void StoreWriteFailures::Fill()
 {
     QFile filler(m_Drive + QLatin1String("/filler"));
@@ -150,7 +150,7 @@ void StoreWriteFailures::aValueTooLargeForTheDiskDoesNotKeepOthersFromIt()
     QVERIFY(!store->SetParameter(PARAM_CLIENT, QString(1000000, QLatin1Char('x')), true));
     QVERIFY(store->SetParameter(PARAM_METRIC, true, true));
     QVERIFY(store->SetParameter(PARAM_AREA_UNIT, 1, true));
-    // Said when it was set, and when it was tried again after the disk had worked.
+    // One line when it was set, and one when it was tried again after a write that succeeded.
     QCOMPARE(standardError.Lines().size(), 2);
     QVERIFY(store->SetParameter(PARAM_CLIENT, QLatin1String("Smith"), true));
 }
@@ -247,7 +247,7 @@ void StoreWriteFailures::repairingARowWithoutRoomLosesNothing()
     }
     const QByteArray damaged = FileBytes(m_Path).replace("Hill", "Hull");
     SetFileBytes(m_Path, damaged);
-    const QByteArray good = FileBytes(m_Path + Good).replace("Hill", "Hell"); // no help
+    const QByteArray good = FileBytes(m_Path + Good).replace("Hill", "Hell"); // its row is damaged too
     SetFileBytes(m_Path + Good, good);
     SetFileBytes(m_Drive + QLatin1String("/room"), QByteArray(pages * 4096, 'x'));
     Fill();
@@ -282,7 +282,7 @@ void StoreWriteFailures::aDriveThatCannotSyncFoldersIsAccepted()
     QFETCH(int, error);
     QFETCH(bool, isAccepted);
     OpenStore(m_Path)->SetParameter(PARAM_METRIC, true, true);
-    SetFileBytes(m_Path, "text"); // is moved, and replaced by the good copy
+    SetFileBytes(m_Path, "text"); // will be moved aside and replaced by the good copy
     TStandardErrorCapture standardError;
     FolderSyncError = error;
     QString reason;

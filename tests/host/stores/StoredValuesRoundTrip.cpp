@@ -11,7 +11,7 @@
 
 namespace {
 
-// In memory, as a register may hold more digits of a component than the variable it is compared with.
+// Kept in memory: a register may hold more digits than the variable that the component is compared with.
 std::vector<decltype(QColor().redF())> Components(const QColor& color)
 {
     return {color.alphaF(),         color.redF(),     color.greenF(),  color.blueF(),          color.hsvHueF(),
@@ -19,7 +19,7 @@ std::vector<decltype(QColor().redF())> Components(const QColor& color)
             color.cyanF(),          color.magentaF(), color.yellowF(), color.blackF()};
 }
 
-// QVariant and QColor compare leniently; what is stored must come back to the last bit.
+// QVariant and QColor treat similar values as equal. Here every bit must be the same.
 bool IsExactly(const QVariant& one, const QVariant& other)
 {
     if (one.userType() != other.userType())
@@ -144,7 +144,7 @@ void StoredValuesRoundTrip::everyValueComesBackExactly()
 
 void StoredValuesRoundTrip::manyColorsComeBackExactly()
 {
-    // Steps that meet every kind of remainder of the 16-bit components and the hundredths of a degree.
+    // The steps produce every kind of remainder of the 16-bit components and of the hundredths of a degree.
     QMap<int, QVariant> colors;
     for (int step = 0; step <= 65535; step += 97) {
         const auto part = [step](int factor) { return static_cast<float>(step * factor % 65536) / 65535.0F; };

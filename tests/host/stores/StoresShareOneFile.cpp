@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-/// Stores of one program over one file. They know no more of each other than those of several programs do.
+/// Several stores of one program on one file. They know as little of each other as stores of several programs.
 class StoresShareOneFile : public QObject
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ void StoresShareOneFile::aChangeOfManyIsSeenAtOnceOrNotAtAll()
     });
     int mixtures = 0;
     while (!isEnded) {
-        // What it has not seen yet it learns by writing.
+        // A write takes in the changes that the store has not seen yet.
         another.SetParameter(PARAM_METRIC, !another.GetParameter(PARAM_METRIC).toBool(), true);
         QMap<int, QVariant> values = another.Values();
         values.remove(PARAM_METRIC);
@@ -168,7 +168,7 @@ void StoresShareOneFile::writersOfOneParameterEndWithOneValue()
         thread.join();
 
     const QVariant last = Open().GetParameter(PARAM_AREA_UNIT);
-    QCOMPARE(last.toInt() % rounds, rounds - 1); // some store's last
+    QCOMPARE(last.toInt() % rounds, rounds - 1); // the last value of one of the stores
     for (const auto& store : m_Stores)
         QTRY_COMPARE_WITH_TIMEOUT(store->GetParameter(PARAM_AREA_UNIT), last, SoonMilliseconds);
 }
@@ -177,7 +177,7 @@ void StoresShareOneFile::aStaleValueDoesNotSwallowAWrite()
 {
     TSqliteStore& one = Open();
     TSqliteStore& another = Open();
-    // Faster than any of them looks by itself.
+    // Faster than the stores look at the file by themselves.
     for (int round = 0; round < 100; ++round) {
         QVERIFY(one.SetParameter(PARAM_AREA_UNIT, 1, true));
         QVERIFY(another.SetParameter(PARAM_AREA_UNIT, 2, true));
@@ -218,7 +218,7 @@ void StoresShareOneFile::aHoldKeepsOthersChangesOut()
     TSqliteStore& third = Open();
     TPersistenceHold hold(one);
     QVERIFY(another.SetParameter(PARAM_AREA_UNIT, 2, true));
-    // A store that looks as often as the one that is held has seen it twice.
+    // The other store looks at the file as often, and has had time to look twice.
     QTRY_COMPARE_WITH_TIMEOUT(third.GetParameter(PARAM_AREA_UNIT), QVariant(2), SoonMilliseconds);
     QVERIFY(another.SetParameter(PARAM_AREA_UNIT, 3, true));
     QTRY_COMPARE_WITH_TIMEOUT(third.GetParameter(PARAM_AREA_UNIT), QVariant(3), SoonMilliseconds);

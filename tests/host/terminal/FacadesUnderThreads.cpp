@@ -26,14 +26,13 @@ namespace {
 const int ThreadCount = 4;
 const int Rounds = 250;
 
-/// What the display's threads do, each in a loop; tells whether all went well.
+/// The work of one of the display's threads, done in a loop. Returns whether it has succeeded.
 using FWork = std::function<bool(int thread, int round)>;
 
-/// Does the work in all threads at once. How often it did not go well.
+/// Does the work in all threads at the same time. Returns the number of failures.
 int FailuresInThreads(const FWork& work)
 {
-    // Relaxed, so that the threads are ordered by the locks of the façades alone. None is through before the last has
-    // begun.
+    // Relaxed, so that only the locks of the façades order the threads. No thread ends before the last one has begun.
     std::atomic<int> failures{0};
     std::atomic<int> awaited{ThreadCount};
     std::vector<std::thread> threads;
@@ -94,7 +93,7 @@ std::atomic<int> SwitchedOn{0};
 bool SwitchOnAndOff(int, int)
 {
     TSystemSettingsProxy system;
-    if (!system.UpdateLowRAMRecordingOff(true)) // it was off
+    if (!system.UpdateLowRAMRecordingOff(true)) // returns the previous state, which was off
         SwitchedOn.fetch_add(1, std::memory_order_relaxed);
     if (system.UpdateLowRAMRecordingOff(false))
         SwitchedOn.fetch_sub(1, std::memory_order_relaxed);
@@ -128,7 +127,7 @@ bool ShowValues(int, int) { return TextsOfAllUnits().contains(QLatin1String("12.
 
 } // namespace
 
-/// The façades as a display calls them: from all of its threads at once.
+/// The façades are called as a display calls them, from all of its threads at the same time.
 class FacadesUnderThreads : public QObject
 {
     Q_OBJECT
@@ -167,7 +166,7 @@ void FacadesUnderThreads::cleanup()
 
 QStringList FacadesUnderThreads::LoggedLines(const char* pattern)
 {
-    m_Terminal->Stop(); // what is staged is written
+    m_Terminal->Stop(); // writes the staged bytes
     const QDir folder(m_Folder->filePath(QLatin1String("internal/Diagnostics")));
     const QStringList names = folder.entryList(QStringList(QLatin1String(pattern)));
     QFile file(folder.filePath(names.value(0)));
@@ -208,13 +207,13 @@ void FacadesUnderThreads::everyFacadeAnswersWhileOthersAreCalled()
 {
     const std::vector<FWork> all = {LogEvent,       LogSentence,  SelectVehicle, ComposeNames,
                                     SwitchOnAndOff, ChooseColour, SetClock,      ShowValues};
-    // What is read by the one has been set by another.
+    // A thread reads what another thread has set.
     QVERIFY(SelectVehicle(0, 0) && ChooseColour(0, 0) && SetClock(0, 0));
     const int failures = FailuresInThreads([&all](int thread, int round) {
         return all[static_cast<std::size_t>(thread + round) % all.size()](thread, round);
     });
     QCOMPARE(failures, 0);
-    QCOMPARE(SwitchedOn.load(), 0); // on as often as off
+    QCOMPARE(SwitchedOn.load(), 0); // switched on as often as off
 }
 
 QTEST_GUILESS_MAIN(FacadesUnderThreads)

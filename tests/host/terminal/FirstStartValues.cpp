@@ -22,7 +22,7 @@ private slots:
 
 namespace {
 
-/// Relative luminance as of sRGB, 0 for black and 1 for white.
+/// The relative luminance of sRGB: 0 for black, 1 for white.
 double Luminance(const QColor& color)
 {
     const auto linear = [](double channel) {

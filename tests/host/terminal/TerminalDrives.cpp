@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// Where the drives of a terminal are, whatever the store says when it starts and while it runs.
+/// The drives that a terminal uses, for all kinds of values in the store, at the start and while it runs.
 class TerminalDrives : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ QVariant Stored(const QVariant& value, const QString& folder)
     return text.contains(QLatin1String("%1")) ? QVariant(text.arg(folder)) : value;
 }
 
-/// Rows: what the store holds, which folder of the test's the terminal uses, and whether it tells why.
+/// Rows: the stored value, the folder of the test that the terminal uses, and whether it says why.
 void AddDrives()
 {
     QTest::addColumn<QVariant>("stored");

@@ -39,7 +39,7 @@ private:
 
 namespace {
 
-/// Tells how often, and with what, the disk would have been written.
+/// Records the transactions that would be written to a disk.
 class TRecordingStore : public TParameterStore
 {
 public:
@@ -126,7 +126,7 @@ void TerminalStart::nothingIsStoredBeforeEverythingIsInPlace()
     QString error;
     QVERIFY(terminal.Start(Folder(), &error));
     QCOMPARE(store.persisted.size(), 1);
-    QVERIFY(!store.persisted.first().contains(PARAM_ACTIVE_JOB)); // never anything else on the disk
+    QVERIFY(!store.persisted.first().contains(PARAM_ACTIVE_JOB)); // the disk keeps the value it had
     QVERIFY(!store.persisted.first().contains(PARAM_METRIC));
     QVERIFY(store.persisted.first().contains(PARAM_ACTIVE_VEHICLE));
 
@@ -146,7 +146,7 @@ void TerminalStart::theFolderTreeIsMade()
     for (const char* folder : {"Jobs", "Clients", "Boundaries/ShapefilesForBoundary", "Diagnostics/PerformanceTest",
                                "WaterManagementProjects", "VelmorUploads", "RemoteView"})
         QVERIFY2(drive.exists(QLatin1String(folder)), folder);
-    // Farms and fields are shown as folders, and are none.
+    // Farms and fields are shown as folders, but have none.
     QVERIFY(!drive.exists(QLatin1String("Farms")));
     QVERIFY(!drive.exists(QLatin1String("Fields")));
 }

@@ -30,7 +30,7 @@ extern "C" __attribute__((visibility("default"))) int close(int fd)
     return static_cast<int>(syscall(SYS_close, fd));
 }
 
-/// What a start that fails leaves behind, and what a terminal that is not running may touch.
+/// A start that fails leaves nothing behind, and a terminal that does not run changes nothing of a running one.
 class TerminalStartFailures : public QObject
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ private:
 
 namespace {
 
-/// Tells what would have been written to a disk, and can throw at one of its calls.
+/// Records the transactions that would be written to a disk. Can throw at one of its calls.
 class TFaultyStore : public TParameterStore
 {
 public:
@@ -137,7 +137,7 @@ void TerminalStartFailures::aStartThatFailsStoresNothing()
     store.persisted.clear();
     QVERIFY2(terminal.Start(Folder(), &error), qPrintable(error));
     QCOMPARE(store.persisted.size(), 1);
-    QVERIFY(store.persisted.first().contains(PARAM_METRIC)); // the values of a first start are not taken for stored
+    QVERIFY(store.persisted.first().contains(PARAM_METRIC)); // the values of the failed start are not in the store
     QCOMPARE(TSystemSettingsProxy().GetActiveJob(), QLatin1String("Harvest"));
 }
 
