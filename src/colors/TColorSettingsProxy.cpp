@@ -1,11 +1,11 @@
 #include "colors/TColorSettingsProxy.h"
 
-#include "access/SettingsMembers.h"
+#include "access/TSettingsMembers.h"
 #include "colors/TColorSettings.h"
 
 using Proxy = TColorSettingsProxy;
 
-Proxy::TColorSettingsProxy() : m_Target(&SettingsMembers::Colors()) {}
+Proxy::TColorSettingsProxy() : m_Target(&TSettingsMembers::Colors()) {}
 Proxy::~TColorSettingsProxy() = default;
 
 void Proxy::Restore() { m_Target->Restore(); }

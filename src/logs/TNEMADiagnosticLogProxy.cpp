@@ -1,12 +1,12 @@
 #include "logs/TNEMADiagnosticLogProxy.h"
 
-#include "access/SettingsMembers.h"
+#include "access/TSettingsMembers.h"
 
 using Proxy = TNEMADiagnosticLogProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TNEMADiagnosticLogProxy() : TDiagnosticLogProxy(SettingsMembers::NMEALog()) {}
+Proxy::TNEMADiagnosticLogProxy() : TDiagnosticLogProxy(TSettingsMembers::NMEALog()) {}
 Proxy::~TNEMADiagnosticLogProxy() = default;
 
 void Proxy::Lock() { Mutex.lock(); }

@@ -1,6 +1,6 @@
 #include "logs/TUserDiagnosticLogProxy.h"
 
-#include "access/SettingsMembers.h"
+#include "access/TSettingsMembers.h"
 #include "platform/TConfigManager.h"
 
 #include <QStringBuilder>
@@ -10,7 +10,7 @@ using Proxy = TUserDiagnosticLogProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TUserDiagnosticLogProxy() : TDiagnosticLogProxy(SettingsMembers::UserLog()) {}
+Proxy::TUserDiagnosticLogProxy() : TDiagnosticLogProxy(TSettingsMembers::UserLog()) {}
 Proxy::~TUserDiagnosticLogProxy() = default;
 
 void Proxy::Lock() { Mutex.lock(); }

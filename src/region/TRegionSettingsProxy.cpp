@@ -1,13 +1,13 @@
 #include "region/TRegionSettingsProxy.h"
 
-#include "access/SettingsMembers.h"
+#include "access/TSettingsMembers.h"
 #include "region/TRegionSettings.h"
 
 using Proxy = TRegionSettingsProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TRegionSettingsProxy() : m_Target(SettingsMembers::Region()) {}
+Proxy::TRegionSettingsProxy() : m_Target(TSettingsMembers::Region()) {}
 Proxy::~TRegionSettingsProxy() = default;
 
 void Proxy::Lock() const { Mutex.lock(); }

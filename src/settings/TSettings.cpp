@@ -1,6 +1,6 @@
 #include "settings/TSettings.h"
 
-#include "access/SettingsMembers.h"
+#include "access/TSettingsMembers.h"
 #include "colors/TColorSettingsProxy.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
@@ -34,8 +34,8 @@ void TSettings::Restore()
     nmeaLog.Restore(system.GetInternalNemaLogPath(), 0, 0);
 }
 
-TColorSettings& SettingsMembers::Colors() { return Settings->m_ColorSettings; }
-TRegionSettings& SettingsMembers::Region() { return Settings->m_RegionSettings; }
-TSystemSettings& SettingsMembers::System() { return Settings->m_SystemSettings; }
-TDiagnosticLog& SettingsMembers::UserLog() { return Settings->m_UserLog; }
-TDiagnosticLog& SettingsMembers::NMEALog() { return Settings->m_NEMALog; }
+TColorSettings& TSettingsMembers::Colors() { return Settings->m_ColorSettings; }
+TRegionSettings& TSettingsMembers::Region() { return Settings->m_RegionSettings; }
+TSystemSettings& TSettingsMembers::System() { return Settings->m_SystemSettings; }
+TDiagnosticLog& TSettingsMembers::UserLog() { return Settings->m_UserLog; }
+TDiagnosticLog& TSettingsMembers::NMEALog() { return Settings->m_NEMALog; }

@@ -36,7 +36,7 @@ public:
     void Restore();
 
 private:
-    friend class SettingsMembers;
+    friend class TSettingsMembers;
 
     TColorSettings m_ColorSettings;
     TRegionSettings m_RegionSettings;

@@ -1,6 +1,6 @@
 #include "system/TSystemSettingsProxy.h"
 
-#include "access/SettingsMembers.h"
+#include "access/TSettingsMembers.h"
 #include "system/TSystemSettings.h"
 
 #include <utility>
@@ -9,7 +9,7 @@ using Proxy = TSystemSettingsProxy;
 
 QMutex Proxy::Mutex;
 
-Proxy::TSystemSettingsProxy() : m_Target(SettingsMembers::System()) {}
+Proxy::TSystemSettingsProxy() : m_Target(TSettingsMembers::System()) {}
 Proxy::~TSystemSettingsProxy() = default;
 
 void Proxy::Lock() const { Mutex.lock(); }

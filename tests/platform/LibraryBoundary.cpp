@@ -86,6 +86,7 @@ QStringList Listed(const QString& library)
             name = name.section(QLatin1Char('"'), 1, 1);
 #if QT_VERSION >= 0x060000
         name.replace(Latin1("QVector<"), Latin1("QList<")); // one template under two names
+        name.replace(Latin1("QStringList"), Latin1("QList<QString>"));
 #endif
         names.insert(name);
     }
@@ -119,7 +120,8 @@ const char* const Imported[] = {
 /// host's.
 bool IsOfOthers(const QString& name)
 {
-    const bool isInstrument = CABSETTINGS_IS_INSTRUMENTED && !name.contains(Latin1("::"));
+    const bool isMember = name.contains(Latin1("::")) && !name.startsWith(Latin1("operator "));
+    const bool isInstrument = CABSETTINGS_IS_INSTRUMENTED && !isMember;
     const QRegExp ofQt(Latin1("[Qq].*|operator[^(]+\\(Q.*|(vtable|typeinfo) for Q.*"));
     return name.contains(QLatin1Char('@')) || ofQt.exactMatch(name) || isInstrument;
 }

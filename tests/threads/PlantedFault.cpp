@@ -1,9 +1,8 @@
 // Faults that the thread sanitizer must find, each beside its mended form, in which there is nothing to find. They give
 // a meaning to the silence of all other tests. Called with the name of one.
 
+#include "TargetOf.h"
 #include "TestHost.h"
-
-#include "../settings/TargetOf.h"
 
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "settings/TSettings.h"

@@ -12,7 +12,7 @@ namespace {
 using namespace Conversions;
 
 /// @p value by @p route while acres are chosen; otherwise as it is.
-double InAcres(const tagRoute& route, double value) { return Choices::Area() == AREA_UNIT_ACRE ? route(value) : value; }
+double InAcres(const TRoute& route, double value) { return Choices::Area() == AREA_UNIT_ACRE ? route(value) : value; }
 
 /// The unit per area in which a value of @p type is typed; UNITS_NONE where it is typed as it is stored. In hectares
 /// the unit of volume or mass stays what it is, too.

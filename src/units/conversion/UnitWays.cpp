@@ -28,7 +28,7 @@ struct tagWay
     float times = 1.0f;
     float over = 1.0f;
     TSpecial special = nullptr;
-    const tagRoute* route = nullptr; ///< of what is not a multiplication and a division
+    const TRoute* route = nullptr; ///< of what is not a multiplication and a division
 };
 
 double Unchanged(const tagWay&, double value) { return value; }
@@ -43,7 +43,7 @@ double ByRoute(const tagWay& way, double value) { return (*way.route)(value); }
 
 constexpr tagWay Special(tagWay::TSpecial special) { return {1.0f, 1.0f, special, nullptr}; }
 
-constexpr tagWay By(const tagRoute& route)
+constexpr tagWay By(const TRoute& route)
 {
     if (route.IsSingle())
         return {route.First().times, route.First().over, nullptr, nullptr};
@@ -122,7 +122,7 @@ private:
         Add(sizes.dependsOnMeasures, sizes.us.in, sizes.english.in, next);
     }
 
-    constexpr void Add(bool dependsOnMeasures, const tagRoute& us, const tagRoute& english, std::size_t& next)
+    constexpr void Add(bool dependsOnMeasures, const TRoute& us, const TRoute& english, std::size_t& next)
     {
         if (dependsOnMeasures) {
             m_Ways[next++] = Special(ByMeasures);

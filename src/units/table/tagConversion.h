@@ -43,26 +43,26 @@ constexpr tagFactor Times(float factor) { return {factor, 1.0f, 1.0f}; }
 constexpr tagFactor Over(float divisor) { return {1.0f, divisor, 1.0f}; }
 
 /// One direction of a conversion: one factor or two, or a function where no factor will do.
-class tagRoute
+class TRoute
 {
 public:
     using TFunction = double (*)(double);
 
-    constexpr tagRoute() = default;
-    constexpr tagRoute(tagFactor factor) : m_First(factor) {}
-    constexpr tagRoute(tagFactor first, tagFactor second) : m_First(first), m_Second(second), m_HasSecond(true) {}
-    constexpr tagRoute(TFunction function) : m_Function(function) {}
+    constexpr TRoute() = default;
+    constexpr TRoute(tagFactor factor) : m_First(factor) {}
+    constexpr TRoute(tagFactor first, tagFactor second) : m_First(first), m_Second(second), m_HasSecond(true) {}
+    constexpr TRoute(TFunction function) : m_Function(function), m_IsFunction(true) {}
 
     double operator()(double value) const
     {
-        if (m_Function)
+        if (m_IsFunction)
             return m_Function(value);
         const double result = m_First(static_cast<float>(value));
         return m_HasSecond ? m_Second(static_cast<float>(result)) : result;
     }
 
     /// Whether one multiplication and one division do: First() tells which.
-    constexpr bool IsSingle() const { return !m_Function && !m_HasSecond && m_First.then == 1.0f; }
+    constexpr bool IsSingle() const { return !m_IsFunction && !m_HasSecond && m_First.then == 1.0f; }
     constexpr const tagFactor& First() const { return m_First; }
 
 private:
@@ -70,13 +70,15 @@ private:
     tagFactor m_Second;
     bool m_HasSecond = false;
     TFunction m_Function = nullptr;
+    bool m_IsFunction =
+        false; // asked instead of the pointer, which sanitizers do not let a constant expression compare
 };
 
 /// Between a hub and a unit.
 struct tagConversion
 {
-    tagRoute out; ///< from the hub into the unit
-    tagRoute in;  ///< from the unit into the hub
+    TRoute out; ///< from the hub into the unit
+    TRoute in;  ///< from the unit into the hub
 };
 
 /// By one factor, and back by the inverse of it.
@@ -86,7 +88,7 @@ constexpr tagConversion By(const tagFactor& factor)
 }
 
 /// One factor after the other; the value between them is narrowed to 32 bits too.
-constexpr tagRoute Then(const tagRoute& first, const tagRoute& second) { return {first.First(), second.First()}; }
+constexpr TRoute Then(const TRoute& first, const TRoute& second) { return {first.First(), second.First()}; }
 
 /// By way of a unit between the two.
 constexpr tagConversion Through(const tagConversion& first, const tagConversion& second)

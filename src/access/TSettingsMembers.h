@@ -10,7 +10,7 @@ class TSystemSettings;
 ///
 /// Declared below the rooms that use it and defined by the aggregate, so that no façade includes the aggregate. As with
 /// Settings itself, there is no check for null.
-class SettingsMembers
+class TSettingsMembers
 {
 public:
     static TColorSettings& Colors();
