@@ -70,8 +70,7 @@ private:
     tagFactor m_Second;
     bool m_HasSecond = false;
     TFunction m_Function = nullptr;
-    bool m_IsFunction =
-        false; // asked instead of the pointer, which sanitizers do not let a constant expression compare
+    bool m_IsFunction = false; // with sanitizers, comparing the pointer is no constant expression
 };
 
 /// Between a hub and a unit.
