@@ -1,0 +1,10 @@
+# Finds what the ready host needs beside Qt: a JSON reader that knows the line of a value, archives, and the sun.
+find_package(jsoncpp REQUIRED)
+find_package(LibArchive REQUIRED)
+
+find_path(LIBNOVA_INCLUDE_DIR libnova/libnova.h REQUIRED)
+find_library(LIBNOVA_LIBRARY nova REQUIRED)
+add_library(LibNova::LibNova UNKNOWN IMPORTED)
+set_target_properties(LibNova::LibNova PROPERTIES
+    IMPORTED_LOCATION ${LIBNOVA_LIBRARY}
+    INTERFACE_INCLUDE_DIRECTORIES ${LIBNOVA_INCLUDE_DIR})
