@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parameters/HostParameters.h"
 #include "platform/EAreaUnit.h"
 #include "platform/EDecimalPoint.h"
 #include "platform/EDryDensityUnit.h"
@@ -66,6 +67,13 @@ struct tagItem
 };
 
 struct tagDrive
+{
+    tagAbout about;
+    const char* accepts;
+};
+
+/// A text that TParameterCatalogue checks in a way of its own.
+struct tagText
 {
     tagAbout about;
     const char* accepts;
@@ -243,6 +251,12 @@ inline constexpr tagDrive Drives[] = {
     {{PARAM_EXTERNAL_DRIVE, "system.external-drive",
       "mount point of the removable drive; by default in the data folder", "every path on the stick, exports"},
      "an absolute path"},
+};
+
+inline constexpr tagText Texts[] = {
+    {{PARAM_TERMINAL_IDENTITY, "terminal.identity", "the identity of the terminal, which its profiles carry",
+      "whether a profile counts as one of this terminal"},
+     "a UUID in small letters, such as 6ba7b810-9dad-41d1-80b4-00c04fd430c8"},
 };
 
 inline constexpr tagItem Items[] = {

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -64,6 +65,13 @@ tagParameter Parameter(const tagDrive& row)
     return parameter;
 }
 
+tagParameter Parameter(const tagText& row)
+{
+    tagParameter parameter = Begin(row.about, PARAMETER_STRING);
+    parameter.accepts = Utf8(row.accepts);
+    return parameter;
+}
+
 tagParameter Parameter(const tagItem& row)
 {
     tagParameter parameter = Begin(row.about, PARAMETER_STRING);
@@ -99,6 +107,7 @@ QList<tagParameter> AllParameters()
     Append(&parameters, Selections);
     Append(&parameters, Numbers);
     Append(&parameters, Drives);
+    Append(&parameters, Texts);
     Append(&parameters, Items);
     for (const tagColor& row : Colors) {
         parameters.append(ColorParameter(row.day, "day", row, row.firstByDay));
@@ -119,11 +128,13 @@ bool IsRoot(const QString& path) { return QFileInfo(QDir::cleanPath(path)).canon
 bool IsAccepted(const tagParameter& parameter, const QVariant& value)
 {
     const QString text = value.toString();
-    switch (parameter.id) {
+    switch (int{parameter.id}) {
     case PARAM_INTERNAL_DRIVE:
         return QDir::isAbsolutePath(text) && text.endsWith(QLatin1Char('/')) && !IsRoot(text);
     case PARAM_EXTERNAL_DRIVE:
         return QDir::isAbsolutePath(text);
+    case PARAM_TERMINAL_IDENTITY:
+        return !QUuid(text).isNull() && QUuid(text).toString(QUuid::WithoutBraces) == text;
     default:
         const bool isNumber = parameter.type == PARAMETER_INT && parameter.choices.isEmpty();
         return !isNumber || (value.toInt() >= parameter.least && value.toInt() <= parameter.greatest);

@@ -1,5 +1,7 @@
 #include "terminal/FirstStartValues.h"
 #include "colors/TColorSettings.h"
+#include "parameters/HostParameters.h"
+#include "parameters/TParameterCatalogue.h"
 #include "stores/TMemoryStore.h"
 
 #include <QtTest>
@@ -14,6 +16,7 @@ private slots:
     void everyParameterTheLibraryReadsHasAValue_data();
     void everyParameterTheLibraryReadsHasAValue();
     void whatTheStoreHoldsStays();
+    void everyTerminalHasAnIdentityOfItsOwn();
     void textIsLegible_data();
     void textIsLegible();
     void theNightIsDark_data();
@@ -81,6 +84,21 @@ void FirstStartValues::whatTheStoreHoldsStays()
     SetFirstStartValues(store);
     QCOMPARE(store.GetParameter(PARAM_METRIC), QVariant(false));
     QCOMPARE(store.GetParameter(PARAM_TEXT_COLOR_DAY).value<QColor>(), QColor(1, 2, 3));
+}
+
+void FirstStartValues::everyTerminalHasAnIdentityOfItsOwn()
+{
+    TMemoryStore one;
+    TMemoryStore other;
+    SetFirstStartValues(one);
+    SetFirstStartValues(other);
+    const QVariant identity = one.GetParameter(PARAM_TERMINAL_IDENTITY);
+    QString error;
+    QVERIFY(TParameterCatalogue::Read(*TParameterCatalogue::Find(PARAM_TERMINAL_IDENTITY), identity.toString(), &error)
+                .isValid());
+    QVERIFY(identity != other.GetParameter(PARAM_TERMINAL_IDENTITY));
+    SetFirstStartValues(one);
+    QCOMPARE(one.GetParameter(PARAM_TERMINAL_IDENTITY), identity);
 }
 
 void FirstStartValues::textIsLegible_data()
