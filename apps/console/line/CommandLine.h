@@ -19,6 +19,9 @@
 ///
 /// Options are typed with two dashes, those of one letter with one; their value follows as the next argument or behind
 /// "=". A negative number is an argument, and everything behind "--" is.
+///
+/// QCommandLineParser would take a negative number for an option, and its messages do not say which option or value was
+/// meant.
 class TCommandLine
 {
 public:
