@@ -2,12 +2,14 @@
 
 #include "diagnostics/DiagnosticTexts.h"
 #include "stores/StoredValue.h"
+#include "stores/TParameterWatch.h"
 
 #include <QMutexLocker>
 #include <QReadLocker>
 #include <QWriteLocker>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -107,9 +109,8 @@ bool TParameterStore::AbandonPersistence()
     if (!m_Holds.isEmpty()) {
         const tagHold hold = m_Holds.takeLast();
         const QWriteLocker memory(&m_MemoryLock);
-        m_Values = hold.values;
+        RememberAll(hold.values);
         m_Wishes = hold.wishes;
-        ++m_Revision;
     }
     return PersistAfterHold();
 }
@@ -175,12 +176,44 @@ bool TParameterStore::PersistOutstanding()
     return (Wishes(0, AnyNumber).isEmpty() && m_Rescued.isEmpty()) || PersistWishes(0, AnyNumber);
 }
 
-// The caller holds m_MemoryLock.
+void TParameterStore::AddWatch(TParameterWatch* watch)
+{
+    const QWriteLocker memory(&m_MemoryLock);
+    m_Watches.append(watch);
+}
+
+// When this returns, no thread is telling the watch anything.
+void TParameterStore::RemoveWatch(TParameterWatch* watch)
+{
+    const QWriteLocker memory(&m_MemoryLock);
+    m_Watches.removeOne(watch);
+}
+
+// The caller holds m_MemoryLock for writing, as for the next two functions.
+void TParameterStore::Tell(int id, const QVariant& oldValue, const QVariant& newValue)
+{
+    for (TParameterWatch* const watch : std::as_const(m_Watches))
+        watch->Note(id, oldValue, newValue);
+}
+
 void TParameterStore::Remember(int id, const QVariant& value)
 {
-    if (!IsSameValue(m_Values.value(id), value))
-        ++m_Revision;
+    const QVariant former = m_Values.value(id);
     Assign(&m_Values, id, value);
+    if (IsSameValue(former, value))
+        return;
+    ++m_Revision;
+    Tell(id, former, value);
+}
+
+void TParameterStore::RememberAll(const QMap<int, QVariant>& values)
+{
+    const QMap<int, QVariant> former = m_Values;
+    for (auto value = former.constBegin(); value != former.constEnd(); ++value)
+        if (!values.contains(value.key()))
+            Remember(value.key(), QVariant());
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        Remember(value.key(), value.value());
 }
 
 bool TParameterStore::PersistWishes(int minFailures, int maxFailures)

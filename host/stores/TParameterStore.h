@@ -11,6 +11,8 @@
 #include <QVariant>
 #include <QVector>
 
+class TParameterWatch;
+
 /// A parameter store that keeps all values in memory. A derived class writes the persistent ones to a disk.
 ///
 /// @code
@@ -53,8 +55,7 @@ public:
     QMap<int, QVariant> Values() const;
 
     /// A number that grows whenever a value in memory changes. A display can poll it to find out whether what it shows
-    /// is up to date: remember the revision first, then read the values. It is a number and not a signal because
-    /// changes come from any thread, and from some while a lock of the library is held.
+    /// is up to date: remember the revision first, then read the values. TParameterWatch tells of single changes.
     quint64 Revision() const;
 
     /// Begins a hold: nothing is written to the disk, and changes by other programs are not taken in, until the hold is
@@ -99,6 +100,8 @@ protected:
     bool PersistOutstanding();
 
 private:
+    friend class TParameterWatch; // adds and removes itself
+
     /// A persistent value that is not known to be on the disk.
     struct tagWish
     {
@@ -113,17 +116,22 @@ private:
         QMap<int, tagWish> wishes;
     };
 
+    void AddWatch(TParameterWatch* watch);
+    void RemoveWatch(TParameterWatch* watch);
+    void Tell(int id, const QVariant& oldValue, const QVariant& newValue);
     void Remember(int id, const QVariant& value);
+    void RememberAll(const QMap<int, QVariant>& values);
     bool PersistAfterHold();
     bool PersistWishes(int minFailures, int maxFailures);
     QMap<int, QVariant> Wishes(int minFailures, int maxFailures) const;
     void DropFulfilledWishes();
     void Settle(const QMap<int, QVariant>& changes, bool done);
 
-    mutable QReadWriteLock m_MemoryLock; // guards the next three members; never held during disk work
+    mutable QReadWriteLock m_MemoryLock; // guards the next four members; never held during disk work
     QMap<int, QVariant> m_Values;
     quint64 m_Revision;
     QMap<int, tagWish> m_Wishes;
+    QVector<TParameterWatch*> m_Watches;
 
     QMutex m_DiskMutex; // guards the next four members, CatchUp() and Persist(); locked before m_MemoryLock
     QMap<int, QVariant> m_OnDisk;
