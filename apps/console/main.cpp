@@ -18,6 +18,7 @@ const std::vector<tagCommand> Commands = {
     {"reset", "Sets a parameter to its default.", RunReset},
     {"list", "Lists the parameters.", RunList},
     {"describe", "Explains a parameter.", RunDescribe},
+    {"monitor", "Prints changes of parameters as they happen.", RunMonitor},
     {"colors", "Prints the colours by day and by night.", RunColors},
     {"clock", "Prints the clock, and sets it.", RunClock},
     {"select", "Selects a job, a vehicle, a field and so on.", RunSelect},

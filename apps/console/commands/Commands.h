@@ -11,6 +11,7 @@ int RunSet(const tagContext& context, const QStringList& arguments);
 int RunReset(const tagContext& context, const QStringList& arguments);
 int RunDescribe(const tagContext& context, const QStringList& arguments);
 int RunList(const tagContext& context, const QStringList& arguments);
+int RunMonitor(const tagContext& context, const QStringList& arguments);
 int RunColors(const tagContext& context, const QStringList& arguments);
 int RunClock(const tagContext& context, const QStringList& arguments);
 int RunSelect(const tagContext& context, const QStringList& arguments);

@@ -9,46 +9,17 @@
 #include "parameters/ParameterText.h"
 
 #include <QJsonArray>
-#include <QRegularExpression>
 
 namespace {
 
 const char* const MarkdownOption = "markdown";
-const char* const NotSet = "(not set)";
-
-/// All parameters that have a value or are in the catalogue, in the order of their numbers; absent values are invalid.
-QMap<int, QVariant> ListedValues(const TParameterStore& store)
-{
-    QMap<int, QVariant> values = store.Values();
-    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
-        if (!values.contains(parameter.id))
-            values.insert(parameter.id, QVariant());
-    }
-    return values;
-}
-
-/// Whether a pattern, which may hold * and ?, fits a parameter's number, or its name or a part of it.
-bool Fits(const QString& pattern, int number)
-{
-    const tagParameter* const known = TParameterCatalogue::Find(number);
-    const QRegularExpression expression(QRegularExpression::wildcardToRegularExpression(pattern),
-                                        QRegularExpression::CaseInsensitiveOption);
-    if (expression.match(QString::number(number)).hasMatch())
-        return true;
-    return known && (expression.match(known->name).hasMatch() || known->name.contains(pattern, Qt::CaseInsensitive));
-}
-
-QString TextOrNotSet(const tagParameter* known, const QVariant& value)
-{
-    return value.isValid() ? ValueText(known, value) : QLatin1String(NotSet);
-}
 
 QStringList Row(int number, const QVariant& value)
 {
     const tagParameter* const known = TParameterCatalogue::Find(number);
     return {QString::number(number), known ? known->name : QLatin1String("-"),
             known ? TParameterCatalogue::TypeName(known->type) : ParameterText::TypeName(value),
-            TextOrNotSet(known, value)};
+            ValueTextOrNotSet(known, value)};
 }
 
 /// The table of the documentation.
@@ -78,8 +49,8 @@ void PrintDescription(const tagParameter& parameter, const QVariant& value)
               .arg(static_cast<int>(parameter.id))
               .arg(parameter.meaning));
     PrintTable({{QLatin1String("  Type"), TParameterCatalogue::TypeName(parameter.type)},
-                {QLatin1String("  Value"),
-                 value.isValid() ? WithUnit(parameter, ValueText(&parameter, value)) : QLatin1String(NotSet)},
+                {QLatin1String("  Value"), value.isValid() ? WithUnit(parameter, ValueText(&parameter, value))
+                                                           : ValueTextOrNotSet(&parameter, value)},
                 {QLatin1String("  Default"), first.isValid() ? WithUnit(parameter, ValueText(&parameter, first))
                                                              : QLatin1String("chosen by the terminal")},
                 {QLatin1String("  Accepts"), parameter.accepts},
@@ -91,8 +62,8 @@ void PrintDescription(const tagParameter& parameter, const QVariant& value)
 int RunList(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(QLatin1String("list"), QLatin1String("[PATTERN]"),
-                      QLatin1String("Lists the parameters: number, name, type and value. PATTERN is a part of a name, "
-                                    "or a name or a number with the wildcards * and ?."),
+                      QLatin1String("Lists the parameters: number, name, type and value. ") +
+                          QLatin1String(PatternForm),
                       QLatin1String("cabsettings list units"));
     line.AddJsonOption(QLatin1String("Prints an array of objects, as `get --json` prints them."));
     line.AddOption(QLatin1String(MarkdownOption),
@@ -113,7 +84,7 @@ int RunList(const tagContext& context, const QStringList& arguments)
     QList<QStringList> rows;
     QJsonArray array;
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
-        if (!pattern.isEmpty() && !Fits(pattern, it.key()))
+        if (!FitsPattern(pattern, it.key()))
             continue;
         rows.append(Row(it.key(), it.value()));
         array.append(ParameterJson(it.key(), it.value()));
@@ -122,7 +93,7 @@ int RunList(const tagContext& context, const QStringList& arguments)
         PrintJson(array);
     else
         PrintTable(rows);
-    return rows.isEmpty() ? Fail(QString::fromLatin1("no parameter matches \"%1\"").arg(pattern)) : STATUS_DONE;
+    return rows.isEmpty() ? Fail(NoMatch(pattern)) : STATUS_DONE;
 }
 
 int RunDescribe(const tagContext& context, const QStringList& arguments)

@@ -55,19 +55,6 @@ QJsonObject Fields(const QString& text)
     return fields;
 }
 
-/// Raw traffic may hold anything, and a terminal must not obey it.
-QString Harmless(const QString& text)
-{
-    QString shown;
-    for (const QChar character : text) {
-        if (character.category() == QChar::Other_Control && character != QLatin1Char('\t'))
-            shown += QString::fromLatin1("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
-        else
-            shown += character;
-    }
-    return shown;
-}
-
 /// How the lines of a log are printed.
 class TLinePrinter
 {

@@ -65,7 +65,21 @@ void PrintTable(const QList<QStringList>& rows)
     }
 }
 
+QString Harmless(const QString& text)
+{
+    QString shown;
+    for (const QChar character : text) {
+        if (character.category() == QChar::Other_Control && character != QLatin1Char('\t'))
+            shown += QString::fromLatin1("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            shown += character;
+    }
+    return shown;
+}
+
 QString OrNone(const QString& text) { return text.isEmpty() ? QLatin1String("(none)") : text; }
+
+void Announce(const QString& text) { Say(text); }
 
 int Fail(const QString& text)
 {

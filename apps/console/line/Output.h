@@ -29,8 +29,14 @@ void PrintJsonLine(const QJsonObject& object);
 /// Writes rows of cells to standard output, in columns.
 void PrintTable(const QList<QStringList>& rows);
 
+/// The text with control characters other than tabs written as \x1b, because a terminal would obey them.
+QString Harmless(const QString& text);
+
 /// "(none)" for an empty text.
 QString OrNone(const QString& text);
+
+/// Prints one line on standard error, for instance that a command that waits is ready.
+void Announce(const QString& text);
 
 /// Prints one line on standard error, after the program's name, and returns the matching status.
 int Fail(const QString& text);

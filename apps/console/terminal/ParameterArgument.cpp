@@ -4,24 +4,7 @@
 #include "parameters/ParameterText.h"
 
 #include <QColor>
-
-namespace {
-
-QJsonValue Json(const QVariant& value)
-{
-    switch (value.userType()) {
-    case QMetaType::Bool:
-        return value.toBool();
-    case QMetaType::Int:
-        return value.toInt();
-    case QMetaType::Double:
-        return value.toDouble();
-    default:
-        return value.isValid() ? QJsonValue(ParameterText::FromValue(value)) : QJsonValue();
-    }
-}
-
-} // namespace
+#include <QRegularExpression>
 
 QString tagParameterArgument::Name() const
 {
@@ -43,9 +26,58 @@ std::optional<tagParameterArgument> ReadParameter(const QString& word, const TCo
     return std::nullopt;
 }
 
+bool FitsPattern(const QString& pattern, int number)
+{
+    if (pattern.isEmpty())
+        return true;
+    const tagParameter* const known = TParameterCatalogue::Find(number);
+    const QRegularExpression expression(QRegularExpression::wildcardToRegularExpression(pattern),
+                                        QRegularExpression::CaseInsensitiveOption);
+    if (expression.match(QString::number(number)).hasMatch())
+        return true;
+    return known && (expression.match(known->name).hasMatch() || known->name.contains(pattern, Qt::CaseInsensitive));
+}
+
+QString NoMatch(const QString& pattern) { return QString::fromLatin1("no parameter matches \"%1\"").arg(pattern); }
+
+QMap<int, QVariant> ListedValues(const TParameterStore& store)
+{
+    QMap<int, QVariant> values = store.Values();
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        if (!values.contains(parameter.id))
+            values.insert(parameter.id, QVariant());
+    }
+    return values;
+}
+
+QString ParameterLabel(int number)
+{
+    const tagParameter* const known = TParameterCatalogue::Find(number);
+    return known ? known->name : QString::number(number);
+}
+
 QString ValueText(const tagParameter* known, const QVariant& value)
 {
     return known ? TParameterCatalogue::Text(*known, value) : ParameterText::FromValue(value);
+}
+
+QString ValueTextOrNotSet(const tagParameter* known, const QVariant& value)
+{
+    return value.isValid() ? ValueText(known, value) : QLatin1String("(not set)");
+}
+
+QJsonValue ValueJson(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Bool:
+        return value.toBool();
+    case QMetaType::Int:
+        return value.toInt();
+    case QMetaType::Double:
+        return value.toDouble();
+    default:
+        return value.isValid() ? QJsonValue(ParameterText::FromValue(value)) : QJsonValue();
+    }
 }
 
 QJsonObject ParameterJson(int number, const QVariant& value)
@@ -55,10 +87,10 @@ QJsonObject ParameterJson(int number, const QVariant& value)
         {QLatin1String("number"), number},
         {QLatin1String("name"), known ? QJsonValue(known->name) : QJsonValue()},
         {QLatin1String("type"), known ? TParameterCatalogue::TypeName(known->type) : ParameterText::TypeName(value)},
-        {QLatin1String("value"), Json(value)},
+        {QLatin1String("value"), ValueJson(value)},
         {QLatin1String("text"), value.isValid() ? QJsonValue(ValueText(known, value)) : QJsonValue()}};
     if (known) {
-        object.insert(QLatin1String("default"), Json(TParameterCatalogue::FirstValue(*known)));
+        object.insert(QLatin1String("default"), ValueJson(TParameterCatalogue::FirstValue(*known)));
         object.insert(QLatin1String("accepts"), known->accepts);
         object.insert(QLatin1String("unit"), known->unit);
         object.insert(QLatin1String("meaning"), known->meaning);

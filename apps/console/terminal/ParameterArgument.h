@@ -3,8 +3,10 @@
 #include "console/line/CommandLine.h"
 
 #include "parameters/TParameterCatalogue.h"
+#include "stores/TParameterStore.h"
 
 #include <QJsonObject>
+#include <QMap>
 #include <QVariant>
 
 #include <optional>
@@ -23,8 +25,29 @@ struct tagParameterArgument
 /// The parameter that @p word names. Nothing, after a message, when it is neither a name nor a number.
 std::optional<tagParameterArgument> ReadParameter(const QString& word, const TCommandLine& line);
 
+/// What FitsPattern() accepts, for help.
+const char* const PatternForm = "PATTERN is a part of a name, or a name or a number with the wildcards * and ?.";
+
+/// Whether a pattern fits a parameter's number, or its name or a part of it. An empty pattern fits every parameter.
+bool FitsPattern(const QString& pattern, int number);
+
+/// no parameter matches "x"
+QString NoMatch(const QString& pattern);
+
+/// All parameters that have a value or are in the catalogue, in the order of their numbers; absent values are invalid.
+QMap<int, QVariant> ListedValues(const TParameterStore& store);
+
+/// "units.metric", or "20000" for a number of the host's own.
+QString ParameterLabel(int number);
+
 /// The value as text, a choice by its name; @p known may be null.
 QString ValueText(const tagParameter* known, const QVariant& value);
+
+/// The same; "(not set)" for an invalid value.
+QString ValueTextOrNotSet(const tagParameter* known, const QVariant& value);
+
+/// The value in JSON: a bool, a number, or else a text; null for an invalid value.
+QJsonValue ValueJson(const QVariant& value);
 
 /// Number, name, type, value, default, accepts, meaning and so on; an absent value is null.
 QJsonObject ParameterJson(int number, const QVariant& value);
