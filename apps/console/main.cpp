@@ -20,6 +20,7 @@ const std::vector<tagCommand> Commands = {
     {"describe", "Explains a parameter.", RunDescribe},
     {"monitor", "Prints changes of parameters as they happen.", RunMonitor},
     {"colors", "Prints the colours by day and by night.", RunColors},
+    {"sun", "Prints when the sun rises and sets.", RunSun},
     {"clock", "Prints the clock, and sets it.", RunClock},
     {"select", "Selects a job, a vehicle, a field and so on.", RunSelect},
     {"selections", "Lists the selected items.", RunSelections},

@@ -48,6 +48,36 @@ private:
     TNmeaLineSplitter m_Splitter;
 };
 
+/// A file that is open while the object lives.
+class TOpenRecording
+{
+public:
+    /// Opens nothing when the address is no recording.
+    explicit TOpenRecording(const NmeaAddress& address)
+    {
+        const auto* const file = std::get_if<tagFileAddress>(&address);
+        m_Fd = file ? OpenSourceFile(file->path) : -1;
+        struct stat status = {};
+        m_IsRecording = m_Fd >= 0 && fstat(m_Fd, &status) == 0 && S_ISREG(status.st_mode);
+    }
+
+    ~TOpenRecording()
+    {
+        if (m_Fd >= 0)
+            close(m_Fd);
+    }
+
+    TOpenRecording(const TOpenRecording&) = delete;
+    TOpenRecording& operator=(const TOpenRecording&) = delete;
+
+    bool IsRecording() const { return m_IsRecording; }
+    int Fd() const { return m_Fd; }
+
+private:
+    int m_Fd;
+    bool m_IsRecording;
+};
+
 QDateTime FirstTime(int fd)
 {
     TNmeaReceiver::tagStatus status;
@@ -65,13 +95,8 @@ QDateTime FirstTime(int fd)
 
 QDateTime FirstRecordedTime(const NmeaAddress& address)
 {
-    const auto* const file = std::get_if<tagFileAddress>(&address);
-    const int fd = file ? OpenSourceFile(file->path) : -1;
-    struct stat status = {};
-    QDateTime utc;
-    if (fd >= 0 && fstat(fd, &status) == 0 && S_ISREG(status.st_mode))
-        utc = FirstTime(fd);
-    if (fd >= 0)
-        close(fd);
-    return utc;
+    const TOpenRecording recording(address);
+    return recording.IsRecording() ? FirstTime(recording.Fd()) : QDateTime();
 }
+
+bool IsRecording(const NmeaAddress& address) { return TOpenRecording(address).IsRecording(); }

@@ -16,3 +16,6 @@
 ///
 /// Reads the file up to that time. A file on standard input can be read from the same place afterwards.
 CABHOST_EXPORT QDateTime FirstRecordedTime(const NmeaAddress& address);
+
+/// Whether @p address is a recording: a regular file, also on standard input. Pipes, servers and devices are live.
+CABHOST_EXPORT bool IsRecording(const NmeaAddress& address);

@@ -11,3 +11,4 @@ inline constexpr EParamID PARAM_TIME_SOURCE = static_cast<EParamID>(20002);     
 inline constexpr EParamID PARAM_TIME_SOURCE_SINCE = static_cast<EParamID>(20003); ///< string; UTC, ISO 8601
 inline constexpr EParamID PARAM_NEWEST_TIME = static_cast<EParamID>(20004);       ///< string; UTC, ISO 8601
 inline constexpr EParamID PARAM_TERMINAL_IDENTITY = static_cast<EParamID>(20005); ///< string; a random UUID
+inline constexpr EParamID PARAM_DAY_SWITCHED = static_cast<EParamID>(20006);      ///< string; UTC, ISO 8601

@@ -11,6 +11,7 @@
 #include "platform/EShortDistanceUnit.h"
 #include "platform/ESprayerRateBasis.h"
 #include "region/ELanguage.h"
+#include "sun/EDaySwitching.h"
 
 #include <QRgb>
 
@@ -77,6 +78,12 @@ struct tagText
 {
     tagAbout about;
     const char* accepts;
+};
+
+/// A time in UTC, absent at first.
+struct tagTime
+{
+    tagAbout about;
 };
 
 /// The two colours of an element of the map or of a control.
@@ -148,6 +155,9 @@ inline constexpr tagChoice Languages[] = {
     {LANGUAGE_ESTONIAN, "et"},   {LANGUAGE_SERBIAN, "sr"},    {LANGUAGE_SLOVAK, "sk"},    {LANGUAGE_SLOVENIAN, "sl"},
 };
 
+inline constexpr tagChoice DaySwitchings[] = {
+    {DAY_SWITCHING_BY_HAND, "by-hand"}, {DAY_SWITCHING_SUNSET, "sunset"}, {DAY_SWITCHING_TWILIGHT, "twilight"}};
+
 inline constexpr tagSelection Selections[] = {
     Selection({PARAM_SPRAYER_RATE_BASIS, "rates.basis",
                "what the sprayer's rates are related to; with travel, units.rate-per-travel decides",
@@ -173,6 +183,11 @@ inline constexpr tagSelection Selections[] = {
     Selection({PARAM_DECIMAL_POINT, "region.decimal-point", "decimal point or comma; a change needs a restart",
                "every number shown or typed"},
               DecimalPoints, DECIMAL_POINT_FULL_STOP),
+    Selection({PARAM_DAY_SWITCHING, "display.day-switching",
+               "when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 "
+               "degrees below the horizon",
+               "display.day"},
+              DaySwitchings, DAY_SWITCHING_SUNSET),
 };
 
 inline constexpr int AnyLeast = std::numeric_limits<int>::min();
@@ -257,6 +272,11 @@ inline constexpr tagText Texts[] = {
     {{PARAM_TERMINAL_IDENTITY, "terminal.identity", "the identity of the terminal, which its profiles carry",
       "whether a profile counts as one of this terminal"},
      "a UUID in small letters, such as 6ba7b810-9dad-41d1-80b4-00c04fd430c8"},
+};
+
+inline constexpr tagTime Times[] = {
+    {{PARAM_DAY_SWITCHED, "display.day-switched", "when the sun switched the colours last",
+      "whether display.day follows the sun at the next start"}},
 };
 
 inline constexpr tagItem Items[] = {

@@ -3,6 +3,7 @@
 #include "parameters/ItemNames.h"
 #include "parameters/ParameterRows.h"
 #include "parameters/ParameterText.h"
+#include "parameters/UtcText.h"
 
 #include <QColor>
 #include <QDateTime>
@@ -72,6 +73,13 @@ tagParameter Parameter(const tagText& row)
     return parameter;
 }
 
+tagParameter Parameter(const tagTime& row)
+{
+    tagParameter parameter = Begin(row.about, PARAMETER_STRING);
+    parameter.accepts = Utf8("a time in UTC, such as 2026-03-05T13:05:09Z");
+    return parameter;
+}
+
 tagParameter Parameter(const tagItem& row)
 {
     tagParameter parameter = Begin(row.about, PARAMETER_STRING);
@@ -108,6 +116,7 @@ QList<tagParameter> AllParameters()
     Append(&parameters, Numbers);
     Append(&parameters, Drives);
     Append(&parameters, Texts);
+    Append(&parameters, Times);
     Append(&parameters, Items);
     for (const tagColor& row : Colors) {
         parameters.append(ColorParameter(row.day, "day", row, row.firstByDay));
@@ -135,6 +144,8 @@ bool IsAccepted(const tagParameter& parameter, const QVariant& value)
         return QDir::isAbsolutePath(text);
     case PARAM_TERMINAL_IDENTITY:
         return !QUuid(text).isNull() && QUuid(text).toString(QUuid::WithoutBraces) == text;
+    case PARAM_DAY_SWITCHED:
+        return FromUtcText(text).isValid();
     default:
         const bool isNumber = parameter.type == PARAMETER_INT && parameter.choices.isEmpty();
         return !isNumber || (value.toInt() >= parameter.least && value.toInt() <= parameter.greatest);

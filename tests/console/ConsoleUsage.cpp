@@ -125,9 +125,9 @@ void ConsoleUsage::everyCommandHasHelp_data()
 {
     QTest::addColumn<QStringList>("command");
     for (const char* command :
-         {"run",        "simulate",  "get",       "set",     "reset",      "list",     "describe",  "colors",
-          "clock show", "clock set", "clock utc", "select",  "selections", "paths",    "storage",   "units",
-          "convert",    "show",      "dump",      "log add", "log tail",   "log list", "log export"})
+         {"run",        "simulate",  "get",       "set",     "reset",      "list",     "describe",   "colors",
+          "clock show", "clock set", "clock utc", "select",  "selections", "paths",    "storage",    "units",
+          "convert",    "show",      "dump",      "log add", "log tail",   "log list", "log export", "sun"})
         QTest::newRow(command) << QString::fromLatin1(command).split(QLatin1Char(' '));
     QTest::newRow("the program") << QStringList();
     QTest::newRow("clock") << QStringList{QLatin1String("clock")};

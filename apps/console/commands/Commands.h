@@ -13,6 +13,7 @@ int RunDescribe(const tagContext& context, const QStringList& arguments);
 int RunList(const tagContext& context, const QStringList& arguments);
 int RunMonitor(const tagContext& context, const QStringList& arguments);
 int RunColors(const tagContext& context, const QStringList& arguments);
+int RunSun(const tagContext& context, const QStringList& arguments);
 int RunClock(const tagContext& context, const QStringList& arguments);
 int RunSelect(const tagContext& context, const QStringList& arguments);
 int RunSelections(const tagContext& context, const QStringList& arguments);

@@ -14,6 +14,7 @@
 #include "nmea/TNmeaReceiver.h"
 #include "region/TRegionSettingsProxy.h"
 #include "stores/TPersistenceHold.h"
+#include "sun/TDaySwitch.h"
 
 #include <QCoreApplication>
 
@@ -49,13 +50,18 @@ void BeginClockAt(const QDateTime& utc, TParameterStore& store)
 
 /// Feeds the stream to the receiver until its end, or until a signal asks for it. Empty when the stream was read to its
 /// end, else what went wrong.
-QString Receive(const QString& source, const NmeaAddress& address, double speed, TNmeaReceiver& receiver)
+QString Receive(const QString& source, const NmeaAddress& address, double speed, TNmeaReceiver& receiver,
+                TDaySwitch& daySwitch)
 {
     QString problem;
     TRunProgress progress(receiver);
     TNmeaInput input(address, speed);
-    QObject::connect(&input, &TNmeaInput::LineReceived,
-                     [&receiver](const QByteArray& line) { receiver.Receive(line); });
+    QObject::connect(&input, &TNmeaInput::LineReceived, [&receiver, &daySwitch](const QByteArray& line) {
+        receiver.Receive(line);
+        const TNmeaReceiver::tagStatus& status = receiver.GetStatus();
+        if (status.hasFix)
+            daySwitch.Look({status.latitude, status.longitude}, status.utc);
+    });
     QObject::connect(&input, &TNmeaInput::Finished, [&problem](bool, const QString& error) {
         problem = error;
         QCoreApplication::quit();
@@ -101,7 +107,8 @@ int RunRun(const tagContext& context, const QStringList& arguments)
             "of the stream or at an interrupt, and prints a summary. If closing takes longer than five seconds, "
             "another interrupt stops the program at once. A server or a serial device that is missing is tried again. "
             "A "
-            "file is a recording: the clock begins at its first time, in the machine's time zone."),
+            "file is a recording: the clock begins at its first time, in the machine's time zone. The colours switch "
+            "between day and night as display.day-switching says; with a recording, only until its end."),
         QLatin1String("cabsettings run --nmea field.nmea\n"
                       "  cabsettings run --nmea - <field.nmea\n"
                       "  cabsettings run --nmea tcp://localhost:2947\n"
@@ -130,11 +137,13 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
-    const QDateTime begin = isNow ? QDateTime() : FirstRecordedTime(*address);
+    const bool isRecording = IsRecording(*address);
+    const QDateTime begin = isRecording && !isNow ? FirstRecordedTime(*address) : QDateTime();
     if (begin.isValid())
         BeginClockAt(begin, session.Store());
     TNmeaReceiver receiver;
-    const QString problem = Receive(source, *address, *speed, receiver);
+    TDaySwitch daySwitch(session.Store(), isRecording ? TDaySwitch::TIMES_OF_A_RECORDING : TDaySwitch::TIMES_OF_TODAY);
+    const QString problem = Receive(source, *address, *speed, receiver, daySwitch);
     if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
         return Fail(problem); // nothing to sum up
     PrintRunSummary(session.Store(), receiver.GetStatus(), line.WantsJson());

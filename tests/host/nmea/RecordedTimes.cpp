@@ -99,6 +99,7 @@ void RecordedTimes::onlyFilesAreRecordings()
     const auto address = ReadNmeaAddress(text, &error);
     QVERIFY2(address, qPrintable(error));
     QVERIFY(!FirstRecordedTime(*address).isValid());
+    QVERIFY(!IsRecording(*address));
 }
 
 void RecordedTimes::aFileOnStandardInputIsReadFromTheSamePlace()
@@ -110,6 +111,7 @@ void RecordedTimes::aFileOnStandardInputIsReadFromTheSamePlace()
     QCOMPARE(file.read(read.size()), read); // by whoever had it before
     const TStandardInput standardInput(file.handle());
     const NmeaAddress address = tagFileAddress{QLatin1String("-")};
+    QVERIFY(IsRecording(address));
     QCOMPARE(FirstRecordedTime(address).toSecsSinceEpoch(), Utc(12, 0, 0).toSecsSinceEpoch());
 
     TNmeaInput input(address);
