@@ -1,5 +1,6 @@
 #include "platform/DurableCopy.h"
 
+#include "platform/TDescriptor.h"
 #include "platform/TUnfinishedCopy.h"
 
 #include <fcntl.h>
@@ -9,34 +10,13 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <iterator>
 
 namespace {
 
 /// What file systems answer that cannot sync a folder, or do not let it be opened.
 constexpr int CannotSyncFolders[] = {EINVAL, ENOTSUP, ENOSYS, EBADF, EACCES, EPERM};
-
-/// A file descriptor that is closed at the end of its scope, with errno left as it was.
-class TDescriptor
-{
-public:
-    explicit TDescriptor(int fd) : m_Fd(fd) {}
-    ~TDescriptor()
-    {
-        const int error = errno;
-        if (m_Fd >= 0)
-            close(m_Fd);
-        errno = error;
-    }
-    TDescriptor(const TDescriptor&) = delete;
-    TDescriptor& operator=(const TDescriptor&) = delete;
-
-    int Get() const { return m_Fd; }
-    bool IsOpen() const { return m_Fd >= 0; }
-
-private:
-    const int m_Fd;
-};
 
 bool WriteAll(int fd, const char* data, ssize_t length)
 {
@@ -50,20 +30,6 @@ bool WriteAll(int fd, const char* data, ssize_t length)
         length -= written;
     }
     return true;
-}
-
-bool CopyContents(int from, int to)
-{
-    std::array<char, 0x10000> buffer;
-    for (;;) {
-        const ssize_t count = read(from, buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return count == 0;
-        if (!WriteAll(to, buffer.data(), count))
-            return false;
-    }
 }
 
 bool FillAndSync(const QByteArray& source, int to)
@@ -91,6 +57,22 @@ QByteArray FolderOf(const QByteArray& path)
 
 } // namespace
 
+bool CopyContents(int from, int to, const std::function<void(const char*, int)>& seen)
+{
+    std::array<char, 0x10000> buffer;
+    for (;;) {
+        const ssize_t count = read(from, buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return count == 0;
+        if (to >= 0 && !WriteAll(to, buffer.data(), count))
+            return false;
+        if (seen)
+            seen(buffer.data(), static_cast<int>(count));
+    }
+}
+
 bool CopyDurably(const QByteArray& source, const QByteArray& target, bool overwrite)
 {
     if (!overwrite && access(target.constData(), F_OK) == 0) {
@@ -101,6 +83,20 @@ bool CopyDurably(const QByteArray& source, const QByteArray& target, bool overwr
     TUnfinishedCopy copy(folder);
     return copy.Descriptor() >= 0 && FillAndSync(source, copy.Descriptor()) && copy.MoveTo(target, overwrite) &&
            SyncFolder(folder);
+}
+
+bool RenameWithoutReplacing(const QByteArray& source, const QByteArray& target)
+{
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    struct stat status = {};
+    if (lstat(target.constData(), &status) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return std::rename(source.constData(), target.constData()) == 0;
 }
 
 bool SyncFolder(const QByteArray& folder)

@@ -1,5 +1,7 @@
 #include "platform/TUnfinishedCopy.h"
 
+#include "platform/DurableCopy.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -36,7 +38,9 @@ void RemoveUnlessInUse(const QByteArray& path)
     close(file);
 }
 
-void RemoveLeftovers(const QByteArray& folder)
+} // namespace
+
+void RemoveUnfinishedCopies(const QByteArray& folder)
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.constData()), closedir);
     if (!entries)
@@ -49,26 +53,9 @@ void RemoveLeftovers(const QByteArray& folder)
     }
 }
 
-/// Renames a file unless @p target exists. FAT drivers of older kernels have no such operation; there, another program
-/// may make the target between the test and the renaming.
-bool RenameWithoutReplacing(const QByteArray& source, const QByteArray& target)
-{
-    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
-        return true;
-    if (errno != EINVAL && errno != ENOSYS)
-        return false;
-    if (access(target.constData(), F_OK) == 0) {
-        errno = EEXIST;
-        return false;
-    }
-    return rename(source.constData(), target.constData()) == 0;
-}
-
-} // namespace
-
 TUnfinishedCopy::TUnfinishedCopy(const QByteArray& folder) : m_Descriptor(-1)
 {
-    RemoveLeftovers(folder);
+    RemoveUnfinishedCopies(folder);
     for (int attempt = 0; attempt < Attempts && m_Descriptor < 0 && Make(folder); ++attempt)
         LockOrDrop();
 }

@@ -2,6 +2,9 @@
 
 #include <QByteArray>
 
+/// Removes the files in @p folder that unfinished copies of processes that died have left.
+void RemoveUnfinishedCopies(const QByteArray& folder);
+
 /// A hidden file that receives the content of a copy until the copy is complete.
 ///
 /// The file is locked while the object exists, and the system drops the lock when the process dies. So a hidden file
