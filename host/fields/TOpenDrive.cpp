@@ -1,0 +1,38 @@
+#include "fields/TOpenDrive.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+
+namespace {
+
+const QLatin1Char Separator('/');
+
+} // namespace
+
+TOpenDrive::TOpenDrive(const QString& root)
+    : m_Root(root), m_Folder(open(root.toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{}
+
+bool TOpenDrive::IsThere() const
+{
+    struct stat named = {};
+    struct stat opened = {};
+    return m_Folder.IsOpen() && fstat(m_Folder.Get(), &opened) == 0 && stat(m_Root.toUtf8().constData(), &named) == 0 &&
+           named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
+}
+
+QString TOpenDrive::Path(const QString& relative) const
+{
+    return QString::fromLatin1("/proc/self/fd/%1/").arg(m_Folder.Get()) + relative;
+}
+
+QString TOpenDrive::Readable(QString text) const { return text.replace(Path(QString()), m_Root + Separator); }
+
+qint64 TOpenDrive::Free() const
+{
+    struct statvfs info = {};
+    if (fstatvfs(m_Folder.Get(), &info) != 0)
+        return -1;
+    return static_cast<qint64>(info.f_bavail) * static_cast<qint64>(info.f_frsize);
+}
