@@ -1,0 +1,42 @@
+#pragma once
+
+#include "stores/TSqliteConnection.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+/// What imports have taken from other terminals: a table `imported` in the file of a store, with a row for each
+/// terminal and parameter. A later import from the same terminal can so tell what was changed here in the meantime.
+///
+/// Values are noted before an import changes the store, and settled after it. When the program is killed in between, it
+/// is not known whether the import took place: both the noted and the former value then count. A noted value without a
+/// former one does not count.
+///
+/// The file must be open as a TSqliteStore while the object exists. Used by the thread that has made it.
+class TImportedValues
+{
+public:
+    /// @param storeFile absolute.
+    /// @param patience how many milliseconds a write waits while another program has the file locked.
+    TImportedValues(const QString& storeFile, int patience);
+
+    /// The values, as texts, that imports have taken from @p terminal; for a parameter there are one or two. Writes
+    /// nothing. @return false with a reason when the file cannot be read.
+    bool Read(const QString& terminal, QMap<int, QStringList>* values, QString* reason);
+
+    /// Notes what an import is about to take. @return false with a reason when that is not on the disk.
+    bool Note(const QString& terminal, const QMap<int, QString>& values, QString* reason);
+
+    /// The import has taken place. @p values are those of Note().
+    bool Settle(const QString& terminal, const QMap<int, QString>& values, QString* reason);
+
+    /// The import has not taken place.
+    bool Forget(const QString& terminal, const QMap<int, QString>& values, QString* reason);
+
+private:
+    bool Write(const QString& statement, const QString& terminal, const QMap<int, QString>& values, QString* reason);
+    bool TakeReason(QString* reason);
+
+    TSqliteConnection m_Connection;
+};

@@ -1,0 +1,92 @@
+#include "SystemCalls.h"
+
+#include <atomic>
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <dlfcn.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace {
+
+std::atomic<int> calls{0};
+std::atomic<int> last{INT_MAX}; // the first call that is not made
+std::atomic<int> failure{0};    // its error; 0 to kill
+
+void Arm(int nth, int error)
+{
+    failure = error;
+    calls = 0;
+    last = nth;
+}
+
+/// Whether the call is made; if not, errno is set.
+bool IsMade()
+{
+    if (++calls < last)
+        return true;
+    if (failure == 0)
+        kill(getpid(), SIGKILL);
+    errno = failure;
+    return false;
+}
+
+template <class Function>
+Function* Original(const char* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+void SystemCalls::Count() { Arm(INT_MAX, 0); }
+int SystemCalls::Counted() { return calls; }
+void SystemCalls::Fail(int nth, int error) { Arm(nth, error); }
+void SystemCalls::Kill(int nth) { Arm(nth, 0); }
+
+// These take the place of the C library's functions. With 64-bit file offsets, pwrite and ftruncate get their names
+// from the headers.
+
+extern "C" __attribute__((visibility("default"))) ssize_t write(int file, const void* data, size_t size)
+{
+    static const auto original = Original<ssize_t(int, const void*, size_t)>("write");
+    return IsMade() ? original(file, data, size) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) ssize_t pwrite(int file, const void* data, size_t size, off_t offset)
+{
+    static const auto original = Original<ssize_t(int, const void*, size_t, off_t)>("pwrite64");
+    return IsMade() ? original(file, data, size, offset) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int ftruncate(int file, off_t size) noexcept
+{
+    static const auto original = Original<int(int, off_t)>("ftruncate64");
+    return IsMade() ? original(file, size) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int fsync(int file)
+{
+    static const auto original = Original<int(int)>("fsync");
+    return IsMade() ? original(file) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int fdatasync(int file)
+{
+    static const auto original = Original<int(int)>("fdatasync");
+    return IsMade() ? original(file) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int rename(const char* from, const char* to) noexcept
+{
+    static const auto original = Original<int(const char*, const char*)>("rename");
+    return IsMade() ? original(from, to) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int unlink(const char* path) noexcept
+{
+    static const auto original = Original<int(const char*)>("unlink");
+    return IsMade() ? original(path) : -1;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+/// The calls of this process that change files: write, pwrite, fsync, fdatasync, ftruncate, rename and
+/// unlink. One of them can be made to fail, or to be the last thing that the process does.
+namespace SystemCalls {
+
+/// Lets the calls through, and counts them from now on.
+void Count();
+
+/// The number of calls since Count(), Fail() or Kill().
+int Counted();
+
+/// Lets the @p nth call from now fail with @p error, and those after it as well.
+void Fail(int nth, int error);
+
+/// Kills the process at the @p nth call from now, before it is made.
+void Kill(int nth);
+
+} // namespace SystemCalls
