@@ -4,6 +4,7 @@
 #include "diagnostics/TLogKeeper.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
+#include "stores/StandardError.h"
 
 #include <QLocale>
 
@@ -12,6 +13,15 @@ namespace {
 QString IsoText(const QDateTime& time) { return QLocale::c().toString(time, QLatin1String("yyyy-MM-dd'T'HH:mm:ss")); }
 
 QString Period(const TLogKeeper::tagGap& gap) { return IsoText(gap.from) + QLatin1Char(' ') + IsoText(gap.to); }
+
+qint64 Finish(TLogKeeper& keeper, TDiagnosticLogProxy& log, const char* name)
+{
+    const TLogKeeper::tagEnd end = keeper.Finish(log);
+    if (end.untold.lines > 0)
+        SayOnStandardError(QString::fromLatin1("the %1 log has lost %2 lines, %3")
+                               .arg(QLatin1String(name), QString::number(end.untold.lines), Period(end.untold)));
+    return end.lostLines;
+}
 
 } // namespace
 
@@ -24,7 +34,7 @@ TLogKeeper& UserLogKeeper()
     return keeper;
 }
 
-/// The line begins with date and time, and so is none that a receiver sends.
+/// The line begins with a date, as no line of a receiver does.
 TLogKeeper& NmeaLogKeeper()
 {
     static TLogKeeper keeper([](TDiagnosticLogProxy& log, const TLogKeeper::tagGap& gap) {
@@ -41,10 +51,9 @@ qint64 WriteNmeaLine(const QByteArray& line)
         .lostLines;
 }
 
-void FinishLogs()
+tagLostLines FinishLogs()
 {
     TUserDiagnosticLogProxy userLog;
-    UserLogKeeper().Finish(userLog);
     TNEMADiagnosticLogProxy nmeaLog;
-    NmeaLogKeeper().Finish(nmeaLog);
+    return {Finish(UserLogKeeper(), userLog, "user"), Finish(NmeaLogKeeper(), nmeaLog, "NMEA")};
 }

@@ -15,8 +15,18 @@ TLogKeeper& NmeaLogKeeper();
 /// Settings must be set. May be called from any thread.
 CABHOST_EXPORT qint64 WriteNmeaLine(const QByteArray& line);
 
-/// To be called while Settings is still set, before it goes: says in both logs what they have lost. TTerminal does it.
+/// Lines that the two logs have lost.
+struct tagLostLines
+{
+    qint64 userLog;
+    qint64 nmeaLog;
+};
+
+/// Writes what both logs have staged, and says in them what they have lost. What cannot be said there is said on
+/// standard error. Call it before the logs are closed, while Settings is set; TTerminal::Stop() calls it.
 ///
-///     FinishLogs();
-///     Settings = nullptr;
-CABHOST_EXPORT void FinishLogs();
+///     const tagLostLines lost = FinishLogs();
+///     TNEMADiagnosticLogProxy().Close();
+///
+/// @return the lines found lost since the last entry of each log.
+CABHOST_EXPORT tagLostLines FinishLogs();

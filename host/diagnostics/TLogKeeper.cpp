@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -29,24 +30,31 @@ TLogKeeper::tagResult TLogKeeper::Write(TDiagnosticLogProxy& log, const std::fun
     if ((m_HasFailed || m_Gap.lines > 0) && m_Clock() >= m_NextTry)
         TryAgain(log);
     const bool isTaken = write();
-    const qint64 lost = Look(log);
-    return {isTaken || lost == 0, lost}; // a line that is in its file has false for a result where there is no next one
+    // A line that is in its file has false for a result where there is no next file.
+    const bool isWritten = Look(log) == 0 || isTaken;
+    return {isWritten, TakeFound()};
 }
 
-void TLogKeeper::Finish(TDiagnosticLogProxy& log)
+TLogKeeper::tagEnd TLogKeeper::Finish(TDiagnosticLogProxy& log)
 {
     const QMutexLocker lock(&m_Mutex);
     Look(log);
+    if (m_HasFailed)
+        log.Reopen();
+    log.FlushTempBuffer(); // staged lines that the disk does not take are lost now, not after the last word
+    Look(log);
     if (m_HasFailed || m_Gap.lines > 0)
         TryAgain(log);
+    const tagEnd end = {TakeFound(), m_Gap};
     m_IsKnown = false;
     m_LostLines = 0;
     m_Gap = {0, QDateTime(), QDateTime()};
     m_NextTry = 0;
     m_WaitMs = FirstWaitMs;
+    return end;
 }
 
-/// Takes note of the log's state; returns how many lines it has lost since the last time.
+/// Asks for the log's state; returns how many lines it has lost since the last time.
 qint64 TLogKeeper::Look(TDiagnosticLogProxy& log)
 {
     const TDiagnosticLog::tagState state = log.GetState();
@@ -61,8 +69,11 @@ qint64 TLogKeeper::Look(TDiagnosticLogProxy& log)
     if (m_Gap.lines == 0)
         m_Gap.from = m_Gap.to;
     m_Gap.lines += lost;
+    m_FoundLost += lost;
     return lost;
 }
+
+qint64 TLogKeeper::TakeFound() { return std::exchange(m_FoundLost, 0); }
 
 void TLogKeeper::TryAgain(TDiagnosticLogProxy& log)
 {
@@ -74,9 +85,12 @@ void TLogKeeper::TryAgain(TDiagnosticLogProxy& log)
         m_Gap.lines = 0;
         m_Say(log, gap);
         log.FlushTempBuffer();
-        const qint64 lost = Look(log);
-        if (lost > 0)
-            m_Gap = {gap.lines + lost - 1, gap.from, gap.to}; // less the line that was to tell of it
+        // One of the lines that are lost now is the one that tells of the gap. It does not count.
+        const qint64 lost = Look(log) - 1;
+        if (lost >= 0) {
+            m_Gap = {gap.lines + lost, gap.from, lost > 0 ? m_Gap.to : gap.to};
+            --m_FoundLost;
+        }
     }
     const bool isMended = m_IsOpen && m_Gap.lines == 0;
     if (isMended)

@@ -35,6 +35,13 @@ public:
         qint64 lostLines; ///< lines found lost since the last call, this one and staged ones among them
     };
 
+    /// The end of a log.
+    struct tagEnd
+    {
+        qint64 lostLines; ///< lines found lost since the last call of Write()
+        tagGap untold;    ///< what was lost and could not be said in the log; no lines when all was said
+    };
+
     /// Writes to the log what tells of the gap.
     using FSay = std::function<void(TDiagnosticLogProxy& log, const tagGap& gap)>;
 
@@ -54,21 +61,25 @@ public:
     /// and returns the result of the façade.
     tagResult Write(TDiagnosticLogProxy& log, const std::function<bool()>& write);
 
-    /// To be called before @p log is destroyed: opens it again and says what was lost, whatever was tried before, and
-    /// forgets it all.
-    void Finish(TDiagnosticLogProxy& log);
+    /// To be called before @p log is closed or destroyed: opens it again where it has failed, writes what is staged,
+    /// says in it what was lost, and forgets the log. Does not wait for the time of the next attempt.
+    tagEnd Finish(TDiagnosticLogProxy& log);
 
 private:
     qint64 Look(TDiagnosticLogProxy& log);
+    qint64 TakeFound();
     void TryAgain(TDiagnosticLogProxy& log);
 
     QMutex m_Mutex;
     FSay m_Say;
     FClock m_Clock;
     bool m_IsKnown = false;
-    bool m_IsOpen = false; ///< these three as the log told last
+    // The state of the log when it was last asked.
+    bool m_IsOpen = false;
     bool m_HasFailed = false;
     qint64 m_LostLines = 0;
+
+    qint64 m_FoundLost = 0; ///< not returned yet
     tagGap m_Gap = {0, QDateTime(), QDateTime()};
     qint64 m_NextTry = 0; ///< by m_Clock
     qint64 m_WaitMs = FirstWaitMs;

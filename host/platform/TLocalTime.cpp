@@ -100,10 +100,12 @@ int TLocalTime::SetDateTime(int year, int month, int day, int hour, int minute, 
     const qint64 machine = MachineTime();
     const qint64 lead = machine + OffsetInMilliseconds.load() - wanted;
     if (lead >= LargestLead || -lead >= LargestLag) {
-        const bool standsStill = lead > 0 && lead < LongestStandstill;
+        // Compared with what is shown, not with the offset: the clock may stand still already.
+        const qint64 shown = ShownTime();
+        const bool standsStill = shown > wanted && shown - wanted < LongestStandstill;
         Change(std::clamp(wanted - machine, Milliseconds(std::numeric_limits<int>::min()),
                           Milliseconds(std::numeric_limits<int>::max())),
-               standsStill ? ShownTime() : Smallest);
+               standsStill ? shown : Smallest);
     }
     return GetOffset();
 }

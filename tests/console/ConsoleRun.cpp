@@ -50,6 +50,7 @@ private slots:
     void nowTakesTheMachinesTime();
     void selectionsAreBackAfterARestart();
     void damagedLinesAreLoggedAsReceived();
+    void linesThatCannotBeLoggedAreSaid();
     void theSummaryCanBeHadAsJson();
     void standardInputIsReadToItsEnd();
     void aSecondRunGoesOnInTheSameFiles();
@@ -314,6 +315,19 @@ void ConsoleRun::damagedLinesAreLoggedAsReceived()
     QCOMPARE(Log(console, "NMEA*.csv"), stream);
     QVERIFY2(result.output.contains(QLatin1String("5 (1 bad checksums, 4 damaged, 0 not logged)")),
              qPrintable(result.output));
+}
+
+void ConsoleRun::linesThatCannotBeLoggedAreSaid()
+{
+    const TConsole console;
+    const QString log = console.DataFolder() + QLatin1String("/internal/Diagnostics/NMEA00001.csv");
+    QVERIFY(QDir().mkpath(log)); // a folder in the place of the log's file
+    WriteFile(console.Path("stream.nmea"), QByteArray("$GPTXT,hello*41\r\n").repeated(3));
+    const TConsole::tagResult result = RunOn(console, console.Path("stream.nmea"));
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.output.contains(QLatin1String(", 3 not logged)")), qPrintable(result.output));
+    QVERIFY2(result.errors.contains(QLatin1String("the NMEA log has lost 3 lines, 20")), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(QLatin1String("cabsettings: cannot log 3 lines")), qPrintable(result.errors));
 }
 
 void ConsoleRun::theSummaryCanBeHadAsJson()

@@ -8,6 +8,7 @@
 #include "console/line/QuitOnSignal.h"
 #include "console/terminal/Session.h"
 
+#include "diagnostics/KeptLogs.h"
 #include "nmea/NmeaAddress.h"
 #include "nmea/RecordedTime.h"
 #include "nmea/TNmeaInput.h"
@@ -146,10 +147,12 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     const QString problem = Receive(source, *address, *speed, receiver, daySwitch);
     if (!problem.isEmpty() && receiver.GetStatus().lines == 0)
         return Fail(problem); // nothing to sum up
-    PrintRunSummary(session.Store(), receiver.GetStatus(), line.WantsJson());
+    TNmeaReceiver::tagStatus status = receiver.GetStatus();
+    status.unloggedLines += FinishLogs().nmeaLog;
+    PrintRunSummary(session.Store(), status, line.WantsJson());
     if (!problem.isEmpty())
         return Fail(problem);
-    if (receiver.GetStatus().unloggedLines > 0)
-        return Fail(QString::fromLatin1("cannot log %1 lines").arg(receiver.GetStatus().unloggedLines));
+    if (status.unloggedLines > 0)
+        return Fail(QString::fromLatin1("cannot log %1 lines").arg(status.unloggedLines));
     return STATUS_DONE;
 }

@@ -21,8 +21,12 @@ private slots:
     void aFullDiskIsSaidWhenThereIsRoomAgain_data();
     void aFullDiskIsSaidWhenThereIsRoomAgain();
     void theLineThatTellsIsNotCounted();
+    void everyLostLineIsCountedOnce_data();
+    void everyLostLineIsCountedOnce();
     void aClosedLogStaysClosed();
     void theEndTriesOnceMore();
+    void theEndTellsOfStagedLines();
+    void theEndKnowsWhatItCouldNotSay();
     void theEndForgets();
 };
 
@@ -210,6 +214,40 @@ void LogKeeping::theLineThatTellsIsNotCounted()
     QCOMPARE(room.Content(1), QByteArray("<5 lost, 14:05:09 to 14:09:09>\nkept\n"));
 }
 
+void LogKeeping::everyLostLineIsCountedOnce_data()
+{
+    QTest::addColumn<int>("stagingSize");
+    QTest::newRow("no buffer") << 0;
+    QTest::newRow("buffer for three lines") << 16;
+    QTest::newRow("buffer for all lines") << 1000;
+}
+
+// What the keeper returns, what it says in the log, and what is missing there are the same lines.
+void LogKeeping::everyLostLineIsCountedOnce()
+{
+    QFETCH(int, stagingSize);
+    const TLogRoom room;
+    TTestClock::time = QTime(14, 5, 9);
+    TKeptLog kept(stagingSize, NoLimit);
+    QVERIFY(kept.log.Restore(room.Base(), 0, 0));
+    const int lines = 11;
+    qint64 found = 0;
+    {
+        const TFileSizeLimit limit(0);
+        for (int line = 0; line < lines; ++line) {
+            found += kept.Write("lost\n").lostLines;
+            kept.Pass(60000); // time to try to say it
+        }
+    }
+    const TLogKeeper::tagEnd end = kept.keeper.Finish(kept.proxy);
+    found += end.lostLines;
+    QCOMPARE(end.untold.lines, qint64(0));
+    const QByteArray content = room.Content(1);
+    QCOMPARE(found, qint64(lines - content.count("lost\n")));
+    if (found > 0)
+        QVERIFY2(content.contains("<" + QByteArray::number(found) + " lost, 14:0"), content.constData());
+}
+
 void LogKeeping::aClosedLogStaysClosed()
 {
     const TLogRoom room;
@@ -236,6 +274,36 @@ void LogKeeping::theEndTriesOnceMore()
     QVERIFY(Free(room, 1));
     kept.keeper.Finish(kept.proxy); // without the wait
     QCOMPARE(room.Content(1), QByteArray("<1 lost, 14:05:09 to 14:05:09>\n"));
+}
+
+void LogKeeping::theEndTellsOfStagedLines()
+{
+    const TLogRoom room;
+    TKeptLog kept(1000, NoLimit);
+    QVERIFY(kept.log.Restore(room.Base(), 0, 0));
+    QVERIFY(kept.IsWritten("staged\n"));
+    QVERIFY(kept.IsWritten("staged\n"));
+    const TFileSizeLimit limit(0);
+    const TLogKeeper::tagEnd end = kept.keeper.Finish(kept.proxy);
+    QCOMPARE(end.lostLines, qint64(2));
+    QCOMPARE(end.untold.lines, qint64(2));
+}
+
+void LogKeeping::theEndKnowsWhatItCouldNotSay()
+{
+    const TLogRoom room;
+    TTestClock::time = QTime(14, 5, 9);
+    TKeptLog kept(0, NoLimit);
+    Block(room, 1);
+    QVERIFY(!kept.log.Restore(room.Base(), 0, 0));
+    QCOMPARE(kept.Write("lost\n").lostLines, qint64(1));
+    kept.Pass(3000);
+    QCOMPARE(kept.Write("lost\n").lostLines, qint64(1));
+    const TLogKeeper::tagEnd end = kept.keeper.Finish(kept.proxy);
+    QCOMPARE(end.lostLines, qint64(0));
+    QCOMPARE(end.untold.lines, qint64(2));
+    QCOMPARE(end.untold.from.time(), QTime(14, 5, 9));
+    QCOMPARE(end.untold.to.time(), QTime(14, 5, 12));
 }
 
 void LogKeeping::theEndForgets()

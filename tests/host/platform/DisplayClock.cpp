@@ -56,6 +56,8 @@ private slots:
     void jitterNeverMovesIt();
     void jitterNeverTurnsItBack_data();
     void jitterNeverTurnsItBack();
+    void linesThatArriveTogetherDoNotTurnItBack_data();
+    void linesThatArriveTogetherDoNotTurnItBack();
     void jitterWritesNothingToTheStore();
     void anErrorOfASecondIsMended_data();
     void anErrorOfASecondIsMended();
@@ -250,6 +252,32 @@ void DisplayClock::jitterNeverTurnsItBack()
         }
     }
     QVERIFY2(offsets.size() <= 2, "the clock changes once at most");
+}
+
+void DisplayClock::linesThatArriveTogetherDoNotTurnItBack_data()
+{
+    QTest::addColumn<int>("late");
+    QTest::addColumn<int>("apart");
+    for (const int late : {1000, 1001, 1304, 1750, 1999})
+        for (const int apart : {0, 1, 30})
+            QTest::addRow("%d ms late, the next %d ms after it", late, apart) << late << apart;
+}
+
+// A link that stalls hands out two lines at once: the first is late by more than a second, the second is in time.
+void DisplayClock::linesThatArriveTogetherDoNotTurnItBack()
+{
+    QFETCH(int, late);
+    QFETCH(int, apart);
+    StoppedAt = Base;
+    Set(Utc(Base + 60000));
+    StoppedAt = Base + 9000 + late;
+    Set(Utc(Base + 69000));
+    const qint64 shown = Shown();
+    StoppedAt = StoppedAt + apart;
+    Set(Utc(Base + 70000));
+    QVERIFY2(Shown() >= shown, QByteArray::number(Shown() - shown).constData());
+    StoppedAt = StoppedAt + 5000;
+    QCOMPARE(Shown(), Base + 75000); // the second of the last line began when it came
 }
 
 void DisplayClock::jitterWritesNothingToTheStore()
