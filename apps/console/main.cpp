@@ -19,6 +19,8 @@ const std::vector<tagCommand> Commands = {
     {"list", "Lists the parameters.", RunList},
     {"describe", "Explains a parameter.", RunDescribe},
     {"monitor", "Prints changes of parameters as they happen.", RunMonitor},
+    {"export", "Writes the parameters to a file.", RunExport},
+    {"import", "Takes parameters from a file.", RunImport},
     {"colors", "Prints the colours by day and by night.", RunColors},
     {"sun", "Prints when the sun rises and sets.", RunSun},
     {"clock", "Prints the clock, and sets it.", RunClock},

@@ -51,6 +51,8 @@ void ConsoleCompletion::theNextWordIsOffered_data()
     row("log", "add tail list export", "units.area");
     row("log tail", "user nmea", "units.area");
     row("log add", "--component --type --code", "user");
+    row("export", "--groups --json", "units.area");
+    row("import", "--groups --dry-run --ours --theirs --edited --json", "units.area");
     row("run", "--nmea --speed", "get");
 }
 

@@ -105,6 +105,12 @@ void ConsoleUsage::messagesHaveOneForm_data()
                                 "(see cabsettings set --help)");
     row("set active.field a/b", "set: invalid value \"a/b\" for active.field: the name contains the separator \"/\"; "
                                 "did you mean \"a_b\"? (see cabsettings set --help)");
+    row("export p --groups units,color", "export: unknown group \"color\"; did you mean \"colors\"? "
+                                         "(see cabsettings export --help)");
+    row("import p --groups all", "import: unknown group \"all\"; expected units, region, colors, display, machine, "
+                                 "selections or device (see cabsettings import --help)");
+    row("import p --ours --theirs", "import: unexpected --theirs beside --ours; expected one of them "
+                                    "(see cabsettings import --help)");
     row("clock set 2026-02-30", "clock set: invalid date \"2026-02-30\"; expected YYYY-MM-DD, such as 2026-02-28 "
                                 "(see cabsettings clock set --help)");
 }
@@ -124,10 +130,10 @@ void ConsoleUsage::messagesHaveOneForm()
 void ConsoleUsage::everyCommandHasHelp_data()
 {
     QTest::addColumn<QStringList>("command");
-    for (const char* command :
-         {"run",        "simulate",  "get",       "set",     "reset",      "list",     "describe",   "colors",
-          "clock show", "clock set", "clock utc", "select",  "selections", "paths",    "storage",    "units",
-          "convert",    "show",      "dump",      "log add", "log tail",   "log list", "log export", "sun"})
+    for (const char* command : {"run",      "simulate",   "get",       "set",       "reset",  "list",       "describe",
+                                "colors",   "clock show", "clock set", "clock utc", "select", "selections", "paths",
+                                "storage",  "units",      "convert",   "show",      "dump",   "log add",    "log tail",
+                                "log list", "log export", "sun",       "export",    "import"})
         QTest::newRow(command) << QString::fromLatin1(command).split(QLatin1Char(' '));
     QTest::newRow("the program") << QStringList();
     QTest::newRow("clock") << QStringList{QLatin1String("clock")};

@@ -12,6 +12,8 @@ int RunReset(const tagContext& context, const QStringList& arguments);
 int RunDescribe(const tagContext& context, const QStringList& arguments);
 int RunList(const tagContext& context, const QStringList& arguments);
 int RunMonitor(const tagContext& context, const QStringList& arguments);
+int RunExport(const tagContext& context, const QStringList& arguments);
+int RunImport(const tagContext& context, const QStringList& arguments);
 int RunColors(const tagContext& context, const QStringList& arguments);
 int RunSun(const tagContext& context, const QStringList& arguments);
 int RunClock(const tagContext& context, const QStringList& arguments);

@@ -36,7 +36,7 @@ public:
     /// Makes the data folder when it is missing. False when something fails, after a message on standard error.
     bool Open(const tagContext& context, ESession extent);
 
-    TParameterStore& Store() { return *m_Store; }
+    TSqliteStore& Store() { return *m_Store; }
 
     /// Loads the operator's language: names of units and texts follow it from now on. In SESSION_UNITS they are English
     /// until then. Needs SESSION_UNITS.

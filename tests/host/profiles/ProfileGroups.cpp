@@ -58,6 +58,7 @@ void ProfileGroupsTest::parametersAreInTheirGroups_data()
     row("active.job", "selections");
     row("system.internal-drive", "device");
     row("system.external-drive", "device");
+    row("display.day-switched", "device");
     row("log.nmea-number", "device");
     row("clock.offset", "device");
     row("terminal.identity", "device");
