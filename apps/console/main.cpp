@@ -26,6 +26,7 @@ const std::vector<tagCommand> Commands = {
     {"clock", "Prints the clock, and sets it.", RunClock},
     {"select", "Selects a job, a vehicle, a field and so on.", RunSelect},
     {"selections", "Lists the selected items.", RunSelections},
+    {"fields", "Works on clients, farms, fields and jobs.", RunFields},
     {"paths", "Prints the paths of files and folders.", RunPaths},
     {"storage", "Prints the free space of the drives and the memory.", RunStorage},
     {"units", "Lists the units.", RunUnits},

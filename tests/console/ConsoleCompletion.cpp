@@ -53,6 +53,8 @@ void ConsoleCompletion::theNextWordIsOffered_data()
     row("log add", "--component --type --code", "user");
     row("export", "--groups --json", "units.area");
     row("import", "--groups --dry-run --ours --theirs --edited --json", "units.area");
+    row("fields", "list add rename remove copy", "--force");
+    row("fields remove", "--force --json", "units.area");
     row("run", "--nmea --speed", "get");
 }
 

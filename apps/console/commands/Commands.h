@@ -19,6 +19,7 @@ int RunSun(const tagContext& context, const QStringList& arguments);
 int RunClock(const tagContext& context, const QStringList& arguments);
 int RunSelect(const tagContext& context, const QStringList& arguments);
 int RunSelections(const tagContext& context, const QStringList& arguments);
+int RunFields(const tagContext& context, const QStringList& arguments);
 int RunPaths(const tagContext& context, const QStringList& arguments);
 int RunStorage(const tagContext& context, const QStringList& arguments);
 int RunUnits(const tagContext& context, const QStringList& arguments);

@@ -1,5 +1,6 @@
 #include "console/line/CommandLine.h"
 
+#include "console/line/Candidates.h"
 #include "console/line/Command.h"
 #include "console/line/Completion.h"
 #include "console/line/Manual.h"
@@ -40,6 +41,11 @@ void TCommandLine::AddOption(const QString& name, const QString& description, co
 void TCommandLine::AddJsonOption(const QString& description) { AddOption(QLatin1String(JsonOption), description); }
 
 bool TCommandLine::WantsJson() const { return IsSet(QLatin1String(JsonOption)); }
+
+void TCommandLine::Offer(const QString& placeholder, const std::function<QStringList()>& words)
+{
+    m_Offered.insert(placeholder, words);
+}
 
 bool TCommandLine::IsSet(const QString& option) const { return m_Given.contains(Dashed(option)); }
 
@@ -159,7 +165,9 @@ int TCommandLine::InvalidValue(const QString& option, const QString& expected) c
 
 void TCommandLine::PrintWordsToCome() const
 {
-    QStringList words = Completion::Words(m_Usage.arguments, Words());
+    const QString placeholder = Completion::Placeholder(m_Usage.arguments, Words());
+    const auto offered = m_Offered.value(placeholder);
+    QStringList words = offered ? offered() : Candidates(placeholder, Words());
     for (const tagOption& option : m_Usage.options)
         words.append(option.name);
     PrintLine(words.join(QLatin1Char('\n')));

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 /// The command line of one command: its options, its help, and what is wrong with what was typed.
@@ -38,6 +39,10 @@ public:
     /// @param description what is printed, for instance "Prints an object: kind, name."
     void AddJsonOption(const QString& description);
     bool WantsJson() const;
+
+    /// What the shell offers for @p placeholder, where that depends on the terminal. Called within Read(), when the
+    /// shell asks; the options that were typed are known then.
+    void Offer(const QString& placeholder, const std::function<QStringList()>& words);
 
     /// Reads the arguments, the command's name first. A status when there is nothing more to do: help was printed, or
     /// the line was wrong and a message told so.
@@ -76,5 +81,6 @@ private:
 
     tagUsage m_Usage;
     QHash<QString, QStringList> m_Given; ///< the values of the options that were given, by name with dashes
+    QHash<QString, std::function<QStringList()>> m_Offered; ///< by placeholder
     QStringList m_Words;
 };

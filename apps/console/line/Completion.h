@@ -9,7 +9,7 @@ namespace Completion {
 /// Whether the line asks for it.
 bool IsAsked(const QStringList& arguments);
 
-/// What may stand for the next word of a usage such as "PARAMETER VALUE", behind @p words.
-QStringList Words(const QString& usage, const QStringList& words);
+/// The placeholder of the next word in a usage such as "PARAMETER VALUE", behind @p words; empty when none follows.
+QString Placeholder(const QString& usage, const QStringList& words);
 
 } // namespace Completion
