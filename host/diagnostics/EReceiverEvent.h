@@ -10,4 +10,6 @@ enum EReceiverEvent : int
     RECEIVER_EVENT_TIME_SET = 4,      ///< text1: UTC; text2: local time; both in ISO form
     RECEIVER_EVENT_BAD_CHECKSUMS = 5, ///< text1: number of sentences with a wrong checksum
     RECEIVER_EVENT_FIX_UNSTABLE = 6,  ///< text1: number of losses without an entry; text2: "fix" or "no fix", the state
+    RECEIVER_EVENT_TIME_CORRECTED = 7, ///< text1: UTC as received; text2: UTC as used; both in ISO form
+    RECEIVER_EVENT_TIME_REFUSED = 8,   ///< text1: UTC as received, in ISO form; text2: the reason
 };

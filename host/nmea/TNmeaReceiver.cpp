@@ -5,15 +5,24 @@
 #include "diagnostics/UserLogEntries.h"
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TFixTracker.h"
+#include "nmea/TTimeGuard.h"
+#include "parameters/HostParameters.h"
+#include "parameters/UtcText.h"
+#include "platform/BuildDate.h"
+#include "platform/TConfigManager.h"
+#include "platform/TimeSource.h"
 #include "region/TRegionSettingsProxy.h"
 
 #include <QLocale>
+
+#include <utility>
 
 using Receiver = TNmeaReceiver;
 
 namespace {
 
 const int SecondsPerMinute = 60;
+const int SecondsPerDay = 24 * 60 * SecondsPerMinute;
 const int CoordinateDecimals = 7; // about a centimetre
 
 void AddEvent(EReceiverEvent event, const QString& text1 = QString(), const QString& text2 = QString())
@@ -26,9 +35,21 @@ QString DecimalDegrees(double value) { return QString::number(value, 'f', Coordi
 /// Without a time zone, which a local time of the display does not have.
 QString IsoText(const QDateTime& time) { return QLocale::c().toString(time, QLatin1String("yyyy-MM-dd'T'HH:mm:ss")); }
 
+/// A reason of its own beside those of ETimeRefusal.
+const int CorrectedReason = TIME_TOO_LATE + 1;
+
+/// What the user log says of a refused time, by ETimeRefusal.
+constexpr const char* RefusalTexts[] = {
+    "",
+    "far ahead of the newest time and not confirmed",
+    "behind the newest time",
+    "before the software was built",
+    "too long after the software was built",
+};
+
 } // namespace
 
-Receiver::TNmeaReceiver() : m_Tracker(std::make_unique<TFixTracker>(m_Status)) {}
+Receiver::TNmeaReceiver(ENmeaOrigin origin) : m_Tracker(std::make_unique<TFixTracker>(m_Status)), m_Origin(origin) {}
 Receiver::~TNmeaReceiver() = default;
 
 void Receiver::Receive(const QByteArray& line)
@@ -62,19 +83,64 @@ const Receiver::tagStatus& Receiver::GetStatus() const { return m_Status; }
 void Receiver::Take(const QByteArray& sentence)
 {
     const bool hadFix = m_Status.hasFix;
-    const qint64 last = m_Status.utc.isValid() ? m_Status.utc.toSecsSinceEpoch() : -1;
-    const QDateTime utc = m_Tracker->Take(sentence);
+    const QDateTime before = m_Status.utc;
+    const qint64 last = before.isValid() ? before.toSecsSinceEpoch() : -1;
+    const QDateTime received = m_Tracker->Take(sentence);
     if (m_Status.hasFix != hadFix)
         ReportFix();
+    if (!received.isValid())
+        return;
+    const QDateTime utc = m_Origin == NMEA_LIVE ? Trusted(received) : received;
+    m_Status.utc = utc.isValid() ? utc : before;
     if (!utc.isValid())
         return;
 
     const qint64 now = utc.toSecsSinceEpoch();
-    if (last / SecondsPerMinute != now / SecondsPerMinute)
+    if (last / SecondsPerMinute != now / SecondsPerMinute) {
         ReportCounts();
+        m_Reported = std::exchange(m_ReasonsOfMinute, 0U);
+    }
     m_LinesSinceTime = 0;
     if (last != now)
         SetClock(utc);
+}
+
+/// The time to use; invalid when there is none.
+QDateTime Receiver::Trusted(const QDateTime& utc)
+{
+    if (!m_Guard)
+        m_Guard = std::make_unique<TTimeGuard>(BuildDate(),
+                                               FromUtcText(ConfigManager->GetParameter(PARAM_NEWEST_TIME).toString()));
+    const tagTimeCheck check = m_Guard->Check(utc);
+    const auto refuse = [this](ETimeRefusal refusal, const QDateTime& time) {
+        ReportOnce(refusal, RECEIVER_EVENT_TIME_REFUSED, time, QLatin1String(RefusalTexts[refusal]));
+    };
+    if (check.dropped.isValid())
+        refuse(TIME_UNCONFIRMED, check.dropped);
+    if (check.refusal != TIME_NOT_REFUSED)
+        refuse(check.refusal, utc);
+    if (check.isCorrected)
+        ReportOnce(CorrectedReason, RECEIVER_EVENT_TIME_CORRECTED, utc, IsoText(check.utc) + QLatin1Char('Z'));
+    if (check.utc.isValid())
+        KeepNewestTime();
+    return check.utc;
+}
+
+void Receiver::ReportOnce(int reason, EReceiverEvent event, const QDateTime& utc, const QString& text)
+{
+    const unsigned bit = 1U << static_cast<unsigned>(reason);
+    if ((m_Reported & bit) == 0)
+        AddEvent(event, IsoText(utc) + QLatin1Char('Z'), text);
+    m_Reported |= bit;
+    m_ReasonsOfMinute |= bit;
+}
+
+/// Once a day, because each change wears the flash of the terminal.
+void Receiver::KeepNewestTime()
+{
+    const QDateTime kept = FromUtcText(ConfigManager->GetParameter(PARAM_NEWEST_TIME).toString());
+    if (!kept.isValid() || kept.secsTo(m_Guard->Newest()) >= SecondsPerDay)
+        ConfigManager->SetParameter(PARAM_NEWEST_TIME, UtcText(m_Guard->Newest()), true);
 }
 
 void Receiver::ReportFix()
@@ -103,6 +169,7 @@ void Receiver::SetClock(const QDateTime& utc)
     QDate date = utc.date();
     TRegionSettingsProxy region;
     region.SetUTCTimeAndDate(time, date, true);
+    KeepTimeSource(TIME_SOURCE_RECEIVER, utc);
     if (m_ReportsTime)
         AddEvent(RECEIVER_EVENT_TIME_SET, IsoText(utc) + QLatin1Char('Z'), IsoText(region.GetDateTime()));
     m_ReportsTime = false;

@@ -8,7 +8,16 @@
 #include <limits>
 #include <memory>
 
+enum EReceiverEvent : int;
 class TFixTracker;
+class TTimeGuard;
+
+/// Where the lines of a receiver come from.
+enum ENmeaOrigin : int
+{
+    NMEA_LIVE,     ///< from a receiver, now: its times are checked
+    NMEA_RECORDED, ///< from a recording, which lives in its own time
+};
 
 /// Takes the lines of a GPS receiver: writes them to the NMEA log, sets the clock, and reports events in the user log.
 ///
@@ -30,6 +39,12 @@ class TFixTracker;
 /// leap second 23:59:60 is ignored. The clock is set once for each second of UTC, by the first sentence with that
 /// second. It is set to whole seconds: the clock is late by the fraction of the receiver's time and by the delay of the
 /// line.
+///
+/// The times of a live receiver are checked first; see TTimeGuard. Its reference is PARAM_NEWEST_TIME, which is brought
+/// up to date once a day, and the date of the software. A refused time is not used. The user log gets it with the
+/// reason, once until a minute passes without that reason; so it gets the first time that was corrected. The times of a
+/// recording are not checked, and leave PARAM_NEWEST_TIME alone. PARAM_TIME_SOURCE tells that the receiver has set the
+/// clock.
 ///
 /// The user log gets the first fix with its position, each loss and each return of the fix, and the time that was set
 /// first and again after each return. A fix that comes and goes does not fill the log: of one minute, MostLosses losses
@@ -67,7 +82,7 @@ public:
     /// Number of losses of the fix, in a minute of the stream, that get an entry of their own in the user log.
     static constexpr int MostLosses = 3;
 
-    TNmeaReceiver();
+    explicit TNmeaReceiver(ENmeaOrigin origin = NMEA_LIVE);
     ~TNmeaReceiver();
 
     TNmeaReceiver(const TNmeaReceiver&) = delete;
@@ -83,12 +98,19 @@ public:
 
 private:
     void Take(const QByteArray& sentence);
+    QDateTime Trusted(const QDateTime& utc);
+    void ReportOnce(int reason, EReceiverEvent event, const QDateTime& utc, const QString& text);
+    void KeepNewestTime();
     void ReportFix();
     void SetClock(const QDateTime& utc);
     void ReportCounts();
 
     tagStatus m_Status;
     std::unique_ptr<TFixTracker> m_Tracker; ///< keeps fix, time and position in m_Status up to date
+    ENmeaOrigin m_Origin;
+    std::unique_ptr<TTimeGuard> m_Guard; ///< made with the first time of a live receiver
+    unsigned m_Reported = 0;             ///< bits of the reasons that are not reported again
+    unsigned m_ReasonsOfMinute = 0;
     bool m_HadFix = false;
     bool m_IsLossReported = false; ///< the last one
     bool m_ReportsTime = true;     ///< the next one that is set

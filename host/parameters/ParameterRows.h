@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parameters/ETimeSource.h"
 #include "parameters/HostParameters.h"
 #include "platform/EAreaUnit.h"
 #include "platform/EDecimalPoint.h"
@@ -157,6 +158,8 @@ inline constexpr tagChoice Languages[] = {
 
 inline constexpr tagChoice DaySwitchings[] = {
     {DAY_SWITCHING_BY_HAND, "by-hand"}, {DAY_SWITCHING_SUNSET, "sunset"}, {DAY_SWITCHING_TWILIGHT, "twilight"}};
+inline constexpr tagChoice TimeSources[] = {
+    {TIME_SOURCE_NONE, "none"}, {TIME_SOURCE_OPERATOR, "operator"}, {TIME_SOURCE_RECEIVER, "receiver"}};
 
 inline constexpr tagSelection Selections[] = {
     Selection({PARAM_SPRAYER_RATE_BASIS, "rates.basis",
@@ -188,6 +191,8 @@ inline constexpr tagSelection Selections[] = {
                "degrees below the horizon",
                "display.day"},
               DaySwitchings, DAY_SWITCHING_SUNSET),
+    Selection({PARAM_TIME_SOURCE, "clock.source", "what set the display's clock", "what the clock tells of itself"},
+              TimeSources, TIME_SOURCE_NONE),
 };
 
 inline constexpr int AnyLeast = std::numeric_limits<int>::min();
@@ -275,6 +280,10 @@ inline constexpr tagText Texts[] = {
 };
 
 inline constexpr tagTime Times[] = {
+    {{PARAM_TIME_SOURCE_SINCE, "clock.source-since", "since when clock.source has set the clock",
+      "what the clock tells of itself"}},
+    {{PARAM_NEWEST_TIME, "clock.newest-time", "the newest time of a receiver, as of the last day on which one was seen",
+      "which times of a receiver are refused"}},
     {{PARAM_DAY_SWITCHED, "display.day-switched", "when the sun switched the colours last",
       "whether display.day follows the sun at the next start"}},
 };

@@ -144,6 +144,8 @@ bool IsAccepted(const tagParameter& parameter, const QVariant& value)
         return QDir::isAbsolutePath(text);
     case PARAM_TERMINAL_IDENTITY:
         return !QUuid(text).isNull() && QUuid(text).toString(QUuid::WithoutBraces) == text;
+    case PARAM_TIME_SOURCE_SINCE:
+    case PARAM_NEWEST_TIME:
     case PARAM_DAY_SWITCHED:
         return FromUtcText(text).isValid();
     default:

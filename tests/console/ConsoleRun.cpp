@@ -48,6 +48,8 @@ private slots:
     void aRecordingWithoutATimeLeavesTheClock();
     void nowTakesTheMachinesTime_data();
     void nowTakesTheMachinesTime();
+    void timesOfALiveSourceAreChecked_data();
+    void timesOfALiveSourceAreChecked();
     void selectionsAreBackAfterARestart();
     void damagedLinesAreLoggedAsReceived();
     void linesThatCannotBeLoggedAreSaid();
@@ -273,6 +275,47 @@ void ConsoleRun::nowTakesTheMachinesTime()
     QCOMPARE(result.errors, QString());
     const QString offset = result.output.section(QLatin1String("(GPS, UTC"), 1).left(5);
     QVERIFY2(offset == QLatin1String("+03:0"), qPrintable(result.output));
+}
+
+void ConsoleRun::timesOfALiveSourceAreChecked_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("date");
+    QTest::addColumn<QString>("newest"); ///< afterwards
+    QTest::addColumn<QByteArray>("entry");
+    const QStringList pipe = {QLatin1String("-")};
+    const QStringList file = {QLatin1String("FILE")};
+    const QStringList fileNow = {QLatin1String("FILE"), QLatin1String("--now")};
+    const QByteArray refused = "Time refused,2024-05-01T12:00:00Z,before the software was built";
+    const QByteArray set = "Time set,2024-05-01T12:00:00Z";
+    const QString none;
+    QTest::newRow("a pipe") << pipe << QByteArray("010544") << "2044-05-01T12:00:00Z"
+                            << QByteArray("Time set,2044-05-01T12:00:00Z");
+    QTest::newRow("a pipe with an old time") << pipe << QByteArray("010524") << none << refused;
+    QTest::newRow("a recording") << file << QByteArray("010524") << none << set;
+    QTest::newRow("a recording, now") << fileNow << QByteArray("010524") << none << set;
+}
+
+void ConsoleRun::timesOfALiveSourceAreChecked()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, date);
+    QFETCH(QString, newest);
+    QFETCH(QByteArray, entry);
+    const TConsole console;
+    const QByteArray stream = Rmc("120000.00", 'A', date);
+    WriteFile(console.Path("stream.nmea"), stream);
+    arguments.replaceInStrings(QLatin1String("FILE"), console.Path("stream.nmea"));
+    const TConsole::tagResult result =
+        console.Run(QStringList{QLatin1String("run"), QLatin1String("--nmea")} + arguments, stream);
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    const QByteArray log = Log(console, "User*.csv");
+    QVERIFY2(log.contains(entry), log.constData());
+    QCOMPARE(console.Run({QLatin1String("get"), QLatin1String("clock.newest-time")}).output.trimmed(), newest);
+    const bool isSet = !entry.startsWith("Time refused");
+    QCOMPARE(console.Run({QLatin1String("get"), QLatin1String("clock.source")}).output,
+             QString::fromLatin1(isSet ? "receiver\n" : "none\n"));
 }
 
 void ConsoleRun::selectionsAreBackAfterARestart()

@@ -108,7 +108,7 @@ void ConsoleSun::theSchemeFollowsALiveReceiver_data()
     QTest::newRow("noon") << Utf8("sunset") << QByteArray("120000.00") << Utf8("true");
     QTest::newRow("between sunset and twilight") << Utf8("sunset") << QByteArray("172000.00") << Utf8("false");
     QTest::newRow("before the end of twilight") << Utf8("twilight") << QByteArray("172000.00") << Utf8("true");
-    QTest::newRow("after twilight") << Utf8("twilight") << QByteArray("174000.00") << Utf8("false");
+    QTest::newRow("after twilight") << Utf8("twilight") << QByteArray("175000.00") << Utf8("false");
     QTest::newRow("by hand") << Utf8("by-hand") << QByteArray("220000.00") << Utf8("true");
 }
 
@@ -119,7 +119,7 @@ void ConsoleSun::theSchemeFollowsALiveReceiver()
     QFETCH(QString, day);
     const TConsole console;
     Store(console, Utf8("display.day-switching=") + switching);
-    const TConsole::tagResult result = console.Run(Words("run --nmea -"), Rmc(time.constData(), "050327"));
+    const TConsole::tagResult result = console.Run(Words("run --nmea -"), Rmc(time.constData(), "050344"));
     QCOMPARE(result.errors, QString());
     QCOMPARE(Get(console, "display.day"), day);
 }
@@ -127,7 +127,7 @@ void ConsoleSun::theSchemeFollowsALiveReceiver()
 void ConsoleSun::aRecordingSwitchesOnlyWhileItRuns()
 {
     const TConsole console;
-    WriteFile(console.Path("field.nmea"), Rmc("220000.00", "050327"));
+    WriteFile(console.Path("field.nmea"), Rmc("220000.00", "050344"));
     const QJsonObject summary =
         Object(console.Run({Utf8("run"), Utf8("--nmea"), console.Path("field.nmea"), Utf8("--json")}));
     QCOMPARE(summary.value(Utf8("scheme")).toString(), Utf8("night"));
@@ -138,12 +138,12 @@ void ConsoleSun::aRecordingSwitchesOnlyWhileItRuns()
 void ConsoleSun::theOperatorsChoiceWinsUntilTheNextSwitch()
 {
     const TConsole console;
-    console.Run(Words("run --nmea -"), Rmc("200000.00", "050327"));
+    console.Run(Words("run --nmea -"), Rmc("200000.00", "050344"));
     QCOMPARE(Get(console, "display.day"), Utf8("false"));
     QCOMPARE(Run(console, "set display.day true").status, 0);
-    console.Run(Words("run --nmea -"), Rmc("220000.00", "050327"));
+    console.Run(Words("run --nmea -"), Rmc("220000.00", "050344"));
     QCOMPARE(Get(console, "display.day"), Utf8("true"));
-    console.Run(Words("run --nmea -"), Rmc("200000.00", "060327"));
+    console.Run(Words("run --nmea -"), Rmc("193000.00", "060344"));
     QCOMPARE(Get(console, "display.day"), Utf8("false"));
 }
 

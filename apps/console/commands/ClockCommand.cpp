@@ -7,6 +7,9 @@
 #include "console/terminal/Session.h"
 #include "console/terminal/UtcOffset.h"
 
+#include "parameters/HostParameters.h"
+#include "parameters/TParameterCatalogue.h"
+#include "platform/TimeSource.h"
 #include "region/TRegionSettingsProxy.h"
 #include "stores/TPersistenceHold.h"
 
@@ -28,54 +31,55 @@ const int SecondsPerHour = 60 * 60;
 /// from UTC.
 const qint64 GreatestDistance = std::numeric_limits<int>::max() - 24 * SecondsPerHour;
 
-/// The source of the time, as far as the parameters tell. No parameter marks a clock that was set by hand.
-struct tagSource
+/// What has set the offset from UTC.
+struct tagOffsetSource
 {
     const char* name;
     const char* words;
-    const char* offsetSetBy;
-    const char* offsetWords;
-    bool isOffsetInUse; ///< UTC is local time less the offset; else the machine's
+    bool isInUse; ///< UTC is local time less the offset; else the machine's
 };
 
-constexpr tagSource ByOperator = {"gps", "GPS", "operator", "chosen by the operator", true};
-constexpr tagSource ByGps = {"gps", "GPS", "gps", "clock less UTC when the first GPS time came", true};
-constexpr tagSource ByMachine = {"machine", "the machine's clock and time zone; not set", "nobody", "not set", false};
-constexpr tagSource ByHand = {"hand", "set by hand, or by GPS with no offset from UTC", "nobody", "not set", false};
+constexpr tagOffsetSource ByOperator = {"operator", "chosen by the operator", true};
+constexpr tagOffsetSource ByReceiver = {"receiver", "clock less UTC when the first GPS time came", true};
+constexpr tagOffsetSource ByNobody = {"nobody", "not set", false};
 
-/// Whether the machine's zone is that far from UTC in winter or in summer: the clock of a first start stays with the
-/// season in which it was.
-bool IsOfMachinesZone(int offset)
-{
-    const int year = QDate::currentDate().year();
-    const int january = 1;
-    const int july = 7;
-    for (const int month : {january, july}) {
-        if (QDateTime(QDate(year, month, 1), QTime(12, 0)).offsetFromUtc() == offset)
-            return true;
-    }
-    return false;
-}
-
-tagSource Source(TParameterStore& store)
+/// With a receiver, an offset of 0 is one too.
+tagOffsetSource OffsetSource(TParameterStore& store)
 {
     if (store.GetParameter(PARAM_UTC_OFFSET_SET_BY_USER).toBool())
         return ByOperator;
-    if (StoredUtcOffset(store).Seconds() != 0)
-        return ByGps;
-    return IsOfMachinesZone(store.GetParameter(PARAM_CLOCK_OFFSET).toInt()) ? ByMachine : ByHand;
+    const bool hasReceiver = store.GetParameter(PARAM_TIME_SOURCE).toInt() == TIME_SOURCE_RECEIVER;
+    return hasReceiver || StoredUtcOffset(store).Seconds() != 0 ? ByReceiver : ByNobody;
+}
+
+/// "receiver"
+QString SourceName(TParameterStore& store)
+{
+    return TParameterCatalogue::Text(*TParameterCatalogue::Find(PARAM_TIME_SOURCE),
+                                     store.GetParameter(PARAM_TIME_SOURCE));
+}
+
+/// "receiver, since 2026-03-05T13:05:09Z"
+QString SourceWords(TParameterStore& store)
+{
+    const QString since = store.GetParameter(PARAM_TIME_SOURCE_SINCE).toString();
+    if (store.GetParameter(PARAM_TIME_SOURCE).toInt() == TIME_SOURCE_NONE)
+        return QLatin1String("none: the machine's clock, which nothing has set");
+    return since.isEmpty() ? SourceName(store) : QString::fromLatin1("%1, since %2").arg(SourceName(store), since);
 }
 
 int RunShowClock(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("clock show"), QString(),
-                      QLatin1String("Prints the display's date and time, UTC, the offset between them, the source of "
-                                    "the time, and what set the offset, as far as the settings tell."),
-                      QLatin1String("cabsettings clock"));
+    TCommandLine line(
+        QLatin1String("clock show"), QString(),
+        QLatin1String("Prints the display's date and time, UTC, the offset between them and what set it, and "
+                      "where the time comes from, and since when, by the clock itself."),
+        QLatin1String("cabsettings clock"));
     line.AddJsonOption(
         QLatin1String("Prints an object: date and time as the display shows them, local, utc, utcFrom (offset "
-                      "or machine), source (machine, hand, gps), offsetHours, offsetMinutes, offsetSetBy "
-                      "(operator, gps, nobody), machineOffset (the clock less the machine's, in seconds)."));
+                      "or machine), source (none, operator, receiver), since (UTC; null without a source), "
+                      "offsetHours, offsetMinutes, offsetSetBy (operator, receiver, nobody), machineOffset (the clock "
+                      "less the machine's, in seconds)."));
     if (const auto status = line.Read(arguments, 0, 0))
         return *status;
 
@@ -85,9 +89,10 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
     TParameterStore& store = session.Store();
     const TRegionSettingsProxy region;
     const tagUtcOffset offset = StoredUtcOffset(store);
-    const tagSource source = Source(store);
+    const tagOffsetSource offsetSource = OffsetSource(store);
+    const QString since = store.GetParameter(PARAM_TIME_SOURCE_SINCE).toString();
     const QDateTime local = region.GetDateTime();
-    const QDateTime utc = source.isOffsetInUse ? local.addSecs(-offset.Seconds()) : QDateTime::currentDateTimeUtc();
+    const QDateTime utc = offsetSource.isInUse ? local.addSecs(-offset.Seconds()) : QDateTime::currentDateTimeUtc();
     const QString localText = QLocale::c().toString(local, QLatin1String("yyyy-MM-dd'T'HH:mm:ss"));
     const QString utcText = utc.toString(Qt::ISODate);
     if (line.WantsJson()) {
@@ -96,11 +101,12 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
             {QLatin1String("time"), region.GetTimeString()},
             {QLatin1String("local"), localText},
             {QLatin1String("utc"), utcText},
-            {QLatin1String("utcFrom"), QLatin1String(source.isOffsetInUse ? "offset" : "machine")},
-            {QLatin1String("source"), QLatin1String(source.name)},
+            {QLatin1String("utcFrom"), QLatin1String(offsetSource.isInUse ? "offset" : "machine")},
+            {QLatin1String("source"), SourceName(store)},
+            {QLatin1String("since"), since.isEmpty() ? QJsonValue() : QJsonValue(since)},
             {QLatin1String("offsetHours"), offset.hours},
             {QLatin1String("offsetMinutes"), offset.minutes},
-            {QLatin1String("offsetSetBy"), QLatin1String(source.offsetSetBy)},
+            {QLatin1String("offsetSetBy"), QLatin1String(offsetSource.name)},
             {QLatin1String("machineOffset"), store.GetParameter(PARAM_CLOCK_OFFSET).toInt()},
         };
         PrintJson(object);
@@ -110,9 +116,9 @@ int RunShowClock(const tagContext& context, const QStringList& arguments)
         {QLatin1String("local"), region.GetDateString() + QLatin1Char(' ') + region.GetTimeString()},
         {QLatin1String("UTC"),
          QString::fromLatin1("%1 (%2)").arg(
-             utcText, QLatin1String(source.isOffsetInUse ? "local less the offset" : "the machine's clock"))},
-        {QLatin1String("offset"), QString::fromLatin1("%1 (%2)").arg(offset.Text(), QLatin1String(source.offsetWords))},
-        {QLatin1String("source"), QLatin1String(source.words)},
+             utcText, QLatin1String(offsetSource.isInUse ? "local less the offset" : "the machine's clock"))},
+        {QLatin1String("offset"), QString::fromLatin1("%1 (%2)").arg(offset.Text(), QLatin1String(offsetSource.words))},
+        {QLatin1String("source"), SourceWords(store)},
     });
     return STATUS_DONE;
 }
@@ -156,8 +162,15 @@ bool IsInReach(const QDateTime& wanted, const TCommandLine& line)
     return false;
 }
 
+/// The clock's time in UTC, as far as the offset is known.
+QDateTime ClockUtc(TParameterStore& store)
+{
+    return TRegionSettingsProxy().GetDateTime().addSecs(-StoredUtcOffset(store).Seconds());
+}
+
 /// Sets the clock of a terminal on the data folder.
-int SetClock(const tagContext& context, const std::function<void(TRegionSettingsProxy& region)>& set)
+int SetClock(const tagContext& context, ETimeSource source,
+             const std::function<void(TRegionSettingsProxy& region)>& set)
 {
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
@@ -166,6 +179,7 @@ int SetClock(const tagContext& context, const std::function<void(TRegionSettings
     TPersistenceHold hold(session.Store());
     TRegionSettingsProxy region;
     set(region);
+    KeepTimeSource(source, ClockUtc(session.Store()));
     return hold.Release() ? STATUS_DONE : Fail(QLatin1String("cannot store the clock"));
 }
 
@@ -192,7 +206,7 @@ int RunSetByHand(const tagContext& context, const QStringList& arguments)
     if (hasTime && !time.isValid())
         return STATUS_MISUSED;
 
-    return SetClock(context, [&](TRegionSettingsProxy& region) {
+    return SetClock(context, TIME_SOURCE_OPERATOR, [&](TRegionSettingsProxy& region) {
         if (hasDate && hasTime)
             region.SetUserDateTime(date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second());
         else if (hasDate)
@@ -204,11 +218,13 @@ int RunSetByHand(const tagContext& context, const QStringList& arguments)
 
 int RunSetUtc(const tagContext& context, const QStringList& arguments)
 {
-    TCommandLine line(QLatin1String("clock utc"), QLatin1String("DATETIME"),
-                      QLatin1String("Sets the display's clock from UTC, as a GPS receiver does. DATETIME is "
-                                    "YYYY-MM-DDTHH:MM:SSZ. Unless the operator has chosen an offset, the offset "
-                                    "becomes the clock less UTC. A terminal that is running keeps its own clock."),
-                      QLatin1String("cabsettings clock utc 2026-03-05T13:05:09Z"));
+    TCommandLine line(
+        QLatin1String("clock utc"), QLatin1String("DATETIME"),
+        QLatin1String("Sets the display's clock from UTC, as a GPS receiver does. DATETIME is "
+                      "YYYY-MM-DDTHH:MM:SSZ. Unless the operator has chosen an offset, the offset "
+                      "becomes the clock less UTC. The time counts as a receiver's, and is not checked. A terminal "
+                      "that is running keeps its own clock."),
+        QLatin1String("cabsettings clock utc 2026-03-05T13:05:09Z"));
     if (const auto status = line.Read(arguments, 1, 1))
         return *status;
     const QString text = line.Words().first();
@@ -221,7 +237,8 @@ int RunSetUtc(const tagContext& context, const QStringList& arguments)
     QTime time = ReadTime(parts.last(), line);
     if (!time.isValid() || !IsInReach(QDateTime(date, time, Qt::UTC), line))
         return STATUS_MISUSED;
-    return SetClock(context, [&](TRegionSettingsProxy& region) { region.SetUTCTimeAndDate(time, date, true); });
+    return SetClock(context, TIME_SOURCE_RECEIVER,
+                    [&](TRegionSettingsProxy& region) { region.SetUTCTimeAndDate(time, date, true); });
 }
 
 const std::vector<tagCommand> Commands = {

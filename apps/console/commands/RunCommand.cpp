@@ -142,7 +142,7 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     const QDateTime begin = isRecording && !isNow ? FirstRecordedTime(*address) : QDateTime();
     if (begin.isValid())
         BeginClockAt(begin, session.Store());
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(isRecording ? NMEA_RECORDED : NMEA_LIVE);
     TDaySwitch daySwitch(session.Store(), isRecording ? TDaySwitch::TIMES_OF_A_RECORDING : TDaySwitch::TIMES_OF_TODAY);
     const QString problem = Receive(source, *address, *speed, receiver, daySwitch);
     if (!problem.isEmpty() && receiver.GetStatus().lines == 0)

@@ -136,7 +136,7 @@ void GpsdSentences::theySetTheClock()
     const TTestReceiver receiver(QLatin1String("one-talker.nmea")); // from 06:00:00 to 06:00:09 on 1 May 2024
     const quint16 port = FreePort();
     TGpsd gpsd(receiver.Device(), port);
-    TNmeaReceiver lines;
+    TNmeaReceiver lines(NMEA_RECORDED);
     TNmeaInput input(AddressOf(port));
     connect(&input, &TNmeaInput::LineReceived, this, [&](const QByteArray& line) { lines.Receive(line); });
     input.Start();

@@ -44,7 +44,7 @@ QStringList Exchange()
     const TTemporaryFolder folder;
     TUserDiagnosticLogProxy().Restore(folder.Path(Latin1("user.log")), 1, 0);
 
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     const QByteArray sent = WriteSentences("GN", {Moment, 52.2, 10.5, 80, 0, 0});
     const QList<QByteArray> lines = sent.split('\n');
     for (const QByteArray& line : lines)

@@ -3,6 +3,11 @@
 #include "diagnostics/EReceiverEvent.h"
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TNmeaReceiver.h"
+#include "nmea/TTimeGuard.h"
+#include "parameters/ETimeSource.h"
+#include "parameters/HostParameters.h"
+#include "parameters/UtcText.h"
+#include "platform/BuildDate.h"
 #include "region/TRegionSettingsProxy.h"
 
 #include <QtTest>
@@ -17,6 +22,12 @@ QByteArray Rmc(const char* time, char status = 'A', const char* date = "010524")
 {
     return Line(QByteArray("GPRMC,") + time + ',' + status + ",5212.0000000,N,01030.0000000,E,10.000,90.00," + date +
                 ",,,A");
+}
+
+QByteArray RmcAt(const QDateTime& utc)
+{
+    return Rmc(QLocale::c().toString(utc, QLatin1String("HHmmss.zzz")).toLatin1().constData(), 'A',
+               QLocale::c().toString(utc, QLatin1String("ddMMyy")).toLatin1().constData());
 }
 
 QByteArray Gga(const char* time, char quality)
@@ -58,10 +69,31 @@ private slots:
     void badChecksumsAreReportedByTheMinute_data();
     void badChecksumsAreReportedByTheMinute();
 
+    void timesOfALiveReceiverAreChecked_data();
+    void timesOfALiveReceiverAreChecked();
+    void aReasonIsToldOnceUntilItIsOver();
+    void theNewestTimeIsKeptOnceADay();
+    void theSourceOfTheTimeIsKept();
+
     void theStatusShowsTheLastValues();
     void valuesWithoutAFixAreNotTaken();
 
 private:
+    /// What the display has seen, in the tests of live receivers.
+    static QDateTime Newest() { return QDateTime(BuildDate().addDays(400), QTime(11, 7, 0), Qt::UTC); }
+
+    /// The entries about the check of times, from the code on.
+    QStringList ChecksOfTime() const
+    {
+        QStringList checks;
+        for (const QString& entry : m_Display->Entries()) {
+            const QString check = entry.section(QLatin1Char('/'), 2);
+            if (check.startsWith(QLatin1String("7,")) || check.startsWith(QLatin1String("8,")))
+                checks.append(check);
+        }
+        return checks;
+    }
+
     std::unique_ptr<TReceivingDisplay> m_Display;
 };
 
@@ -76,7 +108,7 @@ void NmeaReceiver::everyLineIsLoggedAsReceived()
                           Gga("110711.00", '1').replace("\r\n", "\n"),
                           "$GPTXT,no checksum\r\n",
                           "$GPRMC,1107"};
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     for (const QByteArray& line : lines)
         receiver.Receive(line);
     QCOMPARE(receiver.GetStatus().unloggedLines, qint64(0));
@@ -85,7 +117,7 @@ void NmeaReceiver::everyLineIsLoggedAsReceived()
 
 void NmeaReceiver::aClosedLogIsCounted()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     receiver.Receive(Rmc("110709.00"));
     TNEMADiagnosticLogProxy().Close();
     receiver.Receive(Rmc("110710.00"));
@@ -95,7 +127,7 @@ void NmeaReceiver::aClosedLogIsCounted()
 
 void NmeaReceiver::linesAreCountedByTheirWorth()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     const TLines lines = {
         Rmc("110709.00"),  Line("PXYZ,1"), Line("GPGSV,1,1,00"), Damaged(Zda("110709.00")), "$GPTXT\r\n",
         "no sentence\r\n", "\r\n"};
@@ -158,7 +190,7 @@ void NmeaReceiver::onlyValidTimesReachTheClock()
     QFETCH(TLines, lines);
     QFETCH(QDateTime, utc);
     const QDateTime before = TReceivingDisplay::Clock();
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     for (const QByteArray& line : lines)
         receiver.Receive(line);
 
@@ -171,7 +203,7 @@ void NmeaReceiver::onlyValidTimesReachTheClock()
 
 void NmeaReceiver::theClockIsSetOnceASecond()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     for (const char* time : {"110709.00", "110709.20", "110709.95", "110710.15", "110710.35"}) {
         receiver.Receive(Rmc(time));
         receiver.Receive(Zda(time));
@@ -185,7 +217,7 @@ void NmeaReceiver::theClockGoesByTheOperatorsOffset()
 {
     m_Display->store.values[PARAM_UTC_OFFSET_SET_BY_USER] =
         false; // the clock stands at 14:05: three hours ahead of the receiver
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     receiver.Receive(Rmc("110509.00"));
     QCOMPARE(m_Display->store.values[PARAM_UTC_OFFSET_HOURS], QVariant(3));
     QCOMPARE(m_Display->store.values[PARAM_UTC_OFFSET_MINUTES], QVariant(0));
@@ -280,7 +312,7 @@ void NmeaReceiver::aFixThatComesAndGoesDoesNotFillTheLog_data()
 void NmeaReceiver::aFixThatComesAndGoesDoesNotFillTheLog()
 {
     QFETCH(TLines, lines);
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     for (const QByteArray& line : lines)
         receiver.Receive(line);
     receiver.Finish();
@@ -316,7 +348,7 @@ void NmeaReceiver::aFixThatComesAndGoesDoesNotFillTheLog()
 void NmeaReceiver::eventsReachTheUserLog()
 {
     QFETCH(TLines, lines);
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     for (const QByteArray& line : lines)
         receiver.Receive(line);
     receiver.Finish();
@@ -325,7 +357,7 @@ void NmeaReceiver::eventsReachTheUserLog()
 
 void NmeaReceiver::entriesCarryTheClockAsItStands()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     receiver.Receive(Rmc("110709.00"));
     receiver.Receive(Rmc("110710.00", 'V'));
     QCOMPARE(m_Display->UserLog(),
@@ -377,7 +409,7 @@ void NmeaReceiver::badChecksumsAreReportedByTheMinute_data()
 void NmeaReceiver::badChecksumsAreReportedByTheMinute()
 {
     QFETCH(TLines, lines);
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     const auto counts = [this] {
         QStringList texts;
         for (const QString& entry : m_Display->Entries().filter(QLatin1String("1/1/5")))
@@ -394,9 +426,127 @@ void NmeaReceiver::badChecksumsAreReportedByTheMinute()
     QTEST(told, "counts");
 }
 
+void NmeaReceiver::timesOfALiveReceiverAreChecked_data()
+{
+    QTest::addColumn<int>("origin");
+    QTest::addColumn<QDateTime>("received");
+    QTest::addColumn<QDateTime>("used"); ///< invalid: the clock is left alone
+    QTest::addColumn<QString>("newest"); ///< afterwards
+    QTest::addColumn<QStringList>("entries");
+    const QDateTime kept = Newest();
+    const QDateTime hour = kept.addSecs(3600);
+    const QDateTime day = kept.addDays(1);
+    const QDateTime rolledOver = hour.addDays(-TTimeGuard::RolloverDays);
+    const QDateTime back = kept.addDays(-2);
+    const QDateTime old(QDate(2024, 5, 1), QTime(11, 7, 9), Qt::UTC);
+    const auto row = [&](const char* name, ENmeaOrigin origin, const QDateTime& received, const QDateTime& used,
+                         const QDateTime& newest, const QStringList& entries) {
+        QTest::newRow(name) << int{origin} << received << used << UtcText(newest) << entries;
+    };
+    const auto corrected = [](const QDateTime& received, const QDateTime& used) {
+        return QString::fromLatin1("7,%1,%2").arg(UtcText(received), UtcText(used));
+    };
+    const auto refused = [](const QDateTime& received, const char* reason) {
+        return QString::fromLatin1("8,%1,%2").arg(UtcText(received), QLatin1String(reason));
+    };
+
+    row("an hour later", NMEA_LIVE, hour, hour, kept, {});
+    row("a day later", NMEA_LIVE, day, day, day, {});
+    row("a rollover back", NMEA_LIVE, rolledOver, hour, kept, {corrected(rolledOver, hour)});
+    row("two days back", NMEA_LIVE, back, QDateTime(), kept, {refused(back, "behind the newest time")});
+    row("before the build", NMEA_LIVE, old, QDateTime(), kept, {refused(old, "before the software was built")});
+    row("a recording, two days back", NMEA_RECORDED, back, back, kept, {});
+    row("a recording, before the build", NMEA_RECORDED, old, old, kept, {});
+    row("a recording, years ahead", NMEA_RECORDED, kept.addYears(3), kept.addYears(3), kept, {});
+}
+
+void NmeaReceiver::timesOfALiveReceiverAreChecked()
+{
+    QFETCH(int, origin);
+    QFETCH(QDateTime, received);
+    QFETCH(QDateTime, used);
+    QFETCH(QString, newest);
+    QFETCH(QStringList, entries);
+    m_Display->store.values[PARAM_NEWEST_TIME] = UtcText(Newest());
+    const QDateTime before = TReceivingDisplay::Clock();
+    TNmeaReceiver receiver(static_cast<ENmeaOrigin>(origin));
+    receiver.Receive(RmcAt(received));
+    receiver.Receive(RmcAt(received.addMSecs(200)));
+    QCOMPARE(TReceivingDisplay::Clock(), used.isValid() ? TReceivingDisplay::LocalTime(used) : before);
+    QCOMPARE(receiver.GetStatus().utc, used.isValid() ? used.addMSecs(200) : QDateTime());
+    QCOMPARE(receiver.GetStatus().hasFix, true);
+    QCOMPARE(m_Display->store.values[PARAM_NEWEST_TIME].toString(), newest);
+    QCOMPARE(ChecksOfTime(), entries);
+}
+
+void NmeaReceiver::aReasonIsToldOnceUntilItIsOver()
+{
+    const QDateTime newest = Newest();
+    m_Display->store.values[PARAM_NEWEST_TIME] = UtcText(newest);
+    TNmeaReceiver receiver(NMEA_LIVE);
+    const auto receive = [&receiver](const QDateTime& begin) {
+        for (int second = 0; second < 180; ++second)
+            receiver.Receive(RmcAt(begin.addSecs(second)));
+    };
+    receive(newest.addDays(-10));
+    QCOMPARE(static_cast<int>(ChecksOfTime().size()), 1);
+    receive(newest.addDays(-20));
+    QCOMPARE(static_cast<int>(ChecksOfTime().size()), 1);
+    receive(newest.addYears(-2)); // another reason
+    QCOMPARE(static_cast<int>(ChecksOfTime().size()), 2);
+    receive(newest); // right for three minutes
+    receive(newest.addDays(-10));
+    QCOMPARE(static_cast<int>(ChecksOfTime().size()), 3);
+
+    // A receiver that is right and wrong in turn does not fill the log.
+    for (int second = 180; second < 600; ++second) {
+        receiver.Receive(RmcAt(newest.addSecs(second)));
+        receiver.Receive(RmcAt(newest.addDays(-10).addSecs(second)));
+    }
+    QCOMPARE(static_cast<int>(ChecksOfTime().size()), 3);
+
+    // A single time far ahead is told when the right one shows that it was wrong.
+    receiver.Receive(RmcAt(newest.addDays(100)));
+    QCOMPARE(static_cast<int>(ChecksOfTime().size()), 3);
+    receiver.Receive(RmcAt(newest.addSecs(600)));
+    QCOMPARE(ChecksOfTime().mid(3),
+             QStringList{QString::fromLatin1("8,%1,far ahead of the newest time and not confirmed")
+                             .arg(UtcText(newest.addDays(100)))});
+}
+
+void NmeaReceiver::theNewestTimeIsKeptOnceADay()
+{
+    const QDateTime newest = Newest();
+    TNmeaReceiver receiver(NMEA_LIVE);
+    const int hours = 100;
+    for (int hour = 0; hour < hours; ++hour)
+        receiver.Receive(RmcAt(newest.addSecs(hour * 3600)));
+    const auto isNewest = [](const QPair<int, QVariant>& write) { return write.first == PARAM_NEWEST_TIME; };
+    QCOMPARE(std::count_if(m_Display->store.writes.cbegin(), m_Display->store.writes.cend(), isNewest),
+             static_cast<std::ptrdiff_t>(1 + hours / 24));
+    QCOMPARE(m_Display->store.values[PARAM_NEWEST_TIME].toString(), UtcText(newest.addDays(4)));
+}
+
+void NmeaReceiver::theSourceOfTheTimeIsKept()
+{
+    m_Display->store.values[PARAM_TIME_SOURCE] = int{TIME_SOURCE_OPERATOR};
+    TNmeaReceiver receiver(NMEA_RECORDED);
+    receiver.Receive(Rmc("110708.00", 'V'));
+    QCOMPARE(m_Display->store.values[PARAM_TIME_SOURCE].toInt(), int{TIME_SOURCE_OPERATOR});
+    for (const char* time : {"110709.00", "110710.00", "110711.00"})
+        receiver.Receive(Rmc(time));
+    QCOMPARE(m_Display->store.values[PARAM_TIME_SOURCE].toInt(), int{TIME_SOURCE_RECEIVER});
+    QCOMPARE(m_Display->store.values[PARAM_TIME_SOURCE_SINCE].toString(), QString::fromLatin1("2024-05-01T11:07:09Z"));
+    const auto isSource = [](const QPair<int, QVariant>& write) {
+        return write.first == PARAM_TIME_SOURCE || write.first == PARAM_TIME_SOURCE_SINCE;
+    };
+    QCOMPARE(std::count_if(m_Display->store.writes.cbegin(), m_Display->store.writes.cend(), isSource),
+             static_cast<std::ptrdiff_t>(2));
+}
+
 void NmeaReceiver::theStatusShowsTheLastValues()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     const TNmeaReceiver::tagStatus& status = receiver.GetStatus();
     QVERIFY(!status.hasFix);
     QVERIFY(std::isnan(status.latitude) && std::isnan(status.longitude) && std::isnan(status.altitude));
@@ -427,7 +577,7 @@ void NmeaReceiver::theStatusShowsTheLastValues()
 
 void NmeaReceiver::valuesWithoutAFixAreNotTaken()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     const TNmeaReceiver::tagStatus& status = receiver.GetStatus();
     receiver.Receive(Rmc("110709.00", 'V'));
     receiver.Receive(Gga("110709.00", '1'));

@@ -81,7 +81,7 @@ void NmeaRecordings::theirLinesAreCounted_data()
 
 void NmeaRecordings::theirLinesAreCounted()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     Receive(receiver, Recordings::Contents(Recordings::Own(QLatin1String(QTest::currentDataTag()))));
     const TNmeaReceiver::tagStatus& status = receiver.GetStatus();
     QTEST(static_cast<int>(status.sentences), "sentences");
@@ -126,7 +126,7 @@ void NmeaRecordings::theirEventsReachTheUserLog_data()
 
 void NmeaRecordings::theirEventsReachTheUserLog()
 {
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     Receive(receiver, Recordings::Contents(Recordings::Own(QLatin1String(QTest::currentDataTag()))));
     QTEST(m_Display->Entries(), "entries");
 }
@@ -148,7 +148,7 @@ void NmeaRecordings::theySetTheClockAndAreLoggedWhole()
         last = TimeOf(line).value_or(last);
     QVERIFY(last.isValid());
 
-    TNmeaReceiver receiver;
+    TNmeaReceiver receiver(NMEA_RECORDED);
     Receive(receiver, stream);
     const TNmeaReceiver::tagStatus& status = receiver.GetStatus();
     QCOMPARE(TReceivingDisplay::Clock(), TReceivingDisplay::LocalTime(last));

@@ -208,7 +208,8 @@ void ParameterCatalogue::acceptedTextsAreRead_data()
     row(PARAM_EXTERNAL_DRIVE, "/media/usb", Utf8("/media/usb"));
     row(PARAM_TERMINAL_IDENTITY, "6ba7b810-9dad-41d1-80b4-00c04fd430c8", Utf8("6ba7b810-9dad-41d1-80b4-00c04fd430c8"));
     row(PARAM_DAY_SWITCHING, "twilight", 2);
-    row(PARAM_DAY_SWITCHED, "2026-03-05T13:05:09Z", Utf8("2026-03-05T13:05:09Z"));
+    row(PARAM_TIME_SOURCE, "Receiver", 2);
+    row(PARAM_NEWEST_TIME, "2026-03-05T13:05:09Z", Utf8("2026-03-05T13:05:09Z"));
     row(PARAM_MAP_COLOR_NIGHT, "#102030", QColor(0x10, 0x20, 0x30));
     row(PARAM_MAP_COLOR_NIGHT, "navy", QColor(0, 0, 128));
     row(PARAM_MAP_COLOR_NIGHT, "#80102030", QColor(0x10, 0x20, 0x30, 0x80));
@@ -264,7 +265,7 @@ void ParameterCatalogue::otherTextsAreRefused_data()
                              "6BA7B810-9DAD-41D1-80B4-00C04FD430C8", "00000000-0000-0000-0000-000000000000"})
         row(PARAM_TERMINAL_IDENTITY, uuid, "expected a UUID in small letters, such as 6ba7b810-");
     row(PARAM_DAY_SWITCHING, "sunrise", "expected by-hand (0), sunset (1) or twilight (2)");
-    for (const EParamID time : {PARAM_DAY_SWITCHED}) {
+    for (const EParamID time : {PARAM_TIME_SOURCE_SINCE, PARAM_NEWEST_TIME, PARAM_DAY_SWITCHED}) {
         for (const char* text : {"", "2026-03-05", "2026-03-05T13:05:09", "2026-02-30T13:05:09Z",
                                  "2026-03-05T13:05:09+01:00", "2026-03-05T13:05Z", "20260305T130509Z"})
             row(time, text, "expected a time in UTC, such as 2026-03-05T13:05:09Z");
