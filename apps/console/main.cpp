@@ -8,6 +8,8 @@
 #include <QTextCodec>
 #endif
 
+#include <clocale>
+
 namespace {
 
 const std::vector<tagCommand> Commands = {
@@ -75,6 +77,7 @@ int main(int argc, char* argv[])
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 #endif
     const QCoreApplication application(argc, argv);
+    std::setlocale(LC_MESSAGES, "C"); // the reasons that the system gives are in the tool's language too
     const int status = Run(QCoreApplication::arguments().mid(1));
     return FlushOutput() ? status : STATUS_FAILED;
 }

@@ -202,7 +202,7 @@ bool FieldRename::Finish(TParameterStore& store, const QString& drive, QString* 
     if (!FileTree::Exists(NotePath(drive)))
         return true;
     if (!note.open(QIODevice::ReadOnly)) {
-        *error = QString::fromLatin1("cannot read %1: %2").arg(NotePath(drive), note.errorString());
+        *error = DurableFiles::SystemReason(QLatin1String("cannot read"), NotePath(drive));
         return false;
     }
     return Settle(store, drive, FromJson(note.readAll()), error);

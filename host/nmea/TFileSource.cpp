@@ -1,13 +1,13 @@
 #include "nmea/TFileSource.h"
 
 #include "nmea/SourceFile.h"
+#include "stores/DurableFiles.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
-#include <system_error>
 
 TFileSource::TFileSource(const QString& path) : m_Path(path), m_Fd(-1), m_IsRecording(false) {}
 
@@ -71,6 +71,5 @@ void TFileSource::ReadPiece()
 void TFileSource::Fail(const char* what, int error)
 {
     const QString name = m_Path == QLatin1String("-") ? QString(QLatin1String("standard input")) : m_Path;
-    const QString reason = QString::fromStdString(std::generic_category().message(error));
-    emit Ended(QString::fromLatin1("cannot %1 %2: %3").arg(QLatin1String(what), name, reason));
+    emit Ended(QString::fromLatin1("cannot %1 %2: %3").arg(QLatin1String(what), name, DurableFiles::SystemText(error)));
 }

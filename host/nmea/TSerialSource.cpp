@@ -1,5 +1,33 @@
 #include "nmea/TSerialSource.h"
 
+namespace {
+
+/// Not QSerialPort::errorString(), which is in the machine's language.
+struct tagReason
+{
+    QSerialPort::SerialPortError error;
+    const char* text;
+};
+
+constexpr tagReason Reasons[] = {
+    {QSerialPort::DeviceNotFoundError, "no such device"},
+    {QSerialPort::PermissionError, "no permission, or in use by another program"},
+    {QSerialPort::OpenError, "it is open already"},
+    {QSerialPort::ReadError, "it cannot be read"},
+    {QSerialPort::ResourceError, "it was unplugged"},
+    {QSerialPort::UnsupportedOperationError, "it does not take these settings"},
+};
+
+QString Reason(QSerialPort::SerialPortError error)
+{
+    for (const tagReason& reason : Reasons)
+        if (reason.error == error)
+            return QLatin1String(reason.text);
+    return QString::fromLatin1("serial port error %1").arg(static_cast<int>(error));
+}
+
+} // namespace
+
 TSerialSource::TSerialSource(const tagSerialAddress& address)
 {
     m_Port.setPortName(address.device);
@@ -26,5 +54,5 @@ void TSerialSource::Disconnect()
 void TSerialSource::OnError(QSerialPort::SerialPortError error)
 {
     if (error != QSerialPort::NoError)
-        Failed(m_Port.errorString());
+        Failed(Reason(error));
 }

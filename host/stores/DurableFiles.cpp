@@ -15,11 +15,13 @@
 namespace DurableFiles {
 
 // Not strerror(), which translates to the machine's language.
-QString SystemText()
+QString SystemText(int error)
 {
-    const char* const text = strerrordesc_np(errno);
-    return text ? QString::fromLatin1(text) : QString::fromLatin1("error %1").arg(errno);
+    const char* const text = strerrordesc_np(error);
+    return text ? QString::fromLatin1(text) : QString::fromLatin1("error %1").arg(error);
 }
+
+QString SystemText() { return SystemText(errno); }
 
 QString SystemReason(const QString& doing, const QString& path)
 {

@@ -34,7 +34,8 @@ struct tagIdentity
 /// The identity of the file that @p path names. Returns false when there is no such file.
 bool Identify(const QString& path, tagIdentity* identity);
 
-/// The system's text for the value of errno, in English.
+/// The system's text for an error, or for the value of errno: in English, whatever the machine's language.
+QString SystemText(int error);
 QString SystemText();
 
 /// "@p doing @p path: " and SystemText().

@@ -16,7 +16,8 @@ class TUserLogAccessor;
 struct tagTerminalOptions
 {
     /// The version of the display's software. It is part of file names and package names, so it must be a possible file
-    /// name. Empty: QCoreApplication::applicationVersion().
+    /// name. Empty: QCoreApplication::applicationVersion(). When that is empty too, the names have nothing in its
+    /// place.
     QString softwareVersion = QString();
 
     /// The folder of the internal drive in which the folders of the clients are, without "/" at its end. Empty: the

@@ -420,8 +420,9 @@ public:
     static QString GetValueString(double value, const QString& unit, int precision, const tagThresholdSpec* spec);
 
     /// The text that the operator sees for @p value, which is in GetStoredUnit(@p type): litres for UNITS_CUBIC_METERS,
-    /// metres per second for UNITS_KPH. @p type chooses the quantity, the parameters choose the unit shown. Imperial
-    /// units and units per acre show the value as it is. DynamicPrecision asks for decimals that depend on the value.
+    /// metres per second for UNITS_KPH. @p type chooses the quantity, the parameters choose the unit shown. A unit
+    /// whose stored unit is itself shows the value as it is, for instance UNITS_GALLONS. DynamicPrecision asks for
+    /// decimals that depend on the value.
     static QString GetValueString(double value, EUnitsType type, int precision, const tagThresholdSpec* spec);
 
     /// The same text, split at its first blank.
@@ -433,9 +434,8 @@ public:
     // ---- Quantities -----------------------------------------------------------------------------------------------
 
     // Each shows a stored value as a text: number, one blank, abbreviation. The blank is there before a degree sign,
-    // and behind a number without unit, too. @p metric chooses the metric system when true, the imperial one when
-    // false;
-    // @p us chooses US measures when true, English ones when false.
+    // and behind a number without unit, too. @p metric chooses the metric system when true, the imperial one otherwise.
+    // @p us chooses US measures when true, English ones otherwise.
 
     /// In the unit of PARAM_AREA_UNIT. When that is neither hectares nor acres, the value as it is, without a unit.
     static QString GetAreaString(float hectares, int precision, const tagThresholdSpec* spec);

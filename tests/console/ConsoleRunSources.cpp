@@ -252,7 +252,7 @@ void ConsoleRunSources::aSerialDeviceIsReadAcrossALoss()
     const QList<QByteArray> errors = run.Errors().split('\n');
     const QByteArray source = "cabsettings: serial://" + QFile::encodeName(device);
     QCOMPARE(errors.size(), 5);
-    QCOMPARE(errors.at(0), source + ": No such file or directory; trying again");
+    QCOMPARE(errors.at(0), source + ": no such device; trying again");
     QCOMPARE(errors.at(1), source + ": connected");
     QVERIFY2(errors.at(2).startsWith(source + ": ") && errors.at(2).endsWith("; trying again"), errors.at(2));
     QCOMPARE(errors.at(3), source + ": connected");

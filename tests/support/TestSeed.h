@@ -12,7 +12,7 @@ const char* const TestSeedVariable = "CABSETTINGS_TEST_SEED";
 /// The seed of everything random in a test program. Each run chooses another one and prints it; the same run is
 /// repeated by giving that number back:
 ///
-///     CABSETTINGS_TEST_SEED=2718281828 build/default/tests/units/texts/Positions
+///     CABSETTINGS_TEST_SEED=2718281828 build/default/tests/units/text/Positions
 ///
 /// Each test function starts its generator with the seed, so that it can also be repeated alone.
 inline unsigned TestSeed()

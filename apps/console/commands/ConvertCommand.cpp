@@ -175,7 +175,7 @@ int RunConvert(const tagContext& context, const QStringList& arguments)
     const bool isTable = line.IsSet(QLatin1String(CsvOption));
     const QStringList words = line.Words();
     if (isTable && words.size() != 2)
-        return line.Misused(Messages::Unexpected(words.last(), QLatin1String("FROM TO with --csv")));
+        return line.Misused(Messages::Unexpected(words.first(), QLatin1String("FROM TO with --csv")));
     if (!isTable && words.size() != 3)
         return line.Misused(Messages::Missing(QLatin1String("VALUE FROM TO")));
     const auto digits = line.WholeNumber(QLatin1String(DigitsOption), 1, MostDigits);

@@ -28,7 +28,7 @@ const char* const FollowOption = "follow";
 
 const int FollowIntervalMs = 200;
 
-/// "2024.05.01-13:07:09:042" in ISO form; null when it is none.
+/// "2024.05.01-13:07:09:042" in ISO form; null when the text is not a date and time.
 QJsonValue Time(const QString& text)
 {
     const QDate date = QDate::fromString(text.left(10), QLatin1String("yyyy.MM.dd"));
@@ -38,7 +38,7 @@ QJsonValue Time(const QString& text)
     return date.toString(Qt::ISODate) + QLatin1Char('T') + time.toString(Qt::ISODateWithMs);
 }
 
-/// The fields of an entry of the user log, null in a line that is none. The code's text is the host's, and may hold
+/// The fields of an entry of the user log; null in other lines. The code's text is the host's, and may hold
 /// commas itself.
 QJsonObject Fields(const QString& text)
 {

@@ -107,9 +107,8 @@ int RunRun(const tagContext& context, const QStringList& arguments)
             "Starts the terminal and feeds it an NMEA stream: the stream sets the clock and is logged. Ends at the end "
             "of the stream or at an interrupt, and prints a summary. If closing takes longer than five seconds, "
             "another interrupt stops the program at once. A server or a serial device that is missing is tried again. "
-            "A "
-            "file is a recording: the clock begins at its first time, in the machine's time zone. The colours switch "
-            "between day and night as display.day-switching says; with a recording, only until its end."),
+            "A file is a recording: the clock begins at its first time, in the machine's time zone. The colours "
+            "switch between day and night as display.day-switching says; with a recording, only until its end."),
         QLatin1String("cabsettings run --nmea field.nmea\n"
                       "  cabsettings run --nmea - <field.nmea\n"
                       "  cabsettings run --nmea tcp://localhost:2947\n"

@@ -66,7 +66,7 @@ void AddOptions(TCommandLine& line)
                    QLatin1String("FILE"), QLatin1String("-"));
 }
 
-/// The plan as typed; nothing after a line on standard error when it is none.
+/// The plan as typed. Prints a message and returns nothing when an option is not accepted.
 std::optional<tagFieldPlan> ReadPlan(const TCommandLine& line)
 {
     tagFieldPlan plan;

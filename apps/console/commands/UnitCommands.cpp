@@ -60,7 +60,7 @@ std::optional<TUnits::tagThresholdSpec> ReadThreshold(const QString& text)
     return TUnits::tagThresholdSpec{threshold, precision};
 }
 
-/// The decimals that "--precision" asks for; nothing when they are none.
+/// The decimals that "--precision" asks for. Returns nothing when the text is not a number of decimals.
 std::optional<int> ReadPrecision(const QString& text)
 {
     if (text == QLatin1String(DynamicPrecision))

@@ -19,7 +19,7 @@
 /// \endcode
 ///
 /// Options are typed with two dashes, those of one letter with one; their value follows as the next argument or behind
-/// "=". A negative number is an argument, and everything behind "--" is.
+/// "=". A negative number is an argument and not an option, and so is everything that follows "--".
 ///
 /// QCommandLineParser would take a negative number for an option, and its messages do not say which option or value was
 /// meant.

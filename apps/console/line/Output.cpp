@@ -97,8 +97,12 @@ bool OutputFailed() { return std::ferror(stdout) != 0; }
 
 bool FlushOutput()
 {
-    if (std::fflush(stdout) == 0 && !OutputFailed())
+    const bool isFlushed = std::fflush(stdout) == 0;
+    const int error = errno;
+    if (isFlushed && !OutputFailed())
         return true;
-    Say(QString::fromLatin1("cannot write to standard output: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
+    const char* const reason = isFlushed ? nullptr : strerrordesc_np(error); // unknown when an earlier write failed
+    const QString text = QLatin1String("cannot write to standard output");
+    Say(reason ? text + QLatin1String(": ") + QLatin1String(reason) : text);
     return false;
 }

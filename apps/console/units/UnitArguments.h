@@ -15,8 +15,8 @@ void AddMeasuresOption(TCommandLine& line);
 /// after a message.
 std::optional<int> OpenUnits(TSession& session, const tagContext& context, const TCommandLine& line);
 
-/// The unit that was typed; nothing, after a message, when there is no such unit. Needs OpenUnits().
+/// The unit that was typed. Prints a message and returns nothing when there is no such unit. Needs OpenUnits().
 std::optional<EUnitsType> ReadUnit(const TCommandLine& line, const QString& text);
 
-/// The finite number that was typed, with a full stop; nothing, after a message, when it is none.
+/// The finite number that was typed, with a full stop. Prints a message and returns nothing when it is not a number.
 std::optional<double> ReadNumber(const TCommandLine& line, const QString& text);

@@ -7,8 +7,8 @@
 /// field rely on each.
 namespace HistoricWays {
 
-/// ConvertUnit() converts the hubs of masses alike, and so the hubs of masses per hectare: each of them into every unit
-/// of the others.
+/// ConvertUnit() treats a hub as if it were the hub `like`: it converts each of them into every unit of the other. So
+/// all hubs of masses are one, and all hubs of masses per hectare.
 struct tagAlike
 {
     EUnitsType hub;

@@ -18,7 +18,8 @@ struct tagWay
     {
         if (special)
             return special(*this, value);
-        // Both for every factor: a branch that spares the division is mispredicted, which costs more.
+        // Every factor is multiplied and divided: a branch that saves the division is often mispredicted, which costs
+        // more.
         return Narrow(Widen(static_cast<float>(value)) * Wide(times) / Wide(over));
     }
 
@@ -28,7 +29,7 @@ struct tagWay
     float times = 1.0f;
     float over = 1.0f;
     TSpecial special = nullptr;
-    const TRoute* route = nullptr; ///< of what is not a multiplication and a division
+    const TRoute* route = nullptr; ///< for conversions that are not one multiplication and one division
 };
 
 double Unchanged(const tagWay&, double value) { return value; }

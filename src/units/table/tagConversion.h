@@ -80,9 +80,12 @@ struct tagConversion
     TRoute in;  ///< from the unit into the hub
 };
 
-/// By one factor, and back by the inverse of it.
+/// By one factor, and back by the inverse of it. A factor of three constants has no inverse of this form: a row with
+/// one does not compile.
 constexpr tagConversion By(const tagFactor& factor)
 {
+    if (factor.then != 1.0f)
+        throw "a factor of three constants";
     return {tagFactor{factor.times, factor.over, 1.0f}, tagFactor{factor.over, factor.times, 1.0f}};
 }
 

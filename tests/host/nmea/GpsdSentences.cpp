@@ -72,6 +72,12 @@ class GpsdSentences : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        if (!QFileInfo(QLatin1String(CABSETTINGS_GPSD)).isExecutable())
+            QSKIP("gpsd is not installed");
+    }
+
     void theyComeAsTheReceiverSendsThem_data();
     void theyComeAsTheReceiverSendsThem();
     void theyComeAgainAfterARestart();
