@@ -2,6 +2,8 @@
 #include "console/line/Manual.h"
 #include "console/line/Output.h"
 
+#include "stores/TChangeAuthor.h"
+
 #include <QCoreApplication>
 #include <QStandardPaths>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -23,6 +25,8 @@ const std::vector<tagCommand> Commands = {
     {"monitor", "Prints changes of parameters as they happen.", RunMonitor},
     {"export", "Writes the parameters to a file.", RunExport},
     {"import", "Takes parameters from a file.", RunImport},
+    {"history", "Prints the changes of parameters.", RunHistory},
+    {"undo", "Takes back a change of a parameter.", RunUndo},
     {"colors", "Prints the colours by day and by night.", RunColors},
     {"sun", "Prints when the sun rises and sets.", RunSun},
     {"clock", "Prints the clock, and sets it.", RunClock},
@@ -78,6 +82,7 @@ int main(int argc, char* argv[])
 #endif
     const QCoreApplication application(argc, argv);
     std::setlocale(LC_MESSAGES, "C"); // the reasons that the system gives are in the tool's language too
+    const TChangeAuthor author(CHANGE_AUTHOR_TOOL);
     const int status = Run(QCoreApplication::arguments().mid(1));
     return FlushOutput() ? status : STATUS_FAILED;
 }

@@ -1,5 +1,6 @@
 #include "stores/StoreTable.h"
 
+#include "stores/JournalTable.h"
 #include "stores/StoredValue.h"
 
 #include <QByteArray>
@@ -38,7 +39,7 @@ tagStoreFinding Verdict(TSqliteConnection& connection, const tagStoreFinding& fi
     return {failure.isDamage ? STORE_FILE_DAMAGED : STORE_FILE_INACCESSIBLE, failure.text};
 }
 
-tagStoreFinding CheckStructure(TSqliteConnection& connection)
+tagStoreFinding CheckStructure(TSqliteConnection& connection, QString* journalDamage)
 {
     const int version = connection.Value(QLatin1String("PRAGMA user_version")).toInt();
     if (version > SchemaVersion)
@@ -48,9 +49,16 @@ tagStoreFinding CheckStructure(TSqliteConnection& connection)
         connection.Value(QLatin1String("SELECT sql FROM sqlite_master WHERE name = 'parameters'")).toString();
     if (version != SchemaVersion || application != ApplicationId || schema != Schema)
         return Damaged(QLatin1String("its schema is missing or broken"));
+    const QString sound = QLatin1String("ok");
     const QString check = connection.Value(QLatin1String("PRAGMA integrity_check(1)")).toString();
-    if (check != QLatin1String("ok"))
-        return Damaged(check.simplified());
+    if (check != sound) {
+        // The parameters are worth more than the journal.
+        if (connection.Value(QLatin1String("PRAGMA integrity_check(parameters)")).toString() != sound)
+            return Damaged(check.simplified());
+        *journalDamage = check.simplified();
+    } else if (!JournalTable::IsOfOurForm(connection)) {
+        *journalDamage = QLatin1String("the table of its journal has another form");
+    }
     return {STORE_FILE_CLEAN, QString()};
 }
 
@@ -86,6 +94,29 @@ void WriteRows(TSqliteConnection& connection, const QMap<int, QVariant>& changes
     }
 }
 
+// What is about to change. A row that does not match its digest has no value.
+QVector<JournalTable::tagChange> ChangesOf(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
+                                           const QMap<int, EChangeAuthor>& authors)
+{
+    QVector<JournalTable::tagChange> found;
+    for (auto change = changes.constBegin(); change != changes.constEnd(); ++change) {
+        const int id = change.key();
+        JournalTable::tagChange entry = {id, {}, {}, authors.value(id, CHANGE_AUTHOR_LIBRARY)};
+        const auto rows =
+            connection.Run(QLatin1String("SELECT type, value, digest FROM parameters WHERE id = ?"), {id});
+        if (!rows.isEmpty()) {
+            const tagStoredValue former = {rows.first().at(0).toString(), rows.first().at(1).toString()};
+            const QVariant& digest = rows.first().at(2);
+            if (digest.isNull() || digest.toString() == Digest(id, former))
+                entry.former = former;
+        }
+        EncodeValue(change.value(), &entry.next);
+        if (entry.former.type != entry.next.type || entry.former.text != entry.next.text)
+            found.append(entry);
+    }
+    return found;
+}
+
 void Begin(TSqliteConnection& connection) { connection.Run(QLatin1String("BEGIN IMMEDIATE")); }
 
 QString Commit(TSqliteConnection& connection)
@@ -106,13 +137,18 @@ void Create(TSqliteConnection& connection)
     connection.Run(QString::fromLatin1("PRAGMA application_id = %1").arg(ApplicationId));
     connection.Run(QString::fromLatin1("PRAGMA user_version = %1").arg(SchemaVersion));
     connection.Run(Schema);
+    JournalTable::Create(connection);
 }
 
 tagStoreFinding Read(TSqliteConnection& connection, tagContent* content)
 {
     *content = {};
-    const tagStoreFinding finding = Verdict(connection, CheckStructure(connection));
-    return finding.state == STORE_FILE_CLEAN ? ReadRows(connection, content) : finding;
+    QString journalDamage;
+    tagStoreFinding finding = Verdict(connection, CheckStructure(connection, &journalDamage));
+    if (finding.state == STORE_FILE_CLEAN)
+        finding = ReadRows(connection, content);
+    content->journalDamage = journalDamage;
+    return finding;
 }
 
 tagStoreFinding ReadRows(TSqliteConnection& connection, tagContent* content)
@@ -132,20 +168,45 @@ QString DamageText(const QList<qlonglong>& damaged)
     return QString::fromLatin1("its parameters %1 do not match their digests").arg(numbers.join(QLatin1String(", ")));
 }
 
-QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes)
+QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
+              const QMap<int, EChangeAuthor>& authors, QString* journalDamage)
 {
     Begin(connection);
+    const QVector<JournalTable::tagChange> entries = ChangesOf(connection, changes, authors);
     WriteRows(connection, changes);
+    const bool areWritten = connection.Failure().text.isEmpty();
+    JournalTable::Append(connection, entries);
+    if (areWritten && connection.Failure().isDamage) {
+        // A parameter is not lost because its change cannot be noted.
+        *journalDamage = connection.TakeFailure().text;
+        connection.Run(QLatin1String("ROLLBACK"));
+        connection.TakeFailure();
+        Begin(connection);
+        WriteRows(connection, changes);
+    }
     return Commit(connection);
 }
 
 QString Repair(TSqliteConnection& connection, const QList<qlonglong>& damaged, const QMap<int, QVariant>& values)
 {
+    QMap<int, EChangeAuthor> authors;
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        authors.insert(value.key(), CHANGE_AUTHOR_REPAIR);
     Begin(connection);
+    const QVector<JournalTable::tagChange> entries = ChangesOf(connection, values, authors);
     for (const qlonglong number : damaged)
         connection.Run(Removal, {number});
     WriteRows(connection, values);
+    JournalTable::Append(connection, entries);
     return Commit(connection);
+}
+
+void CopyRows(TSqliteConnection& connection, const QString& path)
+{
+    Create(connection);
+    connection.Run(QLatin1String("ATTACH DATABASE ? AS source"), {path});
+    connection.Run(QLatin1String("INSERT INTO parameters SELECT id, type, value, digest FROM source.parameters"));
+    connection.Run(QLatin1String("DETACH DATABASE source"));
 }
 
 } // namespace StoreTable

@@ -35,7 +35,7 @@ bool TParameterStore::SetParameter(EParamID id, const QVariant& value, bool pers
         Remember(id, value);
         if (!persist)
             return true;
-        m_Wishes.insert(id, tagWish{value, 0});
+        m_Wishes.insert(id, tagWish{value, 0, TChangeAuthor::Current()});
     }
 
     const QMutexLocker disk(&m_DiskMutex);
@@ -221,10 +221,17 @@ bool TParameterStore::PersistWishes(int minFailures, int maxFailures)
     const bool isKnown = CatchUp();
     if (isKnown)
         DropFulfilledWishes();
-    QMap<int, QVariant> changes = Wishes(minFailures, maxFailures);
-    for (const int id : m_Rescued)
-        if (!changes.contains(id))
-            changes.insert(id, m_OnDisk.value(id));
+    QMap<int, QVariant> changes;
+    m_Authors.clear();
+    for (const int id : m_Rescued) {
+        changes.insert(id, m_OnDisk.value(id));
+        m_Authors.insert(id, CHANGE_AUTHOR_REPAIR);
+    }
+    const QMap<int, tagWish> wishes = Wishes(minFailures, maxFailures);
+    for (auto wish = wishes.constBegin(); wish != wishes.constEnd(); ++wish) {
+        changes.insert(wish.key(), wish->value);
+        m_Authors.insert(wish.key(), wish->author);
+    }
     if (changes.isEmpty())
         return true;
     const bool done = isKnown && Persist(changes);
@@ -232,13 +239,13 @@ bool TParameterStore::PersistWishes(int minFailures, int maxFailures)
     return done;
 }
 
-QMap<int, QVariant> TParameterStore::Wishes(int minFailures, int maxFailures) const
+QMap<int, TParameterStore::tagWish> TParameterStore::Wishes(int minFailures, int maxFailures) const
 {
-    QMap<int, QVariant> wishes;
+    QMap<int, tagWish> wishes;
     const QReadLocker memory(&m_MemoryLock);
     for (auto wish = m_Wishes.constBegin(); wish != m_Wishes.constEnd(); ++wish)
         if (wish->failures >= minFailures && wish->failures <= maxFailures)
-            wishes.insert(wish.key(), wish->value);
+            wishes.insert(wish.key(), *wish);
     return wishes;
 }
 

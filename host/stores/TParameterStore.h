@@ -2,6 +2,7 @@
 
 #include "HostExport.h"
 #include "platform/TConfigManager.h"
+#include "stores/TChangeAuthor.h"
 
 #include <QMap>
 #include <QMutex>
@@ -79,6 +80,9 @@ protected:
     /// @return whether the changes are on the disk.
     virtual bool Persist(const QMap<int, QVariant>& changes) = 0;
 
+    /// Who has made the change of a parameter that Persist() is writing.
+    EChangeAuthor AuthorOf(int number) const { return m_Authors.value(number, CHANGE_AUTHOR_LIBRARY); }
+
     /// For a disk that other programs write too: passes the changed content of the disk to TakeStored(). Called before
     /// values are compared with the content of the disk, and never during Persist().
     /// @return whether the content of the disk is known; if not, nothing is written.
@@ -107,6 +111,7 @@ private:
     {
         QVariant value;
         int failures;
+        EChangeAuthor author;
     };
 
     /// What memory held when a hold began.
@@ -123,7 +128,7 @@ private:
     void RememberAll(const QMap<int, QVariant>& values);
     bool PersistAfterHold();
     bool PersistWishes(int minFailures, int maxFailures);
-    QMap<int, QVariant> Wishes(int minFailures, int maxFailures) const;
+    QMap<int, tagWish> Wishes(int minFailures, int maxFailures) const;
     void DropFulfilledWishes();
     void Settle(const QMap<int, QVariant>& changes, bool done);
 
@@ -133,9 +138,10 @@ private:
     QMap<int, tagWish> m_Wishes;
     QVector<TParameterWatch*> m_Watches;
 
-    QMutex m_DiskMutex; // guards the next four members, CatchUp() and Persist(); locked before m_MemoryLock
+    QMutex m_DiskMutex; // guards the next five members, CatchUp() and Persist(); locked before m_MemoryLock
     QMap<int, QVariant> m_OnDisk;
     QSet<int> m_UnknownOnDisk;
     QSet<int> m_Rescued; // damaged on the disk; m_OnDisk holds the value that was read before
     QVector<tagHold> m_Holds;
+    QMap<int, EChangeAuthor> m_Authors; // of the changes that Persist() writes
 };

@@ -43,6 +43,9 @@ public:
     /// The first value of the first row; invalid when there is none.
     QVariant Value(const QString& statement);
 
+    /// The first failure since the last call of TakeFailure(); its text is empty when nothing has failed.
+    const tagFailure& Failure() const { return m_Failure; }
+
     /// Returns the first failure since the last call, and clears it.
     tagFailure TakeFailure();
 

@@ -30,7 +30,9 @@ std::unique_ptr<TSqliteStore> TSqliteStore::Open(const QString& path, QString* e
 }
 
 TSqliteStore::TSqliteStore(const QString& path, int patience)
-    : m_DiskThread(std::make_unique<TDiskThread>()), m_File(std::make_unique<TSqliteStoreFile>(path, patience))
+    : m_Path(path)
+    , m_DiskThread(std::make_unique<TDiskThread>())
+    , m_File(std::make_unique<TSqliteStoreFile>(path, patience))
 {}
 
 TSqliteStore::~TSqliteStore()
@@ -100,8 +102,15 @@ bool TSqliteStore::CatchUp()
 
 bool TSqliteStore::Persist(const QMap<int, QVariant>& changes)
 {
+    QMap<int, EChangeAuthor> authors;
+    for (auto change = changes.constBegin(); change != changes.constEnd(); ++change)
+        authors.insert(change.key(), AuthorOf(change.key()));
     QString failure;
-    m_DiskThread->Do([&] { failure = m_File->Write(changes); });
+    QString journalDamage;
+    m_DiskThread->Do([&] { failure = m_File->Write(changes, authors, &journalDamage); });
+    if (!journalDamage.isEmpty())
+        journalDamage = QString::fromLatin1("%1: changes are not in the journal: %2").arg(m_Path, journalDamage);
+    SayOnce(journalDamage, &m_JournalFailure);
     SayOnce(failure, &m_WriteFailure);
     return failure.isEmpty();
 }

@@ -28,6 +28,10 @@ struct tagContent;
 /// stored are bool, int, long long, double, string, colour and bytes. A row that was edited by hand may have no digest
 /// (NULL).
 ///
+/// Every change of a row is noted in the table `journal`, in the same transaction; see ChangeJournal. A damaged row of
+/// the journal is passed over. When the journal as a whole is damaged, the first program that opens the file gives it
+/// an empty one and keeps the damaged file; no parameter is lost with it.
+///
 /// A change by another program is in this store's memory within a second, or later while persistence is held or a write
 /// waits. When another program has the file locked, this store waits. After the timeout a write returns false and an
 /// opening fails; both are said.
@@ -63,6 +67,9 @@ public:
     /// the value in memory changes, the row in the file does not.
     bool SetParameter(EParamID id, const QVariant& value, bool persist) override;
 
+    /// The store's file, as an absolute path.
+    QString Path() const { return m_Path; }
+
 protected:
     bool CatchUp() override;
     bool Persist(const QMap<int, QVariant>& changes) override;
@@ -72,10 +79,12 @@ private:
     QString Load();
     void Take(const StoreTable::tagContent& content);
 
+    const QString m_Path;
     std::unique_ptr<TDiskThread> m_DiskThread;
     std::unique_ptr<TSqliteStoreFile> m_File; // used by the disk thread alone
-    QString m_ReadFailure;                    // the last one that was said, as the next two
+    QString m_ReadFailure;                    // the last one that was said, as the next three
     QString m_WriteFailure;
+    QString m_JournalFailure;
     QMap<int, QString> m_Problems;
     std::unique_ptr<TWatchThread> m_Watch; // uses the other members: made last, destroyed first
 };

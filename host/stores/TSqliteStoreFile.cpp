@@ -1,5 +1,6 @@
 #include "stores/TSqliteStoreFile.h"
 
+#include "stores/JournalTable.h"
 #include "stores/StandardError.h"
 #include "stores/StoreHeader.h"
 
@@ -96,10 +97,10 @@ bool CopyTo(TSqliteConnection& source, const QString& target, EDamagedRows damag
     } else if (DurableFiles::SyncContent(fresh, reason)) {
         StoreTable::tagContent content;
         const tagStoreFinding finding = CheckAtRest(fresh, &content);
-        const bool isClean = finding.state == STORE_FILE_CLEAN;
+        const bool isClean = finding.state == STORE_FILE_CLEAN && content.journalDamage.isEmpty();
         if (isClean && (damagedRows == DAMAGED_ROWS_ACCEPTED || content.damaged.isEmpty()))
             return DurableFiles::Rename(fresh, target, reason);
-        *reason = isClean ? StoreTable::DamageText(content.damaged) : finding.words;
+        *reason = isClean ? StoreTable::DamageText(content.damaged) : finding.words + content.journalDamage;
     }
     QString ignored;
     DurableFiles::Remove(fresh, &ignored); // its space may be needed
@@ -222,6 +223,12 @@ bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
             return false;
         found = RecogniseAndConnect(m_Path, deadline, &connection, &content);
     }
+    if (found.state == STORE_FILE_CLEAN && !content.journalDamage.isEmpty()) {
+        connection.reset();
+        if (!DropJournal(content.journalDamage) && !Replace({STORE_FILE_DAMAGED, content.journalDamage}, reason))
+            return false;
+        found = RecogniseAndConnect(m_Path, deadline, &connection, &content);
+    }
     if (found.state == STORE_FILE_CLEAN && !content.damaged.isEmpty()) {
         connection.reset();
         KeepAndRepair(content.damaged);
@@ -232,6 +239,8 @@ bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
         return false;
     }
     DurableFiles::Identify(m_Path, &m_Identity);
+    JournalTable::Create(*connection); // before the disk is full
+    connection->TakeFailure();         // without it, parameters can be stored all the same
     MakeGoodCopy(*connection);
     return true;
 }
@@ -242,7 +251,11 @@ QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTabl
     m_Lock.FileInUse(&m_Identity);
     if (!IsStillThere())
         return CannotBeUsed(m_Path, QLatin1String("it is not the file that another program has open"));
-    const tagStoreFinding found = Connect(m_Path, deadline, &m_Connection, content);
+    tagStoreFinding found = Connect(m_Path, deadline, &m_Connection, content);
+    if (found.state == STORE_FILE_CLEAN && !content->journalDamage.isEmpty()) {
+        m_Connection.reset();
+        found = {STORE_FILE_DAMAGED, content->journalDamage};
+    }
     if (found.state == STORE_FILE_DAMAGED)
         return CannotBeUsed(
             m_Path, QString::fromLatin1("%1; it can be repaired when no other program uses it").arg(found.words));
@@ -255,8 +268,8 @@ QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTabl
 // Replaces a file that cannot be used by the last good copy or an empty store, and says so.
 bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
 {
-    StoreTable::tagContent ignored;
-    const tagStoreFinding good = CheckAtRest(m_GoodPath, &ignored);
+    StoreTable::tagContent content;
+    const tagStoreFinding good = CheckAtRest(m_GoodPath, &content);
     if (IsBeyondUs(good.state)) {
         *reason = Refusal(m_GoodPath, good);
         return false;
@@ -270,6 +283,8 @@ bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
     if (!isNew && !SetAside(m_Path, found, reason))
         return false;
     if (good.state == STORE_FILE_CLEAN) {
+        if (!content.journalDamage.isEmpty())
+            return PutRowsInPlace(m_GoodPath, reason);
         TSqliteConnection copy(m_GoodPath, TSqliteConnection::SQLITE_ACCESS_READ, CopyPatience);
         SayOnStandardError(QString::fromLatin1("%1: going on with the last good copy %2").arg(m_Path, m_GoodPath));
         return PutInPlace(copy, reason);
@@ -310,6 +325,27 @@ void TSqliteStoreFile::KeepAndRepair(const QList<qlonglong>& damaged)
         SayOnStandardError(CannotBeWritten(m_Path, reason));
 }
 
+// Gives the file an empty journal, after keeping a copy of the damaged one. Says so.
+bool TSqliteStoreFile::DropJournal(const QString& damage)
+{
+    QString kept;
+    QString reason;
+    // SQLite would apply a log that it has left behind to the new file.
+    const bool isDone = !AnyExists(Companions(m_Path)) && KeepAside(m_Path, DurableFiles::Copy, &kept, &reason) &&
+                        PutRowsInPlace(m_Path, &reason);
+    if (isDone)
+        SayOnStandardError(
+            QString::fromLatin1("%1: %2; copied to %3; the journal begins anew").arg(m_Path, damage, kept));
+    return isDone;
+}
+
+bool TSqliteStoreFile::PutRowsInPlace(const QString& source, QString* reason)
+{
+    TSqliteConnection rows(Memory, TSqliteConnection::SQLITE_ACCESS_WRITE, CopyPatience);
+    StoreTable::CopyRows(rows, source);
+    return PutInPlace(rows, reason);
+}
+
 bool TSqliteStoreFile::PutInPlace(TSqliteConnection& source, QString* reason)
 {
     if (CopyTo(source, m_Path, DAMAGED_ROWS_ACCEPTED, reason))
@@ -333,9 +369,10 @@ QString TSqliteStoreFile::ReadChanged(StoreTable::tagContent* content, bool* isC
     return {};
 }
 
-QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes)
+QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes, const QMap<int, EChangeAuthor>& authors,
+                                QString* journalDamage)
 {
-    QString reason = StoreTable::Write(*m_Connection, changes);
+    QString reason = StoreTable::Write(*m_Connection, changes, authors, journalDamage);
     // SQLite can still write to a file that was deleted or moved, or whose drive is gone. Such a write has failed.
     if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(CompanionSuffixes[0]))))
         reason = QLatin1String("it is no longer there");

@@ -42,14 +42,18 @@ public:
     /// and the table is not read. @return empty, or the reason why the content of the file is not known.
     QString ReadChanged(StoreTable::tagContent* content, bool* isChanged);
 
-    /// Writes @p changes in one transaction. @return empty, or the reason why they are not on the disk.
-    QString Write(const QMap<int, QVariant>& changes);
+    /// Writes @p changes in one transaction, with their entries in the journal.
+    /// @param journalDamage receives the reason when the journal is damaged and the changes were written without it.
+    /// @return empty, or the reason why they are not on the disk.
+    QString Write(const QMap<int, QVariant>& changes, const QMap<int, EChangeAuthor>& authors, QString* journalDamage);
 
 private:
     bool Prepare(const QDeadlineTimer& deadline, QString* reason);
     QString OpenPrepared(const QDeadlineTimer& deadline, StoreTable::tagContent* content);
     bool Replace(const tagStoreFinding& found, QString* reason);
     void KeepAndRepair(const QList<qlonglong>& damaged);
+    bool DropJournal(const QString& damage);
+    bool PutRowsInPlace(const QString& source, QString* reason);
     bool PutInPlace(TSqliteConnection& source, QString* reason);
     bool IsStillThere() const;
     void MakeGoodCopy(TSqliteConnection& source);

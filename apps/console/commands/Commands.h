@@ -11,6 +11,8 @@ int RunSet(const tagContext& context, const QStringList& arguments);
 int RunReset(const tagContext& context, const QStringList& arguments);
 int RunDescribe(const tagContext& context, const QStringList& arguments);
 int RunList(const tagContext& context, const QStringList& arguments);
+int RunHistory(const tagContext& context, const QStringList& arguments);
+int RunUndo(const tagContext& context, const QStringList& arguments);
 int RunMonitor(const tagContext& context, const QStringList& arguments);
 int RunExport(const tagContext& context, const QStringList& arguments);
 int RunImport(const tagContext& context, const QStringList& arguments);

@@ -19,28 +19,6 @@ namespace {
 
 const char* const CountOption = "count";
 
-QJsonObject Json(const tagParameterChange& change)
-{
-    const tagParameter* const known = TParameterCatalogue::Find(change.number);
-    const auto text = [known](const QVariant& value) {
-        return value.isValid() ? QJsonValue(ValueText(known, value)) : QJsonValue();
-    };
-    return {{QLatin1String("number"), change.number},
-            {QLatin1String("name"), known ? QJsonValue(known->name) : QJsonValue()},
-            {QLatin1String("old"), ValueJson(change.oldValue)},
-            {QLatin1String("oldText"), text(change.oldValue)},
-            {QLatin1String("new"), ValueJson(change.newValue)},
-            {QLatin1String("newText"), text(change.newValue)}};
-}
-
-QString Line(const tagParameterChange& change)
-{
-    const tagParameter* const known = TParameterCatalogue::Find(change.number);
-    return Harmless(QString::fromLatin1("%1: %2 -> %3")
-                        .arg(ParameterLabel(change.number), OrNone(ValueTextOrNotSet(known, change.oldValue)),
-                             OrNone(ValueTextOrNotSet(known, change.newValue))));
-}
-
 /// How many of the parameters that are listed fit. A number fits before the host has set it.
 int CountOf(const QString& pattern, const TParameterStore& store)
 {
@@ -91,9 +69,9 @@ int RunMonitor(const tagContext& context, const QStringList& arguments)
         if (left == 0 || !FitsPattern(pattern, change.number))
             return;
         if (line.WantsJson())
-            PrintJsonLine(Json(change));
+            PrintJsonLine(ChangeJson(change.number, change.oldValue, change.newValue));
         else
-            PrintLine(Line(change));
+            PrintLine(ChangeText(change.number, change.oldValue, change.newValue));
         std::fflush(stdout);
         if (!isEndless)
             --left;

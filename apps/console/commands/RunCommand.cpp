@@ -137,6 +137,7 @@ int RunRun(const tagContext& context, const QStringList& arguments)
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
+    const TChangeAuthor author(CHANGE_AUTHOR_LIBRARY); // from here on it is the terminal that changes parameters
     const bool isRecording = IsRecording(*address);
     const QDateTime begin = isRecording && !isNow ? FirstRecordedTime(*address) : QDateTime();
     if (begin.isValid())

@@ -1,5 +1,6 @@
 #include "console/terminal/ParameterArgument.h"
 #include "console/line/Messages.h"
+#include "console/line/Output.h"
 
 #include "parameters/ParameterText.h"
 
@@ -50,12 +51,6 @@ QMap<int, QVariant> ListedValues(const TParameterStore& store)
     return values;
 }
 
-QString ParameterLabel(int number)
-{
-    const tagParameter* const known = TParameterCatalogue::Find(number);
-    return known ? known->name : QString::number(number);
-}
-
 QString ValueText(const tagParameter* known, const QVariant& value)
 {
     return known ? TParameterCatalogue::Text(*known, value) : ParameterText::FromValue(value);
@@ -78,6 +73,28 @@ QJsonValue ValueJson(const QVariant& value)
     default:
         return value.isValid() ? QJsonValue(ParameterText::FromValue(value)) : QJsonValue();
     }
+}
+
+QString ChangeText(int number, const QVariant& oldValue, const QVariant& newValue)
+{
+    const tagParameter* const known = TParameterCatalogue::Find(number);
+    return Harmless(QString::fromLatin1("%1: %2 -> %3")
+                        .arg(known ? known->name : QString::number(number), OrNone(ValueTextOrNotSet(known, oldValue)),
+                             OrNone(ValueTextOrNotSet(known, newValue))));
+}
+
+QJsonObject ChangeJson(int number, const QVariant& oldValue, const QVariant& newValue)
+{
+    const tagParameter* const known = TParameterCatalogue::Find(number);
+    const auto text = [known](const QVariant& value) {
+        return value.isValid() ? QJsonValue(ValueText(known, value)) : QJsonValue();
+    };
+    return {{QLatin1String("number"), number},
+            {QLatin1String("name"), known ? QJsonValue(known->name) : QJsonValue()},
+            {QLatin1String("old"), ValueJson(oldValue)},
+            {QLatin1String("oldText"), text(oldValue)},
+            {QLatin1String("new"), ValueJson(newValue)},
+            {QLatin1String("newText"), text(newValue)}};
 }
 
 QJsonObject ParameterJson(int number, const QVariant& value)

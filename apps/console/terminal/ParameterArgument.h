@@ -37,9 +37,6 @@ QString NoMatch(const QString& pattern);
 /// All parameters that have a value or are in the catalogue, in the order of their numbers; absent values are invalid.
 QMap<int, QVariant> ListedValues(const TParameterStore& store);
 
-/// "units.metric", or "20000" for a number of the host's own.
-QString ParameterLabel(int number);
-
 /// The value as text, a choice by its name; @p known may be null.
 QString ValueText(const tagParameter* known, const QVariant& value);
 
@@ -48,6 +45,12 @@ QString ValueTextOrNotSet(const tagParameter* known, const QVariant& value);
 
 /// The value in JSON: a bool, a number, or else a text; null for an invalid value.
 QJsonValue ValueJson(const QVariant& value);
+
+/// "units.area: hectare -> acre"
+QString ChangeText(int number, const QVariant& oldValue, const QVariant& newValue);
+
+/// Number, name, old, oldText, new, newText; absent values, and the name of a host's own parameter, are null.
+QJsonObject ChangeJson(int number, const QVariant& oldValue, const QVariant& newValue);
 
 /// Number, name, type, value, default, accepts, meaning and so on; an absent value is null.
 QJsonObject ParameterJson(int number, const QVariant& value);

@@ -24,6 +24,7 @@ bool TSession::Open(const tagContext& context, ESession extent)
 {
     if (!OpenStore(context))
         return false;
+    const TChangeAuthor author(CHANGE_AUTHOR_LIBRARY); // what a start sets is not what the command sets
     if (extent == SESSION_TERMINAL)
         return StartTerminal(context);
     {

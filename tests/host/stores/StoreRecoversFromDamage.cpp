@@ -121,8 +121,8 @@ bool StoreRecoversFromDamage::HasLostRowsAlone(const QMap<int, QVariant>& values
     return lost <= most;
 }
 
-// Empty when the store has the right values: those of the file without a message, or with a message those that are left
-// after damage. The store must also accept a write.
+// Empty when the store has the right values: those of the file without a message about values, or with a message those
+// that are left after damage. The store must also accept a write.
 QString StoreRecoversFromDamage::Verdict(int mostRowsLost)
 {
     TStandardErrorCapture standardError;
@@ -132,7 +132,11 @@ QString StoreRecoversFromDamage::Verdict(int mostRowsLost)
     if (!store)
         return QLatin1String("refused: ") + error;
     const QMap<int, QVariant> values = store->Values();
-    if (values == m_FileValues && isSaid)
+    // No value is lost when the journal alone is damaged, or a row that has the same value in the good copy.
+    const QString said = isSaid ? standardError.Lines().first() : QString();
+    const bool isHarmless = said.endsWith(QLatin1String("; the journal begins anew")) ||
+                            said.contains(QLatin1String("does not match its digest; copied to "));
+    if (values == m_FileValues && isSaid && !isHarmless)
         return QLatin1String("right values, but: ") + standardError.Lines().first();
     if (values != m_FileValues && !isSaid)
         return QLatin1String("wrong values without a message");
@@ -161,7 +165,7 @@ void StoreRecoversFromDamage::aChangedByteNeverGivesWrongValues_data()
     const int size = static_cast<int>(m_FileBytes.size());
     QTest::newRow("file header") << 0 << 100 << 1;
     QTest::newRow("page headers") << 100 << 108 << 1;
-    QTest::newRow("everywhere") << 108 << size << 31;
+    QTest::newRow("everywhere") << 108 << size << 67;
 }
 
 void StoreRecoversFromDamage::aChangedByteNeverGivesWrongValues()
