@@ -94,6 +94,7 @@ bool IsBlocked(const tagResult& result, const tagOptions& options)
 
 void SetAll(TParameterStore& store, const QMap<int, QVariant>& values)
 {
+    const TChangeAuthor author(CHANGE_AUTHOR_IMPORT);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         store.SetParameter(static_cast<EParamID>(value.key()), value.value(), true);
 }

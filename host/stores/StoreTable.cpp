@@ -206,6 +206,20 @@ void CopyRows(TSqliteConnection& connection, const QString& path)
     Create(connection);
     connection.Run(QLatin1String("ATTACH DATABASE ? AS source"), {path});
     connection.Run(QLatin1String("INSERT INTO parameters SELECT id, type, value, digest FROM source.parameters"));
+    const auto others = connection.Run(
+        QLatin1String("SELECT name, sql FROM source.sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite^_%' "
+                      "ESCAPE '^' AND name NOT IN ('parameters', 'journal')"));
+    const bool areCopied = connection.Failure().text.isEmpty();
+    for (const TSqliteConnection::TRow& other : others) {
+        const QString name = other.at(0).toString();
+        connection.Run(other.at(1).toString());
+        connection.Run(QString::fromLatin1("INSERT INTO main.\"%1\" SELECT * FROM source.\"%1\"").arg(name));
+        if (areCopied && !connection.TakeFailure().text.isEmpty()) {
+            connection.Run(
+                QString::fromLatin1("DROP TABLE IF EXISTS main.\"%1\"").arg(name)); // less than the parameters
+            connection.TakeFailure();
+        }
+    }
     connection.Run(QLatin1String("DETACH DATABASE source"));
 }
 

@@ -54,8 +54,8 @@ QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
 /// Write().
 QString Repair(TSqliteConnection& connection, const QList<qlonglong>& damaged, const QMap<int, QVariant>& values);
 
-/// Copies the table from the file @p path into the empty database of @p connection. For a file whose journal is
-/// damaged.
+/// Copies the table from the file @p path into the empty database of @p connection, and what other tables can be read,
+/// but not the journal. For a file whose journal is damaged.
 void CopyRows(TSqliteConnection& connection, const QString& path);
 
 } // namespace StoreTable

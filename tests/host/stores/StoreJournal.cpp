@@ -341,6 +341,8 @@ void StoreJournal::aDamagedPageOfTheJournalCostsNoParameter()
     Reopen(); // the good copy has the first value
     QVERIFY(m_Store->SetParameter(PARAM_AREA_UNIT, 2, true));
     m_Store.reset();
+    RunSql(m_Path, QLatin1String("CREATE TABLE other (number INTEGER)"));
+    RunSql(m_Path, QLatin1String("INSERT INTO other VALUES (77)"));
     // Also when there is no good copy.
     QVERIFY(QFile::remove(m_Path + QLatin1String(".good")));
     DamageJournalPage(m_Path);
@@ -350,6 +352,7 @@ void StoreJournal::aDamagedPageOfTheJournalCostsNoParameter()
     QVERIFY2(standardError.Lines().first().endsWith(QLatin1String("the journal begins anew")),
              qPrintable(standardError.Lines().first()));
     QCOMPARE(m_Store->Values(), (QMap<int, QVariant>{{PARAM_AREA_UNIT, 2}}));
+    QCOMPARE(RunSql(m_Path, QLatin1String("SELECT number FROM other")), QVariant(77));
     QVERIFY(m_Store->SetParameter(PARAM_AREA_UNIT, 3, true));
     QCOMPARE(LinesOf(*m_Store), Lines({"1 library 8960 2 -> 3"}));
 }
