@@ -72,6 +72,8 @@ private slots:
     void whatIsNoFileIsRefused();
     void anEnormousFileIsRefusedAtOnce();
     void noPrefixOfAProfileIsAProfile();
+    void noDamagedByteGoesUnseen_data();
+    void noDamagedByteGoesUnseen();
 
     void aFailureKeepsTheFormerFile_data();
     void aFailureKeepsTheFormerFile();
@@ -176,7 +178,7 @@ void ProfileFiles::theTimeOfTheExportIsUtc_data()
     QTest::addColumn<int>("offset"); // of the clock less UTC of the machine, seconds
     QTest::addColumn<int>("hours");  // local time less UTC
     QTest::addColumn<int>("distance");
-    QTest::newRow("machine") << int{TIME_SOURCE_NONE} << 7200 << 2 << 0;
+    QTest::newRow("none") << int{TIME_SOURCE_NONE} << 7200 << 2 << 0;
     QTest::newRow("receiver, in the same zone") << int{TIME_SOURCE_RECEIVER} << 7200 << 2 << 0;
     QTest::newRow("receiver, of a machine that is a day slow")
         << int{TIME_SOURCE_RECEIVER} << 86400 - 3600 << -1 << 86400;
@@ -197,6 +199,7 @@ void ProfileFiles::theTimeOfTheExportIsUtc()
     const QDateTime time = QDateTime::fromString(Full().Origin().time, Qt::ISODate);
     QVERIFY(time >= before && time <= QDateTime::currentDateTimeUtc().addSecs(distance));
     QVERIFY(Full().Origin().time.endsWith(QLatin1Char('Z')));
+    QCOMPARE(Full().Origin().timeSource, Utf8(QTest::currentDataTag()).section(QLatin1Char(','), 0, 0));
 }
 
 void ProfileFiles::valuesThatNobodyMayEnterAreLeftOut()
@@ -421,6 +424,41 @@ void ProfileFiles::noPrefixOfAProfileIsAProfile()
         const bool isSaid = m_Problems.first().contains(Utf8("cut off: ")) || m_Problems.first().contains(Utf8("JSON"));
         QVERIFY2(isSaid, qPrintable(m_Problems.first()));
     }
+}
+
+void ProfileFiles::noDamagedByteGoesUnseen_data()
+{
+    QTest::addColumn<int>("bit");
+    for (int bit = 0; bit < 8; ++bit)
+        QTest::addRow("bit %d", bit) << bit;
+}
+
+// A change of layout may be accepted, then the content is the same.
+void ProfileFiles::noDamagedByteGoesUnseen()
+{
+    QFETCH(int, bit);
+    QString reason;
+    QVERIFY(TProfile::Of(*m_Store, {Utf8("units")}, Utf8("1.0")).Write(Path(), &reason));
+    const QByteArray text = m_Folder->Content(Utf8(Name));
+    const auto original = Read(PROFILE_EDITS_REFUSED);
+    QVERIFY(original);
+    int refused = 0;
+    for (int at = 0; at < text.size(); ++at) {
+        QByteArray damaged = text;
+        damaged[at] = static_cast<char>(damaged.at(at) ^ (1 << bit));
+        Put(damaged);
+        const auto read = Read(PROFILE_EDITS_REFUSED);
+        QVERIFY(read.has_value() == m_Problems.isEmpty());
+        refused += read ? 0 : 1;
+        if (!read)
+            continue;
+        QCOMPARE(read->Parameters().size(), original->Parameters().size());
+        for (int index = 0; index < static_cast<int>(read->Parameters().size()); ++index) {
+            QCOMPARE(read->Parameters().at(index).known, original->Parameters().at(index).known);
+            QCOMPARE(read->Parameters().at(index).value, original->Parameters().at(index).value);
+        }
+    }
+    QVERIFY2(refused > text.size() / 2, qPrintable(QString::number(refused)));
 }
 
 void ProfileFiles::aFailureKeepsTheFormerFile_data()
