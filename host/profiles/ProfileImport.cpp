@@ -2,14 +2,13 @@
 
 #include "parameters/HostParameters.h"
 #include "stores/DurableFiles.h"
+#include "stores/TChangeAuthor.h"
 #include "stores/TImportedValues.h"
 #include "stores/TPersistenceHold.h"
 #include "stores/TStoreLock.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
-
-#include <algorithm>
 
 namespace {
 
@@ -34,8 +33,9 @@ bool IsFromThisTerminal(const TProfile& profile, TParameterStore& store)
 bool ReadBases(const TProfile& profile, TParameterStore& store, TImportedValues& imported, TBases* bases,
                QString* reason)
 {
+    const QString terminal = profile.Origin().terminal;
     if (!IsFromThisTerminal(profile, store))
-        return profile.Origin().terminal.isEmpty() || imported.Read(profile.Origin().terminal, bases, reason);
+        return terminal.isEmpty() || imported.Read(terminal, bases, reason);
     for (const tagProfileParameter& parameter : profile.Parameters())
         if (parameter.base)
             bases->insert(parameter.known->id, {*parameter.base});
@@ -108,6 +108,11 @@ bool IsThere(const QString& storeFile, QString* reason)
     return false;
 }
 
+QString CannotBeRead(const QString& path, const QString& reason)
+{
+    return QString::fromLatin1("%1 cannot be read: %2").arg(path, reason);
+}
+
 /// Takes in what other programs have written.
 void CatchUp(TParameterStore& store) { TPersistenceHold(store).Release(); }
 
@@ -135,8 +140,10 @@ ProfileImport::tagResult ProfileImport::Compare(const TProfile& profile, TSqlite
         return failed;
     TImportedValues imported(path, options.patience);
     CatchUp(store);
-    if (!ReadBases(profile, store, imported, &bases, &failed.error))
+    if (!ReadBases(profile, store, imported, &bases, &failed.error)) {
+        failed.error = CannotBeRead(path, failed.error);
         return failed;
+    }
     return CompareWith(profile, store.Values(), bases, options).result;
 }
 
@@ -153,8 +160,10 @@ ProfileImport::tagResult ProfileImport::Apply(const TProfile& profile, TSqliteSt
     TImportedValues imported(path, options.patience);
     CatchUp(store);
     TBases bases;
-    if (!ReadBases(profile, store, imported, &bases, &failed.error))
+    if (!ReadBases(profile, store, imported, &bases, &failed.error)) {
+        failed.error = CannotBeRead(path, failed.error);
         return failed;
+    }
 
     TPersistenceHold hold(store);
     tagComparison comparison = CompareWith(profile, store.Values(), bases, options);
@@ -167,15 +176,16 @@ ProfileImport::tagResult ProfileImport::Apply(const TProfile& profile, TSqliteSt
     const QMap<int, QString> notes = isNoted ? comparison.imported : QMap<int, QString>();
     // Also without notes: a file that cannot be written is found out before anything is changed.
     if (!imported.Note(terminal, notes, &comparison.result.error)) {
+        comparison.result.error = QString::fromLatin1("%1 cannot be written: %2").arg(path, comparison.result.error);
         hold.Abandon();
         return comparison.result;
     }
     QString ignored; // without its end, the note counts beside the former value
     comparison.result.isApplied = Write(comparison, hold, store);
-    if (comparison.result.isApplied)
+    if (comparison.result.isApplied) {
         imported.Settle(terminal, notes, &ignored);
-    else {
-        comparison.result.error = QLatin1String("the values cannot be written");
+    } else {
+        comparison.result.error = QString::fromLatin1("%1 cannot be written").arg(path);
         imported.Forget(terminal, notes, &ignored);
     }
     return comparison.result;

@@ -1,7 +1,10 @@
 #include "ImportRoom.h"
 #include "SystemCalls.h"
+#include "stores/ChangeJournal.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 using namespace ImportRoom;
 
@@ -16,6 +19,18 @@ int Import(const QString& storeFile, const QString& profileFile, int nth)
     SystemCalls::Kill(nth);
     const auto store = OpenStore(storeFile);
     return store && profile && ProfileImport::Apply(*profile, *store, storeFile, {}).isApplied ? 0 : 1;
+}
+
+/// The number of changes that the journal says are of an import.
+int JournalledImports(const TSqliteStore& store)
+{
+    ChangeJournal::tagJournal journal;
+    QString error;
+    if (!ChangeJournal::Read(store, {}, &journal, &error) || !journal.damaged.isEmpty())
+        return -1;
+    return static_cast<int>(
+        std::count_if(journal.entries.begin(), journal.entries.end(),
+                      [](const ChangeJournal::tagEntry& entry) { return entry.author == QLatin1String("import"); }));
 }
 
 } // namespace
@@ -77,6 +92,7 @@ void ImportSurvivesKill::theStoreIsTheOldOrTheNewOne()
                                 "active.client=Smith colors.day.map=#010203 display.day=false");
         QVERIFY2(isOld || isNew, qPrintable(QString::number(killed)));
         QVERIFY(isNew || !isOver);
+        QCOMPARE(JournalledImports(*store), isNew ? 7 : 0);
         applied += isNew ? 1 : 0;
 
         // The next import meets no conflict, and leaves nothing of the killed one behind.

@@ -1,5 +1,7 @@
 #include "ImportRoom.h"
 #include "SystemCalls.h"
+#include "platform/EAreaUnit.h"
+#include "stores/ChangeJournal.h"
 #include "stores/TPersistenceHold.h"
 
 #include <QCoreApplication>
@@ -34,6 +36,7 @@ private slots:
     void groupsChooseWhatIsTaken();
     void nothingIsWrittenWithoutADifference();
     void comparingChangesNothing();
+    void theJournalNamesTheImport();
 
     void conflictsFollowTheirRule_data();
     void conflictsFollowTheirRule();
@@ -123,6 +126,21 @@ void ProfileImports::comparingChangesNothing()
     QCOMPARE(Text(result.changes), Utf8("units.area: hectare > acre"));
     QVERIFY(!result.isApplied);
     QCOMPARE(m_Ours->Values(), before);
+}
+
+void ProfileImports::theJournalNamesTheImport()
+{
+    Set(*m_Theirs, Utf8("units.area=acre region.language=de"));
+    QVERIFY(Import(Exported(*m_Theirs)).isApplied);
+    ChangeJournal::tagJournal journal;
+    QString error;
+    QVERIFY(ChangeJournal::Read(*m_Ours, {std::nullopt, 3}, &journal, &error));
+    QCOMPARE(journal.entries.at(0).author, Utf8("import"));
+    QCOMPARE(journal.entries.at(1).author, Utf8("import"));
+    QVERIFY(journal.entries.at(2).author != Utf8("import"));
+    QCOMPARE(journal.entries.at(1).parameter, int{PARAM_AREA_UNIT});
+    QCOMPARE(journal.entries.at(1).oldValue, QVariant(int{AREA_UNIT_HECTARE}));
+    QCOMPARE(journal.entries.at(1).newValue, QVariant(int{AREA_UNIT_ACRE}));
 }
 
 void ProfileImports::conflictsFollowTheirRule_data()
@@ -266,7 +284,9 @@ void ProfileImports::aLockedFileIsLeftAlone()
         QVERIFY(query.exec(Utf8("BEGIN IMMEDIATE")));
         const tagResult result = Import(Exported(*m_Theirs), options);
         QVERIFY(!result.isApplied);
-        QCOMPARE(result.error, Utf8("another program has locked it for longer than the timeout"));
+        QCOMPARE(result.error,
+                 Path("ours.db") +
+                     Utf8(" cannot be written: another program has locked it for longer than the timeout"));
         QCOMPARE(m_Ours->Values(), before);
         QVERIFY(query.exec(Utf8("ROLLBACK")));
     }
