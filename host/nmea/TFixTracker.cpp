@@ -69,7 +69,7 @@ void TFixTracker::TakePosition(const tagReading& reading)
 
 QDateTime TFixTracker::TakeTime(const tagReading& reading)
 {
-    const QDateTime utc = reading.sentence.info.timestamp();
+    QDateTime utc = reading.sentence.info.timestamp();
     if (!m_Status.hasFix || !(reading.Is("RMC") || reading.Is("ZDA")) || !utc.isValid() ||
         utc.date().year() < FirstYear || !CarriesTime(reading.line, utc))
         return QDateTime();
