@@ -4,13 +4,10 @@
 #include "diagnostics/TLogKeeper.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
+#include "platform/IsoText.h"
 #include "stores/StandardError.h"
 
-#include <QLocale>
-
 namespace {
-
-QString IsoText(const QDateTime& time) { return QLocale::c().toString(time, QLatin1String("yyyy-MM-dd'T'HH:mm:ss")); }
 
 QString Period(const TLogKeeper::tagGap& gap) { return IsoText(gap.from) + QLatin1Char(' ') + IsoText(gap.to); }
 

@@ -9,11 +9,10 @@
 #include "parameters/HostParameters.h"
 #include "parameters/UtcText.h"
 #include "platform/BuildDate.h"
+#include "platform/IsoText.h"
 #include "platform/TConfigManager.h"
 #include "platform/TimeSource.h"
 #include "region/TRegionSettingsProxy.h"
-
-#include <QLocale>
 
 #include <utility>
 
@@ -31,9 +30,6 @@ void AddEvent(EReceiverEvent event, const QString& text1 = QString(), const QStr
 }
 
 QString DecimalDegrees(double value) { return QString::number(value, 'f', CoordinateDecimals); }
-
-/// Without a time zone, which a local time of the display does not have.
-QString IsoText(const QDateTime& time) { return QLocale::c().toString(time, QLatin1String("yyyy-MM-dd'T'HH:mm:ss")); }
 
 /// A reason of its own beside those of ETimeRefusal.
 const int CorrectedReason = TIME_TOO_LATE + 1;

@@ -16,7 +16,7 @@ using Proxy = TSystemSettingsProxy;
 const QString Group = QLatin1String("active.");
 
 /// How an item is selected, where that is more than a name in the store, and where its file lies.
-struct tagDoor
+struct tagItemAccess
 {
     EParamID id;
     void (*select)(const QString& name);
@@ -38,7 +38,7 @@ QString PathBy()
 QString FieldPath() { return Proxy().GetCFFPath().isEmpty() ? QString() : Proxy().GetActiveFieldPath(); }
 
 // The façade leaves the steering profile out; clients, farms and boom levellers have names alone.
-const tagDoor Doors[] = {
+const tagItemAccess Accesses[] = {
     {PARAM_ACTIVE_JOB, SelectBy<Proxy, &Proxy::SetActiveJob>, PathBy<Proxy, &Proxy::GetActiveJobPath>},
     {PARAM_ACTIVE_BOUNDARY, SelectBy<Proxy, &Proxy::SetActiveBoundary>, PathBy<Proxy, &Proxy::GetActiveBoundaryPath>},
     {PARAM_ACTIVE_AB_LINE, SelectBy<Proxy, &Proxy::SetActiveABLine>, PathBy<Proxy, &Proxy::GetActiveABLinePath>},
@@ -59,11 +59,11 @@ const tagDoor Doors[] = {
     {PARAM_FIELD, nullptr, FieldPath},
 };
 
-const tagDoor* FindDoor(const tagParameter& item)
+const tagItemAccess* FindAccess(const tagParameter& item)
 {
-    const auto* const door =
-        std::find_if(std::begin(Doors), std::end(Doors), [&item](const tagDoor& row) { return row.id == item.id; });
-    return door != std::end(Doors) ? door : nullptr;
+    const auto* const access = std::find_if(std::begin(Accesses), std::end(Accesses),
+                                            [&item](const tagItemAccess& row) { return row.id == item.id; });
+    return access != std::end(Accesses) ? access : nullptr;
 }
 
 } // namespace
@@ -96,21 +96,21 @@ const tagParameter* ActiveItems::Find(const QString& kind)
 
 QString ActiveItems::Name(const tagParameter& item) { return ConfigManager->GetParameter(item.id).toString(); }
 
-bool ActiveItems::HasFile(const tagParameter& item) { return FindDoor(item) != nullptr; }
+bool ActiveItems::HasFile(const tagParameter& item) { return FindAccess(item) != nullptr; }
 
 QString ActiveItems::Path(const tagParameter& item)
 {
-    const tagDoor* const door = FindDoor(item);
-    return !door || Name(item).isEmpty() ? QString() : door->path();
+    const tagItemAccess* const access = FindAccess(item);
+    return !access || Name(item).isEmpty() ? QString() : access->path();
 }
 
 bool ActiveItems::Select(TParameterStore& store, const tagParameter& item, const QString& name)
 {
     // The façade's setters return nothing; the end of a hold tells whether the name is on the disk.
     TPersistenceHold hold(store);
-    const tagDoor* const door = FindDoor(item);
-    if (door && door->select)
-        door->select(name);
+    const tagItemAccess* const access = FindAccess(item);
+    if (access && access->select)
+        access->select(name);
     else
         store.SetParameter(item.id, name, true);
     return hold.Release();

@@ -76,7 +76,7 @@ constexpr tagQuantity QuantityTable[] = {
     {UNITS_LONGITUDE, "position"},
 };
 
-constexpr const char* FamilyNames[] = {"neutral", "metric", "imperial", "US", "imperial or US"};
+constexpr const char* FamilyNames[] = {"neutral", "metric", "imperial", "US"};
 
 QString Text(std::string_view text) { return QString::fromLatin1(text.data(), static_cast<int>(text.size())); }
 
@@ -130,9 +130,10 @@ QStringList UnitNames::Quantities()
 
 QString UnitNames::Family(EUnitsType unit)
 {
+    if (TUnits::DependsOnUSMeasures(unit))
+        return QLatin1String("imperial or US");
     const tagUnit* const row = FindUnit(unit);
-    return row ? QLatin1String(FamilyNames[TUnits::DependsOnUSMeasures(unit) ? FAMILY_IMPERIAL_OR_US : row->family])
-               : QString();
+    return row ? QLatin1String(FamilyNames[row->family]) : QString();
 }
 
 std::optional<EUnitsType> UnitNames::Find(const QString& text)

@@ -26,13 +26,13 @@ EUnitsType UnitPerArea(EUnitsType type, bool metric)
                                              : UNITS_NONE;
 }
 
-double Out(double value, EUnitsType stored, EUnitsType shown, bool us)
+double FromStored(double value, EUnitsType stored, EUnitsType shown, bool us)
 {
     const tagConversion* const historic = HistoricWays::Find(HistoricWays::IN_ENTRIES, stored, shown);
     return historic ? historic->out(value) : UnitWays::Convert(value, stored, shown, us);
 }
 
-double In(double value, EUnitsType stored, EUnitsType shown, bool us)
+double ToStored(double value, EUnitsType stored, EUnitsType shown, bool us)
 {
     const tagConversion* const historic = HistoricWays::Find(HistoricWays::IN_ENTRIES, stored, shown);
     return historic ? historic->in(value) : UnitWays::Convert(value, shown, stored, us);
@@ -82,7 +82,7 @@ double TUnits::ConvertSpecifiedAreaUnitIn(double value, EUnitsType type)
         return value;
     const bool us = Measures::IsUS();
     const EUnitsType shown = UnitPerArea(type, Measures::IsMetric());
-    return shown == UNITS_NONE ? value : Out(value, GetStoredUnit(type), shown, us);
+    return shown == UNITS_NONE ? value : FromStored(value, GetStoredUnit(type), shown, us);
 }
 
 double TUnits::ConvertSpecifiedAreaUnitOut(double value, EUnitsType type)
@@ -91,17 +91,17 @@ double TUnits::ConvertSpecifiedAreaUnitOut(double value, EUnitsType type)
         return value;
     const bool us = Measures::IsUS();
     const EUnitsType shown = UnitPerArea(type, Measures::IsMetric());
-    return shown == UNITS_NONE ? value : In(value, GetStoredUnit(type), shown, us);
+    return shown == UNITS_NONE ? value : ToStored(value, GetStoredUnit(type), shown, us);
 }
 
 double TUnits::ConvertSpecifiedPressureUnitIn(double value)
 {
-    return Out(value, UNITS_KPA, DetermineActualUnitFromUnitsType(UNITS_KPA), false);
+    return FromStored(value, UNITS_KPA, DetermineActualUnitFromUnitsType(UNITS_KPA), false);
 }
 
 double TUnits::ConvertSpecifiedPressureUnitOut(double value)
 {
-    return In(value, UNITS_KPA, DetermineActualUnitFromUnitsType(UNITS_KPA), false);
+    return ToStored(value, UNITS_KPA, DetermineActualUnitFromUnitsType(UNITS_KPA), false);
 }
 
 double TUnits::ConvertSpecifiedShortDistanceUnitIn(double value, EUnitsType type)
