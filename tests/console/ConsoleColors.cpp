@@ -57,6 +57,11 @@ private slots:
     void numbersAndLevelsAreShown();
     void valuesThatAreNoColoursAreReadAsTheDisplayReadsThem_data();
     void valuesThatAreNoColoursAreReadAsTheDisplayReadsThem();
+    void theBuiltInColoursPassTheCheck_data();
+    void theBuiltInColoursPassTheCheck();
+    void anOperatorsPoorColoursAreAWarning();
+    void theCheckCanBeHadAsJson();
+    void samplesAreNotPartOfTheCheck();
     void patchesArePaintedWhereTheyCanBeSeen_data();
     void patchesArePaintedWhereTheyCanBeSeen();
     void aPatchHasItsColour();
@@ -189,6 +194,70 @@ void ConsoleColors::valuesThatAreNoColoursAreReadAsTheDisplayReadsThem()
     const QString line = Run(console, "colors day --color always").output.section(QLatin1Char('\n'), 3, 3);
     QVERIFY2(line.startsWith(Utf8("text ")) && line.endsWith(QLatin1Char(' ') + shown), qPrintable(line));
     QCOMPARE(line.contains(Utf8(Patch)), isPainted);
+}
+
+void ConsoleColors::theBuiltInColoursPassTheCheck_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("pairs");
+    QTest::newRow("both schemes") << Utf8("colors --check") << 34;
+    QTest::newRow("the day") << Utf8("colors day --check") << 17;
+    QTest::newRow("the night") << Utf8("colors --check night") << 17;
+}
+
+void ConsoleColors::theBuiltInColoursPassTheCheck()
+{
+    QFETCH(QString, arguments);
+    QFETCH(int, pairs);
+    const TConsole console;
+    const TConsole::tagResult result = console.Run(arguments.split(QLatin1Char(' ')));
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(static_cast<int>(result.output.count(Utf8("  ok  "))), pairs);
+    QVERIFY2(result.output.endsWith(QString::fromLatin1("\nAll %1 pairs are legible.\n").arg(pairs)),
+             qPrintable(result.output));
+}
+
+void ConsoleColors::anOperatorsPoorColoursAreAWarning()
+{
+    const TConsole console;
+    QCOMPARE(Run(console, "set colors.night.track #181a1c").status, 0);
+    const TConsole::tagResult result = Run(console, "colors night --check");
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.errors, QString());
+    const QStringList rows = result.output.split(QLatin1Char('\n')).filter(Utf8("too low"));
+    QCOMPARE(static_cast<int>(rows.size()), 2); // and the last line
+    QVERIFY2(rows.first().simplified().startsWith(Utf8("track map night 1.07 3.0 too low WCAG 2.1")),
+             qPrintable(rows.first()));
+    QVERIFY(result.output.endsWith(Utf8("\n\nWarning: the contrast is too low in 1 of 17 pairs.\n")));
+}
+
+void ConsoleColors::theCheckCanBeHadAsJson()
+{
+    const TConsole console;
+    Store(console, QMap<EParamID, QVariant>{{PARAM_GRID_COLOR_NIGHT, 7}});
+    const QJsonArray checks = Array(Run(console, "colors night --check --json"));
+    QCOMPARE(static_cast<int>(checks.size()), 17);
+    const QJsonObject vehicle = Find(checks, "element", Utf8("vehicle"));
+    QCOMPARE(vehicle, (QJsonObject{{Utf8("element"), Utf8("vehicle")},
+                                   {Utf8("ground"), Utf8("map")},
+                                   {Utf8("scheme"), Utf8("night")},
+                                   {Utf8("color"), Utf8("#f08a3c")},
+                                   {Utf8("groundColor"), Utf8("#101214")},
+                                   {Utf8("ratio"), 7.51},
+                                   {Utf8("bound"), 3},
+                                   {Utf8("origin"), Utf8("WCAG 2.1, 1.4.11: controls and graphics")},
+                                   {Utf8("verdict"), Utf8("ok")}}));
+    const QJsonObject grid = Find(checks, "element", Utf8("grid"));
+    QVERIFY(grid.value(Utf8("ratio")).isNull());
+    QCOMPARE(grid.value(Utf8("verdict")).toString(), Utf8("no colour"));
+}
+
+void ConsoleColors::samplesAreNotPartOfTheCheck()
+{
+    const TConsole console;
+    VerifyMisused(Run(console, "colors --check --color always"), Utf8("--color"), Utf8("--check shows no samples"));
+    QVERIFY(!QFile::exists(console.DataFolder()));
 }
 
 void ConsoleColors::patchesArePaintedWhereTheyCanBeSeen_data()

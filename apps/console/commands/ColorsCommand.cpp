@@ -1,5 +1,6 @@
 // colors: the two schemes of the display.
 
+#include "console/commands/ColorCheck.h"
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Messages.h"
@@ -18,6 +19,7 @@
 namespace {
 
 const char* const ColorOption = "color";
+const char* const CheckOption = "check";
 
 const char* const Day = "day";
 const char* const Night = "night";
@@ -170,15 +172,20 @@ int RunColors(const tagContext& context, const QStringList& arguments)
         QLatin1String("colors"), QLatin1String("[day|night]"),
         QLatin1String("Prints the colours of the map and the controls by day, by night or both, as #rrggbb (#aarrggbb "
                       "when translucent), the numbers of the background pictures, the levels at night, and the active "
-                      "scheme. `cabsettings set display.day false` activates the scheme for the night."),
+                      "scheme. `cabsettings set display.day false` activates the scheme for the night. With --check, "
+                      "prints the contrast of texts, controls and elements of the map instead, each with its bound. A "
+                      "low contrast is a warning; the exit status is 0."),
         QLatin1String("cabsettings colors night"));
     line.AddOption(QLatin1String(ColorOption),
                    QLatin1String("Shows a sample of each colour: always, never or auto. With auto, samples appear on a "
                                  "terminal that has colours, unless NO_COLOR is set."),
                    QLatin1String("WHEN"), QLatin1String("auto"));
+    line.AddOption(QLatin1String(CheckOption),
+                   QLatin1String("Checks how well the colours can be told from what is behind them."));
     line.AddJsonOption(
         QLatin1String("Prints an object: mode, colors (name, day, night), numbers (name, day, night), levels "
-                      "(name, value, unit)."));
+                      "(name, value, unit). With --check, an array of objects: element, ground, scheme, color, "
+                      "groundColor, ratio (null without a colour), bound, origin, verdict (ok, too low, no colour)."));
     if (const auto status = line.Read(arguments, 0, 1))
         return *status;
     QStringList modes = {QLatin1String(Day), QLatin1String(Night)};
@@ -193,10 +200,18 @@ int RunColors(const tagContext& context, const QStringList& arguments)
     if (!whens.contains(when))
         return line.InvalidValue(QLatin1String(ColorOption), ParameterText::Alternatives(whens));
 
+    const bool checks = line.IsSet(QLatin1String(CheckOption));
+    if (checks && line.IsSet(QLatin1String(ColorOption)))
+        return line.Misused(QLatin1String("unexpected option --color; --check shows no samples"));
+
     TSession session;
     if (!session.Open(context, SESSION_STORE))
         return STATUS_FAILED;
     TParameterStore& store = session.Store();
+    if (checks) {
+        PrintColorCheck(store, modes, line.WantsJson());
+        return STATUS_DONE;
+    }
     const QString active = QLatin1String(store.GetParameter(PARAM_DAY_MODE).toBool() ? Day : Night);
     if (line.WantsJson()) {
         PrintJson(Json(store, active, modes));
