@@ -396,7 +396,7 @@ void ProfileFiles::whatIsNoFileIsRefused()
     QVERIFY2(Problems().first().startsWith(problem), qPrintable(Problems().first()));
 }
 
-// The file has a gigabyte and no content; this process may use less memory than that.
+// The file is a hole, and takes no space.
 void ProfileFiles::anEnormousFileIsRefusedAtOnce()
 {
     Put(Small);
