@@ -1,52 +1,18 @@
 #include "SystemCalls.h"
-#include "TTemporaryFolder.h"
+#include "TProfileRoom.h"
 #include "parameters/ETimeSource.h"
 #include "parameters/HostParameters.h"
 #include "platform/EPressureUnit.h"
-#include "profiles/ProfileGroups.h"
-#include "profiles/TProfile.h"
-#include "stores/TMemoryStore.h"
-#include "terminal/FirstStartValues.h"
 
-#include <QColor>
-#include <QRegularExpression>
-#include <QtTest>
+#include <QCryptographicHash>
 
 #include <cerrno>
 #include <csignal>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace {
-
-QString Utf8(const char* text) { return QString::fromUtf8(text); }
-
-const char* const Name = "tractor.profile";
-
-/// A profile as people see it, with a hash that belongs to it.
-const char* const Small = R"({
-  "product": "cabsettings profile",
-  "format": 1,
-  "origin": {
-    "terminal": "6ba7b810-9dad-41d1-80b4-00c04fd430c8",
-    "software": "1.0.0",
-    "time": "2024-05-01T06:00:11Z",
-    "timeSource": "receiver"
-  },
-  "groups": ["units", "display"],
-  "parameters": [
-    {"number": 8953, "name": "units.metric", "type": "bool", "value": false, "base": true},
-    {"number": 8957, "name": "units.pressure", "type": "int", "value": "bar", "base": "kPa"},
-    {"number": 9061, "name": "display.night-lightbar", "type": "int", "value": 30, "base": 30}
-  ],
-  "sha256": "@"
-}
-)";
-
-} // namespace
-
-class ProfileFiles : public QObject
+/// What an export writes, an import reads; a failure on the way keeps the file that was there.
+class ProfileFiles : public QObject, private TProfileRoom
 {
     Q_OBJECT
 
@@ -60,61 +26,19 @@ private slots:
     void theTimeOfTheExportIsUtc();
     void valuesThatNobodyMayEnterAreLeftOut();
     void groupsChooseWhatIsExported();
-
     void editedFilesAreRefusedUnlessAskedFor();
     void layoutIsNoEdit();
-    void problemsNameTheirLine_data();
-    void problemsNameTheirLine();
-    void allProblemsAreListed();
-    void manyProblemsAreCounted();
-    void laterVersionsAreReadAsFarAsTheyAreKnown();
-    void whatIsNoFileIsRefused_data();
-    void whatIsNoFileIsRefused();
-    void anEnormousFileIsRefusedAtOnce();
-    void noPrefixOfAProfileIsAProfile();
-    void noDamagedByteGoesUnseen_data();
-    void noDamagedByteGoesUnseen();
-
     void aFailureKeepsTheFormerFile_data();
     void aFailureKeepsTheFormerFile();
     void leftoversOfAKilledExportAreRemoved();
-
-private:
-    QString Path() const { return m_Folder->Path(Utf8(Name)); }
-    void Put(const QByteArray& text) const { m_Folder->MakeFile(Utf8(Name), text); }
-
-    /// Small with one text replaced; its hash is not checked by those who accept edits.
-    void PutEdited(const char* before, const char* after) const { Put(QByteArray(Small).replace(before, after)); }
-
-    TProfile Full();
-    std::optional<TProfile> Read(EProfileEdits edits = PROFILE_EDITS_ACCEPTED)
-    {
-        return TProfile::Read(Path(), edits, &m_Problems);
-    }
-    QStringList Problems() const
-    {
-        QStringList problems = m_Problems;
-        return problems.replaceInStrings(m_Folder->Path() + QLatin1Char('/'), QString());
-    }
-
-    std::unique_ptr<TTemporaryFolder> m_Folder;
-    std::unique_ptr<TMemoryStore> m_Store;
-    QStringList m_Problems;
 };
 
 void ProfileFiles::init()
 {
     SystemCalls::Count();
-    m_Folder = std::make_unique<TTemporaryFolder>();
-    m_Store = std::make_unique<TMemoryStore>();
-    SetFirstStartValues(*m_Store);
+    Renew();
     m_Store->SetParameter(PARAM_ACTIVE_JOB, Utf8("Größe \"7\", 畑"), true);
-    m_Store->SetParameter(PARAM_CLIENT, Utf8("Müller & Söhne"), true);
-    m_Store->SetParameter(PARAM_MAP_COLOR_DAY, QColor(1, 2, 3, 4), true);
-    m_Problems.clear();
 }
-
-TProfile ProfileFiles::Full() { return TProfile::Of(*m_Store, ProfileGroups::All(), Utf8("2.1.4-r7")); }
 
 void ProfileFiles::whatIsWrittenIsRead()
 {
@@ -160,7 +84,6 @@ void ProfileFiles::aParameterIsALine()
              static_cast<int>(Full().Parameters().size()));
 }
 
-// The expected text is put together here as the header describes it.
 void ProfileFiles::theHashIsAsDocumented()
 {
     const QByteArray canonical = "19:cabsettings profile,1:1,36:6ba7b810-9dad-41d1-80b4-00c04fd430c8,5:1.0.0,"
@@ -253,214 +176,6 @@ void ProfileFiles::layoutIsNoEdit()
     }
 }
 
-void ProfileFiles::problemsNameTheirLine_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after");
-    QTest::addColumn<QString>("problem"); // its beginning
-    const auto row = [](const char* name, const char* before, const char* after, const char* problem) {
-        QTest::newRow(name) << QByteArray(before) << QByteArray(after) << Utf8("tractor.profile") + Utf8(problem);
-    };
-    row("no choice", "\"bar\"", "\"torr\"",
-        ":13: invalid value \"torr\" for units.pressure; expected kPa (0), psi (1) or bar (2)");
-    row("out of range", "\"value\": 30", "\"value\": 130",
-        ":14: invalid value \"130\" for display.night-lightbar; expected a whole number from 0 to 100");
-    row("a number as text", "\"value\": 30", "\"value\": \"30\"",
-        ":14: invalid value \"30\" for display.night-lightbar; expected a whole number from 0 to 100");
-    row("a fraction", "\"value\": 30", "\"value\": 30.5",
-        ":14: invalid value 30.5 for display.night-lightbar; expected a whole number from 0 to 100");
-    row("a switch as number", "\"value\": false", "\"value\": 0",
-        ":12: invalid value 0 for units.metric; expected true or false");
-    row("null", "\"value\": false", "\"value\": null", ":12: invalid value  for units.metric; expected true or false");
-    row("a list", "\"value\": false", "\"value\": [true]",
-        ":12: invalid value [true] for units.metric; expected true or false");
-    row("another type", "\"type\": \"bool\"", "\"type\": \"int\"",
-        ":12: invalid type \"int\" for units.metric; expected bool");
-    row("a number that is not the name's", "8953", "8954",
-        ":12: number 8954 and name \"units.metric\" disagree; units.us has the number 8954");
-    row("an unknown number", "8953", "4711",
-        ":12: number 4711 and name \"units.metric\" disagree; units.metric has the number 8953");
-    row("an unknown name", "units.metric", "units.metrik",
-        ":12: number 8953 and name \"units.metrik\" disagree; units.metric has the number 8953");
-    row("a parameter twice", "  ],",
-        ",{\"number\": 8953, \"name\": \"units.metric\", \"type\": \"bool\", \"value\": true}],",
-        ":15: units.metric again; line 12 has it too");
-    row("a key twice", "\"format\": 1", "\"format\": 1, \"format\": 1", ":3: not valid JSON: Duplicate key: 'format'");
-    row("no value", ", \"value\": false", "", ":12: missing \"value\"");
-    row("no number", "\"number\": 8953, ", "", ":12: missing \"number\"");
-    row("no name", "\"name\": \"units.metric\", ", "", ":12: missing \"name\"");
-    row("a number as name", "\"units.metric\"", "8953", ":12: invalid \"name\"; expected a text");
-    row("no parameter", "\"groups\": [\"units\", \"display\"],\n  \"parameters\": [",
-        "\"groups\": [],\n  \"parameters\": [7,", ":11: invalid parameter; expected an object");
-    row("no format", "  \"format\": 1,\n", "", ":1: missing \"format\"");
-    row("format 0", "\"format\": 1", "\"format\": 0", ":3: invalid format; expected 1");
-    row("format as text", "\"format\": 1", "\"format\": \"1\"", ":3: invalid \"format\"; expected a whole number");
-    row("no hash", ",\n  \"sha256\": \"@\"", "", ":1: missing \"sha256\"");
-    row("no terminal", "    \"terminal\": \"6ba7b810-9dad-41d1-80b4-00c04fd430c8\",\n", "", ":4: missing \"terminal\"");
-    row("origin as list", "\"groups\": [\"units\", \"display\"]", "\"groups\": {}",
-        ":10: invalid \"groups\"; expected an array");
-    row("another product", "cabsettings profile", "sprayer backup",
-        ":1: not a profile; expected the product \"cabsettings profile\", found sprayer backup");
-    row("no product", "  \"product\": \"cabsettings profile\",\n", "",
-        ":1: not a profile; expected the product \"cabsettings profile\"");
-    row("a comma missing", "\"bool\", \"value\"", "\"bool\" \"value\"",
-        ":12: not valid JSON: Missing ',' or '}' in object declaration");
-    row("a comma too many", "\"base\": 30}", "\"base\": 30},", ":15: not valid JSON: ");
-    row("something behind it", "\"@\"\n}", "\"@\"\n} {}", ":17: not valid JSON: ");
-}
-
-void ProfileFiles::problemsNameTheirLine()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(QByteArray, after);
-    QFETCH(QString, problem);
-    QVERIFY(QByteArray(Small).count(before) == 1 || before == "8953");
-    PutEdited(before.constData(), after.constData());
-    QVERIFY(!Read());
-    QCOMPARE(static_cast<int>(Problems().size()), 1);
-    QVERIFY2(Problems().first().startsWith(problem), qPrintable(Problems().first()));
-    QVERIFY(!Problems().first().contains(QLatin1Char('\n')));
-}
-
-void ProfileFiles::allProblemsAreListed()
-{
-    Put(QByteArray(Small).replace("\"bar\"", "\"torr\"").replace("\"value\": 30", "\"value\": -1"));
-    QVERIFY(!Read());
-    QCOMPARE(
-        Problems(),
-        (QStringList{Utf8("tractor.profile:13: invalid value \"torr\" for units.pressure; expected kPa (0), psi (1) "
-                          "or bar (2)"),
-                     Utf8("tractor.profile:14: invalid value \"-1\" for display.night-lightbar; expected a whole "
-                          "number from 0 to 100")}));
-}
-
-void ProfileFiles::manyProblemsAreCounted()
-{
-    QByteArray rows;
-    for (int count = 0; count < 50; ++count)
-        rows += "7,\n";
-    PutEdited("\"parameters\": [", "\"parameters\": [" + rows);
-    QVERIFY(!Read());
-    QCOMPARE(static_cast<int>(Problems().size()), 21);
-    QCOMPARE(Problems().last(), Utf8("tractor.profile: 30 more"));
-}
-
-void ProfileFiles::laterVersionsAreReadAsFarAsTheyAreKnown()
-{
-    Put(QByteArray(Small)
-            .replace("\"format\": 1", "\"format\": 2, \"season\": {\"year\": 2031}")
-            .replace("\"base\": true", "\"base\": true, \"since\": 5")
-            .replace("  ],", ",{\"number\": 31000, \"name\": \"future.thing\", \"type\": \"list\", \"value\": [1]}],"));
-    const auto read = Read();
-    QVERIFY2(read, qPrintable(m_Problems.join(QLatin1Char('\n'))));
-    QCOMPARE(read->Format(), 2);
-    QCOMPARE(static_cast<int>(read->Parameters().size()), 3);
-    QCOMPARE(read->Ignored(),
-             (QStringList{Utf8("line 12: the field \"since\" of units.metric"), Utf8("line 3: the field \"season\""),
-                          Utf8("line 15: the parameter future.thing (31000)")}));
-}
-
-void ProfileFiles::whatIsNoFileIsRefused_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QByteArray>("content"); // of a file to make
-    QTest::addColumn<QString>("problem");
-    const auto row = [](const char* name, const char* path, const QByteArray& content, const char* problem) {
-        QTest::newRow(name) << Utf8(path) << content << Utf8(problem);
-    };
-    row("missing", "missing", QByteArray(), "missing: cannot be read: No such file or directory");
-    row("folder", ".", QByteArray(), ".: not a regular file");
-    row("device", "/dev/zero", QByteArray(), "/dev/zero: not a regular file");
-    row("pipe", "pipe", QByteArray(), "pipe: not a regular file");
-    row("empty", "file", " \n", "file: the file is empty");
-    row("no text", "file", QByteArray("\xff\xfe{", 3), "file: not a profile: it is not text in UTF-8");
-    row("a word", "file", "hello", "file:1: not valid JSON: ");
-    row("a list", "file", "[]", "file:1: not a profile; expected an object");
-    row("a number", "file", "12", "file:1: not valid JSON: ");
-    row("nested deeply", "file", QByteArray(100000, '['), "file: not valid JSON: it is nested too deeply");
-    row("nested deeply in a value", "file", "{\"a\": " + QByteArray(100000, '[') + "}",
-        "file: not valid JSON: it is nested too deeply");
-}
-
-void ProfileFiles::whatIsNoFileIsRefused()
-{
-    QFETCH(QString, path);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, problem);
-    QCOMPARE(mkfifo(m_Folder->Path(Utf8("pipe")).toUtf8().constData(), 0600), 0);
-    if (!content.isEmpty())
-        m_Folder->MakeFile(path, content);
-    const QString whole = QDir::isAbsolutePath(path) ? path : m_Folder->Path(path);
-    QVERIFY(!TProfile::Read(whole, PROFILE_EDITS_ACCEPTED, &m_Problems));
-    QCOMPARE(static_cast<int>(Problems().size()), 1);
-    QVERIFY2(Problems().first().startsWith(problem), qPrintable(Problems().first()));
-}
-
-// The file is a hole, and takes no space.
-void ProfileFiles::anEnormousFileIsRefusedAtOnce()
-{
-    Put(Small);
-    const qint64 gigabyte = qint64{1} << 30;
-    QVERIFY(QFile::resize(Path(), gigabyte));
-    QVERIFY(!Read());
-    QCOMPARE(Problems(),
-             QStringList{Utf8("tractor.profile: not a profile: it has 1073741824 bytes, a profile has at most "
-                              "4194304")});
-    QVERIFY(QFile::resize(Path(), TProfile::MostBytes + 1));
-    QVERIFY(!Read());
-    QVERIFY(Problems().first().contains(Utf8("it has 4194305 bytes")));
-    Put(Small + QByteArray(static_cast<int>(TProfile::MostBytes) - static_cast<int>(qstrlen(Small)), ' '));
-    QVERIFY(Read());
-}
-
-void ProfileFiles::noPrefixOfAProfileIsAProfile()
-{
-    const QByteArray text = Small;
-    const int end = static_cast<int>(text.lastIndexOf('}'));
-    for (int length = 1; length <= end; ++length) {
-        Put(text.left(length));
-        QVERIFY2(!Read(), qPrintable(QString::number(length)));
-        QCOMPARE(static_cast<int>(m_Problems.size()), 1);
-        const bool isSaid = m_Problems.first().contains(Utf8("cut off: ")) || m_Problems.first().contains(Utf8("JSON"));
-        QVERIFY2(isSaid, qPrintable(m_Problems.first()));
-    }
-}
-
-void ProfileFiles::noDamagedByteGoesUnseen_data()
-{
-    QTest::addColumn<int>("bit");
-    for (int bit = 0; bit < 8; ++bit)
-        QTest::addRow("bit %d", bit) << bit;
-}
-
-// A change of layout may be accepted, then the content is the same.
-void ProfileFiles::noDamagedByteGoesUnseen()
-{
-    QFETCH(int, bit);
-    QString reason;
-    QVERIFY(TProfile::Of(*m_Store, {Utf8("units")}, Utf8("1.0")).Write(Path(), &reason));
-    const QByteArray text = m_Folder->Content(Utf8(Name));
-    const auto original = Read(PROFILE_EDITS_REFUSED);
-    QVERIFY(original);
-    int refused = 0;
-    for (int at = 0; at < text.size(); ++at) {
-        QByteArray damaged = text;
-        damaged[at] = static_cast<char>(damaged.at(at) ^ (1 << bit));
-        Put(damaged);
-        const auto read = Read(PROFILE_EDITS_REFUSED);
-        QVERIFY(read.has_value() == m_Problems.isEmpty());
-        refused += read ? 0 : 1;
-        if (!read)
-            continue;
-        QCOMPARE(read->Parameters().size(), original->Parameters().size());
-        for (int index = 0; index < static_cast<int>(read->Parameters().size()); ++index) {
-            QCOMPARE(read->Parameters().at(index).known, original->Parameters().at(index).known);
-            QCOMPARE(read->Parameters().at(index).value, original->Parameters().at(index).value);
-        }
-    }
-    QVERIFY2(refused > text.size() / 2, qPrintable(QString::number(refused)));
-}
-
 void ProfileFiles::aFailureKeepsTheFormerFile_data()
 {
     QTest::addColumn<int>("error");
@@ -470,8 +185,6 @@ void ProfileFiles::aFailureKeepsTheFormerFile_data()
     QTest::newRow("a read-only stick") << EROFS << Utf8("Read-only file system");
 }
 
-// The first call that fails is every one in turn. Only when the last one fails, the sync of the folder, the new file is
-// there already; "done" is not said all the same.
 void ProfileFiles::aFailureKeepsTheFormerFile()
 {
     QFETCH(int, error);
