@@ -168,6 +168,7 @@ void ProfileProblems::whatIsNoFileIsRefused()
     QVERIFY2(Problems().first().startsWith(problem), qPrintable(Problems().first()));
 }
 
+// The file is a hole, and takes no space.
 void ProfileProblems::anEnormousFileIsRefusedAtOnce()
 {
     Put(Small);
@@ -204,6 +205,7 @@ void ProfileProblems::noDamagedByteGoesUnseen_data()
         QTest::addRow("bit %d", bit) << bit;
 }
 
+// A change of layout may be accepted; then the content is the same.
 void ProfileProblems::noDamagedByteGoesUnseen()
 {
     QFETCH(int, bit);
