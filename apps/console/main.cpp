@@ -35,6 +35,7 @@ const std::vector<tagCommand> Commands = {
     {"fields", "Works on clients, farms, fields and jobs.", RunFields},
     {"paths", "Prints the paths of files and folders.", RunPaths},
     {"storage", "Prints the free space of the drives and the memory.", RunStorage},
+    {"support", "Writes an archive for the service desk.", RunSupport},
     {"units", "Lists the units.", RunUnits},
     {"convert", "Converts a value or a column of values.", RunConvert},
     {"show", "Prints a value as the operator sees it.", RunShow},

@@ -98,7 +98,7 @@ TProfile TProfile::Of(TParameterStore& store, const QStringList& groups, const Q
     return profile;
 }
 
-bool TProfile::Write(const QString& path, QString* reason) const
+QByteArray TProfile::Text() const
 {
     tagContent content = {m_Format, m_Origin, m_Groups, {}, {}, {}};
     for (const tagProfileParameter& parameter : m_Parameters) {
@@ -107,8 +107,10 @@ bool TProfile::Write(const QString& path, QString* reason) const
                              TParameterCatalogue::Text(*parameter.known, parameter.value), parameter.base,
                              KindOf(*parameter.known), 0});
     }
-    return ProfileFile::Write(path, ProfileFile::Text(content), reason);
+    return ProfileFile::Text(content);
 }
+
+bool TProfile::Write(const QString& path, QString* reason) const { return ProfileFile::Write(path, Text(), reason); }
 
 std::optional<TProfile> TProfile::Read(const QString& path, EProfileEdits edits, QStringList* problems)
 {

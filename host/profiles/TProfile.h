@@ -4,6 +4,7 @@
 #include "parameters/TParameterCatalogue.h"
 #include "stores/TParameterStore.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -68,6 +69,9 @@ public:
     /// The profile of the parameters of @p groups that have a value now. A value that TParameterCatalogue does not
     /// accept, and so no import would take, is left out; see LeftOut().
     static TProfile Of(TParameterStore& store, const QStringList& groups, const QString& softwareVersion);
+
+    /// The text of the file, in UTF-8.
+    QByteArray Text() const;
 
     /// Writes the file. Whatever happens on the way, @p path is the former file, if there was one, or the complete new
     /// one. When this returns true, file and folder are on the disk. What a killed program has left in the folder is

@@ -46,7 +46,7 @@ QString DataFolder::ExternalDrive(const QString& dataFolder, const QString& stor
     return isUsed ? stored : ExternalDrive(dataFolder);
 }
 
-bool DataFolder::MakeTree(const QString& internalDrive, QString* error)
+QStringList DataFolder::Folders()
 {
     const char* const folders[] = {
         System::JobsFolder,
@@ -89,9 +89,18 @@ bool DataFolder::MakeTree(const QString& internalDrive, QString* error)
         System::VelmorTempUploadsFolder,
         System::VelmorTempDownloadsFolder,
     };
+    QStringList names;
+    for (const char* folder : folders)
+        names.append(QLatin1String(folder));
+    return names;
+}
+
+bool DataFolder::MakeTree(const QString& internalDrive, QString* error)
+{
     const QDir drive(internalDrive);
-    for (const char* folder : folders) {
-        const QString path = drive.absoluteFilePath(QLatin1String(folder));
+    const QStringList folders = Folders();
+    for (const QString& folder : folders) {
+        const QString path = drive.absoluteFilePath(folder);
         if (!drive.mkpath(path)) {
             *error = QString::fromLatin1("cannot create the folder \"%1\"").arg(path);
             return false;

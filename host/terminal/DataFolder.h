@@ -3,6 +3,7 @@
 #include "HostExport.h"
 
 #include <QString>
+#include <QStringList>
 
 /// The folder that stands for a terminal: the file of its parameter store, and its two drives unless the store names
 /// others.
@@ -26,6 +27,9 @@ CABHOST_EXPORT QString ExternalDrive(const QString& dataFolder);
 /// accept it, the drive is in the data folder; in the second case @p problem receives one line.
 CABHOST_EXPORT QString InternalDrive(const QString& dataFolder, const QString& stored, QString* problem);
 CABHOST_EXPORT QString ExternalDrive(const QString& dataFolder, const QString& stored, QString* problem);
+
+/// The folders that MakeTree() makes, relative to the internal drive.
+CABHOST_EXPORT QStringList Folders();
 
 /// Makes the folders in which the display keeps its files under @p internalDrive. Returns false when that fails, with
 /// the folder named in @p error.

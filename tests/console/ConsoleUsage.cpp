@@ -131,11 +131,11 @@ void ConsoleUsage::everyCommandHasHelp_data()
 {
     QTest::addColumn<QStringList>("command");
     for (const char* command :
-         {"run",           "simulate",      "get",        "set",       "reset",  "list",        "describe",
-          "colors",        "clock show",    "clock set",  "clock utc", "select", "selections",  "paths",
-          "storage",       "units",         "convert",    "show",      "dump",   "log add",     "log tail",
-          "log list",      "log export",    "sun",        "export",    "import", "fields list", "fields add",
-          "fields rename", "fields remove", "fields copy"})
+         {"run",        "simulate",      "get",           "set",        "reset",  "list",       "describe",
+          "colors",     "clock show",    "clock set",     "clock utc",  "select", "selections", "paths",
+          "storage",    "units",         "convert",       "show",       "dump",   "log add",    "log tail",
+          "log list",   "log export",    "sun",           "export",     "import", "support",    "fields list",
+          "fields add", "fields rename", "fields remove", "fields copy"})
         QTest::newRow(command) << QString::fromLatin1(command).split(QLatin1Char(' '));
     QTest::newRow("the program") << QStringList();
     QTest::newRow("clock") << QStringList{QLatin1String("clock")};

@@ -24,6 +24,7 @@ int RunSelections(const tagContext& context, const QStringList& arguments);
 int RunFields(const tagContext& context, const QStringList& arguments);
 int RunPaths(const tagContext& context, const QStringList& arguments);
 int RunStorage(const tagContext& context, const QStringList& arguments);
+int RunSupport(const tagContext& context, const QStringList& arguments);
 int RunUnits(const tagContext& context, const QStringList& arguments);
 int RunConvert(const tagContext& context, const QStringList& arguments);
 int RunShow(const tagContext& context, const QStringList& arguments);
