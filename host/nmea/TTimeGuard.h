@@ -47,7 +47,7 @@ struct tagTimeCheck
 class CABHOST_EXPORT TTimeGuard
 {
 public:
-    static constexpr qint64 MostSeconds = 24 * 60 * 60; ///< ahead or back without a question
+    static constexpr int MostSeconds = 24 * 60 * 60; ///< ahead or back without a question
     static constexpr int FixesToConfirm = 10;
     static constexpr qint64 LongestStep = 10; ///< seconds between two of them
     static constexpr int LongestYears = 5;    ///< from the newest time to a corrected one

@@ -2,7 +2,7 @@
 
 namespace {
 
-const qint64 LongestGap = 30 * 60; // seconds between looks that follow each other
+const int LongestGap = 30 * 60; // seconds between looks that follow each other
 
 bool HasPassed(const tagSunWatch& watch, const tagSunPlace& place, const QDateTime& utc, ESunLevel level, bool isUp)
 {

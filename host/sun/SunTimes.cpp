@@ -17,11 +17,12 @@ namespace {
 
 constexpr double LevelAltitudes[] = {-50.0 / 60, -6}; // degrees; by ESunLevel
 
+const int SecondsPerDay = 24 * 60 * 60;
+const int SecondsPerStep = 10 * 60;
 const qint64 MillisecondsPerSecond = 1000;
-const qint64 MillisecondsPerDay = 24 * 60 * 60 * MillisecondsPerSecond;
-const qint64 Step = 10 * 60 * MillisecondsPerSecond;
+const qint64 MillisecondsPerDay = SecondsPerDay * MillisecondsPerSecond;
+const qint64 Step = SecondsPerStep * MillisecondsPerSecond;
 
-const double SecondsPerDay = 24 * 60 * 60;
 const double JulianDayOf1970 = 2440587.5;
 const double DegreesPerHour = 15;
 

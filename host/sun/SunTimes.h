@@ -56,8 +56,8 @@ CABHOST_EXPORT bool IsSunPlace(const tagSunPlace& place);
 ///     ShowSunset(times.set);
 /// \endcode
 ///
-/// Right to a few seconds in the years 1900 to 2100 for the standard atmosphere and a flat horizon. Air and hills move
-/// the real sunset by minutes.
+/// Within a minute of an almanac's tables, for the standard atmosphere and a flat horizon. Air and hills move the real
+/// sunset by minutes.
 ///
 /// These functions may be called from any thread.
 CABHOST_EXPORT tagSunTimes SunTimes(const tagSunPlace& place, const QDate& date, ESunLevel level);

@@ -6,10 +6,10 @@
 
 namespace {
 
-const qint64 SecondsBetweenLooks = 60;
+const int SecondsBetweenLooks = 60;
 
 /// A crossing so soon after the last switch is the same one again, at the place where a vehicle starts that was moved.
-const qint64 SecondsOfOneCrossing = 30 * 60;
+const int SecondsOfOneCrossing = 30 * 60;
 
 /// Empty when the operator alone switches.
 std::optional<ESunLevel> LevelOf(int switching)
