@@ -75,7 +75,7 @@ private:
 
 } // namespace
 
-bool WriteSupportBundle(TParameterStore& store, const QString& path, const tagSupportRequest& request,
+bool WriteSupportBundle(TSqliteStore& store, const QString& path, const tagSupportRequest& request,
                         const TSupportProgress& progress, tagSupportBundle* bundle, QString* error)
 {
     *bundle = {};
@@ -87,7 +87,7 @@ bool WriteSupportBundle(TParameterStore& store, const QString& path, const tagSu
         CollectNames(store, clean, &blanker);
         CopyBlanked(store.Values(), &blanker, &blanked);
     }
-    const tagSupportSource source = {request.isAnonymous ? blanked : store, clean,
+    const tagSupportSource source = {request.isAnonymous ? static_cast<TParameterStore&>(blanked) : store, store, clean,
                                      request.isAnonymous ? &blanker : nullptr, &bundle->problems};
     TZipFile zip(path);
     const QList<tagSupportMember> members = SupportMembers();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "HostExport.h"
-#include "stores/TParameterStore.h"
+#include "stores/TSqliteStore.h"
 
 #include <QString>
 #include <QStringList>
@@ -27,8 +27,8 @@ struct tagSupportBundle
 using TSupportProgress = std::function<void(const QString& member, int number, int count)>;
 
 /// Writes what a service desk needs to help an operator into one zip archive: the settings as a profile, the catalogue
-/// of parameters with their values, both logs, a check of the store, versions, memory and drives, and the names and
-/// sizes of all files of the terminal.
+/// of parameters with their values, the journal of their changes, both logs, a check of the store, versions, memory and
+/// drives, and the names and sizes of all files of the terminal.
 ///
 /// @code
 /// const tagSupportRequest request = {folder, version, true};
@@ -37,8 +37,8 @@ using TSupportProgress = std::function<void(const QString& member, int number, i
 /// @endcode
 ///
 /// In an anonymous bundle the names of clients, farms, fields, jobs and all other items are replaced, each by the same
-/// word wherever it occurs: "client-1". These are the names that the terminal has now, and the names in entries of the
-/// user log about selections. Names of one or two characters are replaced where they stand alone. Positions are
+/// word wherever it occurs: "client-1". These are the names that the terminal has now, and those that the journal and
+/// the user log tell of selections. Names of one or two characters are replaced where they stand alone. Positions are
 /// removed: from sentences with a right checksum, which get a new one, and from texts, where numbers with four or more
 /// decimals count as positions. Of sentences that are damaged or not known, nothing but the length or the beginning is
 /// left. What else operators have written in an entry of the user log stays.
@@ -50,5 +50,5 @@ using TSupportProgress = std::function<void(const QString& member, int number, i
 /// Needs a terminal that runs, whose store is @p store. Files are not held in memory as a whole.
 /// @param progress is called in the thread of the caller; may be empty.
 /// @param error one line that names the file, when the result is false.
-CABHOST_EXPORT bool WriteSupportBundle(TParameterStore& store, const QString& path, const tagSupportRequest& request,
+CABHOST_EXPORT bool WriteSupportBundle(TSqliteStore& store, const QString& path, const tagSupportRequest& request,
                                        const TSupportProgress& progress, tagSupportBundle* bundle, QString* error);

@@ -4,9 +4,11 @@
 #include "fields/FieldPath.h"
 #include "fields/FileTree.h"
 #include "logs/TLogSeries.h"
+#include "parameters/ParameterText.h"
 #include "parameters/TParameterCatalogue.h"
 #include "profiles/ProfileGroups.h"
 #include "profiles/TProfile.h"
+#include "stores/ChangeJournal.h"
 #include "stores/StoreTable.h"
 #include "stores/TSqliteConnection.h"
 #include "system/TSystemSettings.h"
@@ -26,6 +28,7 @@ const QLatin1Char Separator('/');
 const QLatin1Char Dot('.');
 const int PatienceMs = 5000;
 const qint64 PieceBytes = 0x10000;
+const int JournalEntries = 10000; ///< all that a journal keeps
 
 QByteArray Line(const QString& text) { return text.toUtf8() + '\n'; }
 
@@ -77,6 +80,32 @@ void WriteStoreCheck(const tagSupportSource& source, const TSupportSink& sink)
         sink(Line(QString::fromLatin1("parameter %1 cannot be read").arg(row.key())));
     if (!failure.text.isEmpty())
         Report(source, sink, QLatin1String("cannot check the store: ") + failure.text);
+}
+
+QString JournalValue(const tagParameter* known, const QVariant& value)
+{
+    if (!value.isValid())
+        return QLatin1String("(not set)");
+    return known ? TParameterCatalogue::Text(*known, value) : ParameterText::FromValue(value);
+}
+
+void WriteJournal(const tagSupportSource& source, const TSupportSink& sink)
+{
+    ChangeJournal::tagJournal journal;
+    QString error;
+    if (!ChangeJournal::Read(source.store, {std::nullopt, JournalEntries}, &journal, &error)) {
+        Report(source, sink, error);
+        return;
+    }
+    for (const ChangeJournal::tagEntry& entry : journal.entries) {
+        const tagParameter* const known = TParameterCatalogue::Find(entry.parameter);
+        sink(Line(QString::fromLatin1("%1  %2  %3  %4  %5 %6: %7 -> %8")
+                      .arg(QString::number(entry.number), entry.time, entry.utc, entry.author,
+                           QString::number(entry.parameter), known ? known->name : QString(),
+                           JournalValue(known, entry.oldValue), JournalValue(known, entry.newValue))));
+    }
+    for (const qint64 number : journal.damaged)
+        sink(Line(QString::fromLatin1("entry %1 cannot be read").arg(number)));
 }
 
 void WriteVersions(const tagSupportSource& source, const TSupportSink& sink)
@@ -163,9 +192,10 @@ struct tagPart
 };
 
 constexpr tagPart Parts[] = {
-    {"terminal.profile", SUPPORT_LINES_DONE, WriteProfile},   {"parameters.txt", SUPPORT_LINES_DONE, WriteCatalogue},
-    {"store-check.txt", SUPPORT_LINES_TEXT, WriteStoreCheck}, {"versions.txt", SUPPORT_LINES_DONE, WriteVersions},
-    {"system.txt", SUPPORT_LINES_DONE, WriteSystem},          {"files.txt", SUPPORT_LINES_DONE, WriteFiles},
+    {"terminal.profile", SUPPORT_LINES_DONE, WriteProfile}, {"parameters.txt", SUPPORT_LINES_DONE, WriteCatalogue},
+    {"journal.txt", SUPPORT_LINES_TEXT, WriteJournal},      {"store-check.txt", SUPPORT_LINES_TEXT, WriteStoreCheck},
+    {"versions.txt", SUPPORT_LINES_DONE, WriteVersions},    {"system.txt", SUPPORT_LINES_DONE, WriteSystem},
+    {"files.txt", SUPPORT_LINES_DONE, WriteFiles},
 };
 
 /// The parts that are a series of files each.
@@ -201,7 +231,7 @@ QList<tagSupportMember> SupportMembers()
     return members;
 }
 
-void CollectNames(TParameterStore& store, const tagSupportRequest& request, TBlanker* blanker)
+void CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanker* blanker)
 {
     TFieldTree tree(store);
     QString missing;
@@ -215,6 +245,15 @@ void CollectNames(TParameterStore& store, const tagSupportRequest& request, TBla
     for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
         if (parameter.mostBytes > 0)
             blanker->Add(parameter.name.section(Dot, 1), values.value(parameter.id).toString());
+    }
+    ChangeJournal::tagJournal journal;
+    ChangeJournal::Read(store, {std::nullopt, JournalEntries}, &journal, &missing);
+    for (const ChangeJournal::tagEntry& entry : journal.entries) {
+        const tagParameter* const known = TParameterCatalogue::Find(entry.parameter);
+        if (!known || known->mostBytes == 0)
+            continue;
+        blanker->Add(known->name.section(Dot, 1), entry.oldValue.toString());
+        blanker->Add(known->name.section(Dot, 1), entry.newValue.toString());
     }
     const TLogSeries log(Proxy().GetInternalUserLogPath());
     for (const TLogSeries::tagFile& file : log.GetFiles()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "stores/TParameterStore.h"
+#include "stores/TSqliteStore.h"
 #include "support/SupportBundle.h"
 #include "support/TBlanker.h"
 
@@ -15,6 +15,7 @@
 struct tagSupportSource
 {
     TParameterStore& parameters; ///< in an anonymous bundle with blanked values
+    const TSqliteStore& store;   ///< for its journal
     const tagSupportRequest& request;
     TBlanker* blanker; ///< null unless names and positions are blanked
     QStringList* problems;
@@ -43,4 +44,4 @@ struct tagSupportMember
 QList<tagSupportMember> SupportMembers();
 
 /// Makes all names known that the terminal has.
-void CollectNames(TParameterStore& store, const tagSupportRequest& request, TBlanker* blanker);
+void CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanker* blanker);

@@ -33,7 +33,8 @@ int RunSupport(const tagContext& context, const QStringList& arguments)
     TCommandLine line(
         QLatin1String("support"), QLatin1String("FILE"),
         QLatin1String(
-            "Writes a zip archive for the service desk: the settings as a profile, the parameters, both logs, a "
+            "Writes a zip archive for the service desk: the settings as a profile, the parameters, the journal of "
+            "their changes, both logs, a "
             "check of the store, versions, memory and drives, and the names and sizes of all files. An existing "
             "FILE is replaced when the new archive is complete and on the disk."),
         QLatin1String("cabsettings support /media/usb/support.zip --anonymous"));

@@ -96,6 +96,7 @@ constexpr tagNamed Names[] = {
 QString Name(const tagNamed& row) { return QString::fromUtf8(row.name); }
 
 const char* const RemovedName = "Altacker";                  // in the user log alone
+const char* const FormerName = "Sandgrube";                  // in the journal alone
 const char* const OtherNames[] = {"Kuhweide", "Heidepflug"}; // in folders alone
 
 /// Pieces of positions, as they are written in sentences, logs and texts.
@@ -143,19 +144,22 @@ SupportBundles::TMembers SupportBundles::Members() const
 
 void SupportBundles::everyPartIsInTheBundle()
 {
+    m_Store->SetParameter(PARAM_METRIC, false, true);
     QVERIFY(AddUserLogEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_EVENT, 0, QLatin1String("started"), QString()));
     MakeFile(NmeaLog, "$GPZDA\r\n");
     MakeFile(QLatin1String("Clients/Smith/North/F1/F1.ini"), "12345");
     const TMembers members = Members(false);
-    QCOMPARE(members.keys(), (QStringList{QLatin1String("files.txt"), QLatin1String("logs/NMEA00001.csv"),
-                                          QLatin1String("logs/User00001.csv"), QLatin1String("parameters.txt"),
-                                          QLatin1String("store-check.txt"), QLatin1String("system.txt"),
-                                          QLatin1String("terminal.profile"), QLatin1String("versions.txt")}));
+    QCOMPARE(members.keys(),
+             (QStringList{QLatin1String("files.txt"), QLatin1String("journal.txt"), QLatin1String("logs/NMEA00001.csv"),
+                          QLatin1String("logs/User00001.csv"), QLatin1String("parameters.txt"),
+                          QLatin1String("store-check.txt"), QLatin1String("system.txt"),
+                          QLatin1String("terminal.profile"), QLatin1String("versions.txt")}));
     QCOMPARE(m_Bundle.problems, QStringList());
     QCOMPARE(m_Bundle.members.size(), members.size());
     const QMap<const char*, const char*> contents = {
         {"files.txt", "\ninternal/Clients/Smith/North/F1/F1.ini  5\n"},
-        {"parameters.txt", "8953 units.metric = true\n"},
+        {"journal.txt", "8953 units.metric: true -> false\n"},
+        {"parameters.txt", "8953 units.metric = false\n"},
         {"store-check.txt", "store: structure is whole\nparameters: "},
         {"system.txt", "memory: "},
         {"versions.txt", "cabsettings: 1.2.3\n"},
@@ -199,6 +203,7 @@ void SupportBundles::progressNamesEachMember()
 void SupportBundles::anAnonymousBundleHoldsNoNameAndNoPosition()
 {
     QString all;
+    m_Store->SetParameter(PARAM_ACTIVE_JOB, QLatin1String(FormerName), true);
     for (const tagNamed& row : Names) {
         m_Store->SetParameter(row.parameter, Name(row), true);
         all += QLatin1String(" / ") + Name(row).toUpper() + QLatin1String(" / ") +
@@ -227,7 +232,8 @@ void SupportBundles::anAnonymousBundleHoldsNoNameAndNoPosition()
             bytes += member.key().toUtf8() + '\n' + member.value() + '\n';
         return QString(QString::fromUtf8(bytes) + QString::fromLatin1(bytes));
     };
-    QStringList secrets = {QLatin1String(RemovedName), QLatin1String(OtherNames[0]), QLatin1String(OtherNames[1])};
+    QStringList secrets = {QLatin1String(RemovedName), QLatin1String(FormerName), QLatin1String(OtherNames[0]),
+                           QLatin1String(OtherNames[1])};
     for (const tagNamed& row : Names)
         secrets.append(Name(row));
     const QString decomposed = Name(Names[0]).normalized(QString::NormalizationForm_D);
