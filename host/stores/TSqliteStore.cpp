@@ -1,6 +1,8 @@
 #include "stores/TSqliteStore.h"
 
+#include "stores/DayCopies.h"
 #include "stores/StandardError.h"
+#include "stores/StoreFileCopy.h"
 #include "stores/StoredValue.h"
 #include "stores/TDiskThread.h"
 #include "stores/TSqliteStoreFile.h"
@@ -50,8 +52,30 @@ QString TSqliteStore::Load()
     if (!error.isEmpty())
         return error;
     Take(content);
-    m_Watch = std::make_unique<TWatchThread>([this] { LookAtDisk(); });
+    m_Day = DayNow();
+    m_Watch = std::make_unique<TWatchThread>([this] {
+        LookAtDisk();
+        CopyPastDay();
+    });
     return {};
+}
+
+QDate TSqliteStore::DayNow() { return DayCopies::Today(GetParameter(PARAM_CLOCK_OFFSET).toInt()); }
+
+// When the day changes: the day that is over ends with what is in the file now, and the new one begins with it.
+void TSqliteStore::CopyPastDay()
+{
+    const QDate day = DayNow();
+    if (day == m_Day)
+        return;
+    const QDate past = m_Day;
+    m_Day = day;
+    TSqliteConnection connection(m_Path, TSqliteConnection::SQLITE_ACCESS_READ, StoreFileCopy::CopyPatience);
+    QString reason;
+    if (!DayCopies::Make(connection, m_Path, past, DAY_COPY_ALWAYS, &reason) ||
+        !DayCopies::Make(connection, m_Path, day, DAY_COPY_MISSING, &reason))
+        SayOnStandardError(
+            QString::fromLatin1("the copies in %1 cannot be made: %2").arg(DayCopies::Folder(m_Path), reason));
 }
 
 void TSqliteStore::Take(const StoreTable::tagContent& content)

@@ -2,6 +2,7 @@
 
 #include "stores/TParameterStore.h"
 
+#include <QDate>
 #include <QString>
 
 #include <memory>
@@ -39,6 +40,9 @@ struct tagContent;
 /// The store keeps these files beside the file `name`:
 /// - `name.good`, the last good copy. It is made by the first program that opens the file and by the last one that
 ///   closes it.
+/// - `name.copies/`, a copy for each of the last seven days and the newest of each of the last four weeks on which the
+///   store was open, by the terminal's clock. They are made with the good copy, and when the day changes. See
+///   StoreCopies.
 /// - `name.damaged-1` (-2, -3...), a damaged file, kept for examination. When the file as a whole is damaged, the first
 ///   program that opens it moves it there and puts the good copy in its place. When rows alone are damaged, it copies
 ///   the file there, and these rows get their values from the good copy or are removed. A file that is damaged as a
@@ -77,6 +81,8 @@ protected:
 private:
     TSqliteStore(const QString& path, int patience);
     QString Load();
+    QDate DayNow();
+    void CopyPastDay();
     void Take(const StoreTable::tagContent& content);
 
     const QString m_Path;
@@ -86,5 +92,6 @@ private:
     QString m_WriteFailure;
     QString m_JournalFailure;
     QMap<int, QString> m_Problems;
+    QDate m_Day;                           // the day on the terminal's clock when it was last looked at
     std::unique_ptr<TWatchThread> m_Watch; // uses the other members: made last, destroyed first
 };

@@ -1,29 +1,18 @@
 #include "stores/TSqliteStoreFile.h"
 
+#include "stores/DayCopies.h"
 #include "stores/JournalTable.h"
 #include "stores/StandardError.h"
+#include "stores/StoreFileCopy.h"
 #include "stores/StoreHeader.h"
 
 #include <QStringList>
 
+using namespace StoreFileCopy;
+
 namespace {
 
-const int CopyPatience = 5000; // milliseconds; another tool may have a copy open
 const QString Memory = QLatin1String(":memory:");
-
-// The files that SQLite keeps beside a database. They are moved with it: SQLite would apply those left behind to the
-// next database of the same name.
-constexpr const char* CompanionSuffixes[] = {"-wal", "-shm", "-journal"};
-
-QStringList Companions(const QString& path)
-{
-    QStringList paths;
-    for (const char* suffix : CompanionSuffixes)
-        paths += path + QLatin1String(suffix);
-    return paths;
-}
-
-QStringList WithCompanions(const QString& path) { return QStringList(path) + Companions(path); }
 
 bool AnyExists(const QStringList& paths)
 {
@@ -64,47 +53,6 @@ bool SetAside(const QString& path, const tagStoreFinding& found, QString* reason
     }
     SayOnStandardError(line);
     return true;
-}
-
-// Checks and reads a file that no program has open.
-tagStoreFinding CheckAtRest(const QString& path, StoreTable::tagContent* content)
-{
-    tagStoreFinding finding = RecogniseStoreFile(path);
-    if (finding.state != STORE_FILE_CLEAN)
-        return finding;
-    TSqliteConnection connection(path, TSqliteConnection::SQLITE_ACCESS_READ, CopyPatience);
-    return StoreTable::Read(connection, content);
-}
-
-enum EDamagedRows : int
-{
-    DAMAGED_ROWS_ACCEPTED,
-    DAMAGED_ROWS_REFUSED,
-};
-
-// Replaces @p target by a copy of the database. At every moment the target is the old file or the complete and checked
-// copy.
-bool CopyTo(TSqliteConnection& source, const QString& target, EDamagedRows damagedRows, QString* reason)
-{
-    const QString fresh = target + QLatin1String(".new");
-    for (const QString& remains : WithCompanions(fresh))
-        if (!DurableFiles::Remove(remains, reason))
-            return false;
-    source.Run(QLatin1String("VACUUM INTO ?"), {fresh});
-    const TSqliteConnection::tagFailure failure = source.TakeFailure();
-    if (!failure.text.isEmpty()) {
-        *reason = failure.text;
-    } else if (DurableFiles::SyncContent(fresh, reason)) {
-        StoreTable::tagContent content;
-        const tagStoreFinding finding = CheckAtRest(fresh, &content);
-        const bool isClean = finding.state == STORE_FILE_CLEAN && content.journalDamage.isEmpty();
-        if (isClean && (damagedRows == DAMAGED_ROWS_ACCEPTED || content.damaged.isEmpty()))
-            return DurableFiles::Rename(fresh, target, reason);
-        *reason = isClean ? StoreTable::DamageText(content.damaged) : finding.words + content.journalDamage;
-    }
-    QString ignored;
-    DurableFiles::Remove(fresh, &ignored); // its space may be needed
-    return false;
 }
 
 QString CannotBeUsed(const QString& path, const QString& reason)
@@ -189,7 +137,7 @@ TSqliteStoreFile::~TSqliteStoreFile()
     m_Connection.reset();
     if (m_Lock.TakeAlone() && IsStillThere()) {
         TSqliteConnection connection(m_Path, TSqliteConnection::SQLITE_ACCESS_WRITE, m_Patience);
-        MakeGoodCopy(connection);
+        MakeGoodCopy(connection, DAY_COPY_CHANGED);
     }
 }
 
@@ -241,7 +189,7 @@ bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
     DurableFiles::Identify(m_Path, &m_Identity);
     JournalTable::Create(*connection); // before the disk is full
     connection->TakeFailure();         // without it, parameters can be stored all the same
-    MakeGoodCopy(*connection);
+    MakeGoodCopy(*connection, DAY_COPY_MISSING);
     return true;
 }
 
@@ -374,7 +322,7 @@ QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes, const QMap<i
 {
     QString reason = StoreTable::Write(*m_Connection, changes, authors, journalDamage);
     // SQLite can still write to a file that was deleted or moved, or whose drive is gone. Such a write has failed.
-    if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(CompanionSuffixes[0]))))
+    if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(LogSuffix))))
         reason = QLatin1String("it is no longer there");
     return reason.isEmpty() ? reason : CannotBeWritten(m_Path, reason);
 }
@@ -385,9 +333,13 @@ bool TSqliteStoreFile::IsStillThere() const
     return DurableFiles::Identify(m_Path, &named) && named == m_Identity;
 }
 
-void TSqliteStoreFile::MakeGoodCopy(TSqliteConnection& source)
+// And the copy of the day.
+void TSqliteStoreFile::MakeGoodCopy(TSqliteConnection& source, EDayCopy when)
 {
+    const QDate day = DayCopies::Today(source);
     QString reason;
     if (!CopyTo(source, m_GoodPath, DAMAGED_ROWS_REFUSED, &reason))
         SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(m_GoodPath, reason));
+    else if (!DayCopies::Make(source, m_Path, day, when, &reason))
+        SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(DayCopies::File(m_Path, {day, 0}), reason));
 }

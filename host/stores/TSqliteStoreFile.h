@@ -1,5 +1,6 @@
 #pragma once
 
+#include "stores/DayCopies.h"
 #include "stores/DurableFiles.h"
 #include "stores/StoreTable.h"
 #include "stores/TSqliteConnection.h"
@@ -12,9 +13,9 @@
 
 #include <memory>
 
-/// The file of a store and its last good copy. A power cut or a damaged file costs no more than the values written
-/// since the copy was made, and a file that belongs to another program is not touched. Says on standard error which
-/// files it has moved or copied aside, and what it goes on with.
+/// The file of a store, its last good copy and the copies of its days. A power cut or a damaged file costs no more than
+/// the values written since the copy was made, and a file that belongs to another program is not touched. Says on
+/// standard error which files it has moved or copied aside, and what it goes on with.
 ///
 /// Several objects can have one file open, in this process and others. The file is repaired, replaced and copied only
 /// by an object that is alone with it: the first one when it opens the file, and the last one when it closes it.
@@ -56,7 +57,7 @@ private:
     bool PutRowsInPlace(const QString& source, QString* reason);
     bool PutInPlace(TSqliteConnection& source, QString* reason);
     bool IsStillThere() const;
-    void MakeGoodCopy(TSqliteConnection& source);
+    void MakeGoodCopy(TSqliteConnection& source, EDayCopy when);
 
     const QString m_Path;
     const QString m_GoodPath;

@@ -328,7 +328,8 @@ void StoreAmongPrograms::aProgramKilledAsItComesOrGoesHindersNobody()
         const int beyond = values.value(FirstOwn * (program + 1)).toInt() - last[static_cast<size_t>(program)];
         QVERIFY(beyond == 0 || beyond == 1); // stored, but killed before the report
     }
-    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.good")}));
+    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.copies"),
+                                               QLatin1String("settings.db.good")}));
     QCOMPARE(standardError.Lines(), QStringList());
 }
 
