@@ -27,6 +27,7 @@ const std::vector<tagCommand> Commands = {
     {"import", "Takes parameters from a file.", RunImport},
     {"history", "Prints the changes of parameters.", RunHistory},
     {"undo", "Takes back a change of a parameter.", RunUndo},
+    {"backup", "Lists, makes and restores copies of the parameters.", RunBackup},
     {"colors", "Prints the colours by day and by night.", RunColors},
     {"sun", "Prints when the sun rises and sets.", RunSun},
     {"clock", "Prints the clock, and sets it.", RunClock},

@@ -44,6 +44,8 @@ void ConsoleCompletion::theNextWordIsOffered_data()
     row("set active.job", "--type", "true hectare");
     row("set active.job J_1", "--type", "true hectare");
     row("list", "units.metric --json", "true");
+    row("backup", "list now restore", "units.metric");
+    row("backup restore", "--dry-run --json", "units.metric");
     row("history", "units.metric --json --count", "true");
     row("undo", "--json", "units.metric");
     row("monitor", "units.metric --json --count", "true");

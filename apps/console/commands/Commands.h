@@ -11,6 +11,7 @@ int RunSet(const tagContext& context, const QStringList& arguments);
 int RunReset(const tagContext& context, const QStringList& arguments);
 int RunDescribe(const tagContext& context, const QStringList& arguments);
 int RunList(const tagContext& context, const QStringList& arguments);
+int RunBackup(const tagContext& context, const QStringList& arguments);
 int RunHistory(const tagContext& context, const QStringList& arguments);
 int RunUndo(const tagContext& context, const QStringList& arguments);
 int RunMonitor(const tagContext& context, const QStringList& arguments);
