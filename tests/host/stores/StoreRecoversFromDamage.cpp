@@ -479,7 +479,8 @@ void StoreRecoversFromDamage::aNewStoreSaysNothing()
     TStandardErrorCapture standardError;
     QVERIFY(OpenStore(m_Path)->Values().isEmpty());
     QCOMPARE(standardError.Lines(), QStringList());
-    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.good")}));
+    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.copies"),
+                                               QLatin1String("settings.db.good")}));
 }
 
 void StoreRecoversFromDamage::theGoodCopyIsMadeAtOpeningAndClosing()
@@ -492,7 +493,8 @@ void StoreRecoversFromDamage::theGoodCopyIsMadeAtOpeningAndClosing()
     QCOMPARE(RunSql(m_Path + Good, select).toString(), QLatin1String("Jones"));
     store.reset();
     QCOMPARE(RunSql(m_Path + Good, select).toString(), QLatin1String("Brown"));
-    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.good")}));
+    QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.copies"),
+                                               QLatin1String("settings.db.good")}));
 }
 
 void StoreRecoversFromDamage::theGoodCopyIsNotMadeOfADamagedFile()
@@ -521,8 +523,9 @@ void StoreRecoversFromDamage::remainsOfAnUnfinishedCopyDoNotMatter()
         SetFileBytes(m_Path + QLatin1String(suffix) + QLatin1String("-journal"), "half a journal");
         TStandardErrorCapture standardError;
         QCOMPARE(StoredValues(m_Path), m_GoodValues);
-        QCOMPARE(NamesBeside(m_Path), (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.damaged-1"),
-                                                   QLatin1String("settings.db.good")}));
+        QCOMPARE(NamesBeside(m_Path),
+                 (QStringList{QLatin1String("settings.db"), QLatin1String("settings.db.copies"),
+                              QLatin1String("settings.db.damaged-1"), QLatin1String("settings.db.good")}));
     }
 }
 
