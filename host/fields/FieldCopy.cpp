@@ -31,7 +31,8 @@ QString Quoted(const QString& text) { return QLatin1Char('"') + text + QLatin1Ch
 QByteArray Checksum(int file)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    const bool isRead = CopyContents(file, -1, [&hash](const char* data, int length) { hash.addData(QByteArray::fromRawData(data, length)); });
+    const bool isRead = CopyContents(
+        file, -1, [&hash](const char* data, int length) { hash.addData(QByteArray::fromRawData(data, length)); });
     return isRead ? hash.result() : QByteArray();
 }
 
