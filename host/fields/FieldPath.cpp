@@ -27,7 +27,7 @@ bool IsAccepted(const FieldPlaces::tagLevel& level, const QString& name, QString
 
 QStringList FieldPath::Read(const QString& text, QString* error)
 {
-    const QStringList names = text.split(Separator);
+    QStringList names = text.split(Separator);
     if (names.size() > MostNames) {
         *error = QString::fromLatin1("invalid path \"%1\": it has %2 names; expected CLIENT[/FARM[/FIELD[/JOB]]]")
                      .arg(text)

@@ -165,7 +165,7 @@ QString FieldRename::Obstacle(const QString& drive, const QStringList& path, con
     const QStringList folders = FieldPlaces::FoldersOfItsName(path);
     for (const QString& relative : folders) {
         const QString folder = On(drive, relative);
-        const QString named = Beside(folder, name);
+        QString named = Beside(folder, name);
         if (relative != folders.first() && FileTree::Exists(named))
             return named;
         const auto renamings = Renamings(folder, path.last(), name);

@@ -54,7 +54,7 @@ QList<tagChange> AfterRename(const QStringList& path, const QString& name)
 {
     if (!IsActive(path))
         return {};
-    const QString before = path.last();
+    const QString& before = path.last();
     QList<tagChange> changes = {{FieldPlaces::LevelOf(path).parameter, before, name}};
     const int folders = static_cast<int>(FieldPlaces::FoldersOfItsName(path).size());
     for (int i = 1; i < folders; ++i) {

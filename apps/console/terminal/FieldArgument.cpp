@@ -75,7 +75,7 @@ void OfferFieldPaths(TCommandLine& line, const tagContext& context, const QStrin
 QStringList ReadFieldPath(const TCommandLine& line)
 {
     QString error;
-    const QStringList path = FieldPath::Read(line.Words().first(), &error);
+    QStringList path = FieldPath::Read(line.Words().first(), &error);
     if (path.isEmpty())
         line.Misused(error);
     return path;
