@@ -15,7 +15,7 @@ constexpr tagReason Reasons[] = {
     {QSerialPort::OpenError, "it is open already"},
     {QSerialPort::ReadError, "it cannot be read"},
     {QSerialPort::ResourceError, "it was unplugged"},
-    {QSerialPort::UnsupportedOperationError, "it does not take these settings"},
+    {QSerialPort::UnsupportedOperationError, "it is not a serial device, or does not take these settings"},
 };
 
 QString Reason(QSerialPort::SerialPortError error)
