@@ -45,7 +45,7 @@ TLogKeeper::tagEnd TLogKeeper::Finish(TDiagnosticLogProxy& log)
     Look(log);
     if (m_HasFailed || m_Gap.lines > 0)
         TryAgain(log);
-    const tagEnd end = {TakeFound(), m_Gap};
+    tagEnd end = {TakeFound(), m_Gap};
     m_IsKnown = false;
     m_LostLines = 0;
     m_Gap = {0, QDateTime(), QDateTime()};

@@ -22,7 +22,7 @@
 namespace {
 
 const qint64 MillisecondsPerSecond = 1000;
-const qint64 SecondsPerDay = 24 * 60 * 60;
+const qint64 SecondsPerDay = qint64(24) * 60 * 60;
 const qint64 MillisecondsPerDay = SecondsPerDay * MillisecondsPerSecond;
 const qint64 NanosecondsPerMillisecond = 1000000;
 const qint64 JulianDayOf1970 = 2440588;

@@ -37,10 +37,10 @@ QVariant ReadValue(const tagParameter& parameter, const QString& text, ProfileFi
     return QVariant();
 }
 
-/// The terminal's idea of UTC. A terminal that nobody has told the time has the machine's.
+/// The terminal's idea of UTC. A terminal whose clock nothing has set has the machine's.
 QDateTime UtcOf(TParameterStore& store)
 {
-    const QDateTime machine = QDateTime::currentDateTimeUtc();
+    QDateTime machine = QDateTime::currentDateTimeUtc();
     if (store.GetParameter(PARAM_TIME_SOURCE).toInt() == TIME_SOURCE_NONE)
         return machine;
     const int minutes = store.GetParameter(PARAM_UTC_OFFSET_HOURS).toInt() * MinutesPerHour +
@@ -76,7 +76,7 @@ const tagParameter* KnownOf(const tagRow& row, TProblems* problems)
 
 } // namespace
 
-const qint64 TProfile::MostBytes = 4 * 1024 * 1024;
+const qint64 TProfile::MostBytes = qint64(4) * 1024 * 1024;
 
 TProfile TProfile::Of(TParameterStore& store, const QStringList& groups, const QString& softwareVersion)
 {
