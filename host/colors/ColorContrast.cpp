@@ -54,22 +54,14 @@ struct tagContrastPair
 };
 
 constexpr tagContrastPair Pairs[] = {
-    {"text", "background", CONTRAST_TEXT},
-    {"text", "map", CONTRAST_TEXT},
-    {"title", "background", CONTRAST_TEXT},
-    {"button-text", "button", CONTRAST_TEXT},
-    {"button", "background", CONTRAST_FACE},
-    {"external-boundary", "map", CONTRAST_GRAPHIC},
-    {"internal-boundary", "map", CONTRAST_GRAPHIC},
-    {"inactive-boundaries", "map", CONTRAST_GRAPHIC},
-    {"vehicle", "map", CONTRAST_GRAPHIC},
-    {"track", "map", CONTRAST_GRAPHIC},
-    {"cross-hairs", "map", CONTRAST_GRAPHIC},
-    {"coverage", "map", CONTRAST_FILL},
-    {"exclusion-zone", "map", CONTRAST_FILL},
-    {"grid", "map", CONTRAST_GRID},
-    {"vehicle", "coverage", CONTRAST_OVERLAP},
-    {"track", "coverage", CONTRAST_OVERLAP},
+    {"text", "background", CONTRAST_TEXT},          {"text", "map", CONTRAST_TEXT},
+    {"title", "background", CONTRAST_TEXT},         {"button-text", "button", CONTRAST_TEXT},
+    {"button", "background", CONTRAST_FACE},        {"external-boundary", "map", CONTRAST_GRAPHIC},
+    {"internal-boundary", "map", CONTRAST_GRAPHIC}, {"inactive-boundaries", "map", CONTRAST_GRAPHIC},
+    {"vehicle", "map", CONTRAST_GRAPHIC},           {"track", "map", CONTRAST_GRAPHIC},
+    {"cross-hairs", "map", CONTRAST_GRAPHIC},       {"coverage", "map", CONTRAST_FILL},
+    {"exclusion-zone", "map", CONTRAST_FILL},       {"grid", "map", CONTRAST_GRID},
+    {"vehicle", "coverage", CONTRAST_OVERLAP},      {"track", "coverage", CONTRAST_OVERLAP},
     {"cross-hairs", "coverage", CONTRAST_OVERLAP},
 };
 
