@@ -16,6 +16,10 @@
 
 #include <memory>
 
+/// libarchive does not end the compression of a member whose writing has failed. The sanitizer reads this function.
+extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() { return "leak:deflateInit2_"; }
+
 /// Support bundles: what is in them, and what is not in an anonymous one.
 class SupportBundles : public QObject
 {
