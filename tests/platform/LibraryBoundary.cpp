@@ -31,7 +31,7 @@ QStringList Symbols(const QString& library, const char* kind)
 {
     // By the shell: an emulator of another processor starts no processes for Qt.
     const QString command =
-        Latin1(CABSETTINGS_NM) + Latin1(" -DC ") + Latin1(kind) + Latin1(" '") + library + QLatin1Char('\'');
+        Latin1(CABSETTINGS_NM) + Latin1(" -DCg ") + Latin1(kind) + Latin1(" '") + library + QLatin1Char('\'');
     FILE* const nm = popen(QFile::encodeName(command).constData(), "r");
     QFile output;
     const bool isRead = nm && output.open(nm, QIODevice::ReadOnly);
