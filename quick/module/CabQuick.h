@@ -1,0 +1,31 @@
+#pragma once
+
+#include "QuickExport.h"
+#include "stores/TSqliteStore.h"
+
+#include <QString>
+
+/// The QML module CabSettings: every setting of the terminal as an object that QML binds to.
+///
+/// @code
+/// TTerminal terminal(*store);
+/// if (!terminal.Start(folder, &error))
+///     return Fail(error);
+/// CabQuick::Publish(*store, folder);
+/// QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/Main.qml"))); // which says: import CabSettings 1.0
+/// @endcode
+///
+/// The module works in the thread of the application object.
+namespace CabQuick {
+
+/// Makes `import CabSettings 1.0` work in every QML engine of the program. Call it once, after the start of the
+/// terminal and before the first engine.
+/// @param store the terminal's; must outlive the engines.
+/// @param dataFolder the folder with which the terminal was started.
+CABQUICK_EXPORT void Publish(TSqliteStore& store, const QString& dataFolder);
+
+/// Ends the module's work with the store: watches, timers, the receiver. Call it after the engines and before the
+/// terminal stops. Does nothing when nothing is published.
+CABQUICK_EXPORT void Withdraw();
+
+} // namespace CabQuick
