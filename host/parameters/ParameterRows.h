@@ -79,6 +79,16 @@ struct tagText
 {
     tagAbout about;
     const char* accepts;
+    const char* first; ///< null: absent at first
+};
+
+/// Some of a set of names, in the operator's order.
+struct tagNameList
+{
+    tagAbout about;
+    const char* const* names;
+    std::size_t count;
+    const char* first;
 };
 
 /// A time in UTC, absent at first.
@@ -104,6 +114,12 @@ constexpr tagSelection Selection(const tagAbout& about, const tagChoice (&choice
     return tagSelection{about, choices, Count, first};
 }
 
+template <std::size_t Count>
+constexpr tagNameList NameList(const tagAbout& about, const char* const (&names)[Count], const char* first)
+{
+    return tagNameList{about, names, Count, first};
+}
+
 inline constexpr tagSwitch Switches[] = {
     {{PARAM_UTC_OFFSET_SET_BY_USER, "clock.offset-by-operator",
       "the operator has chosen the offset from UTC; GPS time keeps it instead of computing it",
@@ -126,6 +142,8 @@ inline constexpr tagSwitch Switches[] = {
      true},
     {{PARAM_MONTH_FIRST, "region.month-first", "dates with the month before the day", "texts of dates"}, false},
     {{PARAM_DAY_MODE, "display.day", "colours for day; otherwise for night", "every colour"}, true},
+    {{PARAM_HEADING_UP, "display.heading-up", "the map turns with the vehicle; otherwise north is up", "the map"},
+     true},
 };
 
 inline constexpr tagChoice RateBases[] = {{SPRAYER_RATE_BASIS_TRAVEL, "travel"}, {SPRAYER_RATE_BASIS_AREA, "area"}};
@@ -273,10 +291,27 @@ inline constexpr tagDrive Drives[] = {
      "an absolute path"},
 };
 
+/// In place of an address: the terminal's own simulated field.
+inline constexpr const char* SimulatorAddress = "simulator";
+
 inline constexpr tagText Texts[] = {
     {{PARAM_TERMINAL_IDENTITY, "terminal.identity", "the identity of the terminal, which its profiles carry",
       "whether a profile counts as one of this terminal"},
-     "a UUID in small letters, such as 6ba7b810-9dad-41d1-80b4-00c04fd430c8"},
+     "a UUID in small letters, such as 6ba7b810-9dad-41d1-80b4-00c04fd430c8",
+     nullptr},
+    {{PARAM_RECEIVER_ADDRESS, "receiver.address", "where the sentences of the receiver come from",
+      "position, speed, and the time of the receiver"},
+     "simulator, tcp://HOST:PORT, serial:///dev/NAME?baud=N or an absolute path",
+     SimulatorAddress},
+};
+
+/// The figures that can stand beside the map.
+inline constexpr const char* Tiles[] = {"rate",     "speed",       "area",     "left",     "productivity", "flow",
+                                        "pressure", "temperature", "distance", "position", "time"};
+
+inline constexpr tagNameList NameLists[] = {
+    NameList({PARAM_TILES, "display.tiles", "the figures beside the map, in this order", "the work page"}, Tiles,
+             "rate,speed,area,productivity,flow,pressure,left"),
 };
 
 inline constexpr tagTime Times[] = {

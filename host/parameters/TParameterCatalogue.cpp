@@ -1,5 +1,6 @@
 #include "parameters/TParameterCatalogue.h"
 
+#include "nmea/NmeaAddress.h"
 #include "parameters/ItemNames.h"
 #include "parameters/ParameterRows.h"
 #include "parameters/ParameterText.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
+#include <QSet>
 #include <QUuid>
 
 #include <algorithm>
@@ -24,7 +26,7 @@ QString Utf8(const char* text) { return QString::fromUtf8(text); }
 
 tagParameter Begin(const tagAbout& about, EParameterType type)
 {
-    return {about.id, Utf8(about.name), type, {}, 0, 0, 0, {}, {}, {}, Utf8(about.meaning), Utf8(about.readers)};
+    return {about.id, Utf8(about.name), type, {}, 0, 0, 0, {}, {}, {}, Utf8(about.meaning), Utf8(about.readers), {}};
 }
 
 tagParameter Parameter(const tagSwitch& row)
@@ -70,6 +72,19 @@ tagParameter Parameter(const tagText& row)
 {
     tagParameter parameter = Begin(row.about, PARAMETER_STRING);
     parameter.accepts = Utf8(row.accepts);
+    if (row.first)
+        parameter.firstValue = Utf8(row.first);
+    return parameter;
+}
+
+tagParameter Parameter(const tagNameList& row)
+{
+    tagParameter parameter = Begin(row.about, PARAMETER_STRING);
+    for (std::size_t i = 0; i < row.count; ++i)
+        parameter.names.append(Utf8(row.names[i]));
+    parameter.accepts = QString::fromLatin1("names with commas between them, each at most once: %1")
+                            .arg(ParameterText::Alternatives(parameter.names));
+    parameter.firstValue = Utf8(row.first);
     return parameter;
 }
 
@@ -116,6 +131,7 @@ QList<tagParameter> AllParameters()
     Append(&parameters, Numbers);
     Append(&parameters, Drives);
     Append(&parameters, Texts);
+    Append(&parameters, NameLists);
     Append(&parameters, Times);
     Append(&parameters, Items);
     for (const tagColor& row : Colors) {
@@ -133,6 +149,29 @@ QList<tagParameter> AllParameters()
 /// Whether @p path leads to the root folder.
 bool IsRoot(const QString& path) { return QFileInfo(QDir::cleanPath(path)).canonicalFilePath() == QDir::rootPath(); }
 
+/// Standard input is a file for a tool, not for a display.
+bool IsReceiverAddress(const QString& text)
+{
+    QString error;
+    const std::optional<NmeaAddress> address = ReadNmeaAddress(text, &error);
+    if (!address || text == Utf8(SimulatorAddress))
+        return address.has_value();
+    const auto* const file = std::get_if<tagFileAddress>(&*address);
+    return !file || QDir::isAbsolutePath(file->path);
+}
+
+/// Whether @p text names some of @p names, none twice. The empty text names none.
+bool IsListOf(const QStringList& names, const QString& text)
+{
+    const QStringList listed = text.isEmpty() ? QStringList() : text.split(QLatin1Char(','));
+    QSet<QString> seen;
+    return std::all_of(listed.begin(), listed.end(), [&names, &seen](const QString& name) {
+        const bool isNew = !seen.contains(name);
+        seen.insert(name);
+        return isNew && names.contains(name);
+    });
+}
+
 /// Whether people may give the parameter @p value, which has the parameter's type.
 bool IsAccepted(const tagParameter& parameter, const QVariant& value)
 {
@@ -148,7 +187,11 @@ bool IsAccepted(const tagParameter& parameter, const QVariant& value)
     case PARAM_NEWEST_TIME:
     case PARAM_DAY_SWITCHED:
         return FromUtcText(text).isValid();
+    case PARAM_RECEIVER_ADDRESS:
+        return IsReceiverAddress(text);
     default:
+        if (!parameter.names.isEmpty())
+            return IsListOf(parameter.names, text);
         const bool isNumber = parameter.type == PARAMETER_INT && parameter.choices.isEmpty();
         return !isNumber || (value.toInt() >= parameter.least && value.toInt() <= parameter.greatest);
     }

@@ -38,7 +38,8 @@ struct tagParameter
     QVariant firstValue; ///< see TParameterCatalogue::FirstValue()
     QString unit;        ///< empty when the value has no unit
     QString meaning;
-    QString readers; ///< a text that says what the parameter has an effect on
+    QString readers;   ///< a text that says what the parameter has an effect on
+    QStringList names; ///< of what a list may hold, for a string with commas between names; empty for other parameters
 };
 
 /// The list of all parameters that the library uses. Programs use it to check and to explain what people enter: at a

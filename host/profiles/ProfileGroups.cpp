@@ -26,6 +26,8 @@ constexpr tagMember Members[] = {
     {"display", "display.night-lightbar"},
     {"display", "display.night-backlight"},
     {"display", "display.night-buttons"},
+    {"display", "display.heading-up"},
+    {"display", "display.tiles"},
     {"machine", "active.vehicle"},
     {"machine", "active.implement"},
     {"machine", "active.sprayer"},
@@ -49,6 +51,7 @@ constexpr tagMember Members[] = {
     {Device, "log."},
     {Device, "clock."},
     {Device, "terminal."},
+    {Device, "receiver."},
 };
 
 constexpr bool Covers(std::string_view member, std::string_view name)

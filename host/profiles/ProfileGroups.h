@@ -20,7 +20,7 @@ namespace ProfileGroups {
 CABHOST_EXPORT QStringList All();
 
 /// All groups but "device". The parameters of that group belong to one terminal: its drives, the numbers of its log
-/// files, its clock and its identity. An import takes them only when the group is named.
+/// files, its clock, its receiver and its identity. An import takes them only when the group is named.
 CABHOST_EXPORT QStringList ImportedByDefault();
 
 /// The group of a parameter of the catalogue; empty for any other name.

@@ -210,6 +210,12 @@ void ParameterCatalogue::acceptedTextsAreRead_data()
     row(PARAM_DAY_SWITCHING, "twilight", 2);
     row(PARAM_TIME_SOURCE, "Receiver", 2);
     row(PARAM_NEWEST_TIME, "2026-03-05T13:05:09Z", Utf8("2026-03-05T13:05:09Z"));
+    for (const char* address :
+         {"simulator", "/dev/ttyUSB0", "/home/field.nmea", "tcp://receiver:2947", "serial:///dev/ttyS0?baud=38400"})
+        row(PARAM_RECEIVER_ADDRESS, address, Utf8(address));
+    for (const char* tiles : {"rate", "time,rate",
+                              "rate,speed,area,left,productivity,flow,pressure,temperature,distance,position,time", ""})
+        row(PARAM_TILES, tiles, QString::fromLatin1(tiles));
     row(PARAM_MAP_COLOR_NIGHT, "#102030", QColor(0x10, 0x20, 0x30));
     row(PARAM_MAP_COLOR_NIGHT, "navy", QColor(0, 0, 128));
     row(PARAM_MAP_COLOR_NIGHT, "#80102030", QColor(0x10, 0x20, 0x30, 0x80));
@@ -270,6 +276,12 @@ void ParameterCatalogue::otherTextsAreRefused_data()
                                  "2026-03-05T13:05:09+01:00", "2026-03-05T13:05Z", "20260305T130509Z"})
             row(time, text, "expected a time in UTC, such as 2026-03-05T13:05:09Z");
     }
+    for (const char* address :
+         {"", "-", "field.nmea", "Simulator", "tcp://receiver", "serial:///dev/ttyS0?baud=7", "http://receiver:80"})
+        row(PARAM_RECEIVER_ADDRESS, address, "expected simulator, tcp://HOST:PORT, serial:///dev/NAME?baud=N or an");
+    for (const char* tiles : {"rates", "rate,", ",rate", "rate,,speed", "rate, speed", "rate,rate", "Rate"})
+        row(PARAM_TILES, tiles,
+            "expected names with commas between them, each at most once: rate, speed, area, left, ");
     row(PARAM_MAP_COLOR_NIGHT, "blurple", "expected a colour: #rrggbb, #aarrggbb or a name such as navy");
     row(PARAM_MAP_COLOR_NIGHT, "", "expected a colour");
 }

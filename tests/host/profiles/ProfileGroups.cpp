@@ -49,6 +49,7 @@ void ProfileGroupsTest::parametersAreInTheirGroups_data()
     row("region.language", "region");
     row("colors.night.map", "colors");
     row("display.day", "display");
+    row("display.tiles", "display");
     row("active.vehicle", "machine");
     row("active.implement", "machine");
     row("active.steering-profile", "machine");
@@ -62,6 +63,7 @@ void ProfileGroupsTest::parametersAreInTheirGroups_data()
     row("log.nmea-number", "device");
     row("clock.offset", "device");
     row("terminal.identity", "device");
+    row("receiver.address", "device");
     row("units", "");
     row("active.vehicle2", "");
     row("active", "");
