@@ -1,5 +1,6 @@
 #include "module/CabQuick.h"
 
+#include "module/RegisterTypes.h"
 #include "module/TParameterHub.h"
 
 #include <memory>
@@ -20,9 +21,12 @@ TParameterHub& TParameterHub::Instance()
     return *Hub();
 }
 
+bool TParameterHub::IsPublished() { return Hub() != nullptr; }
+
 void CabQuick::Publish(TSqliteStore& store, const QString& dataFolder)
 {
     Hub() = std::make_unique<TParameterHub>(store, dataFolder);
+    RegisterTypes();
 }
 
 void CabQuick::Withdraw() { Hub().reset(); }

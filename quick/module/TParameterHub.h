@@ -19,6 +19,8 @@ public:
     /// The hub that is published. Objects of the module exist only while there is one.
     static TParameterHub& Instance();
 
+    static bool IsPublished();
+
     TSqliteStore& Store() const { return m_Store; }
     const QString& DataFolder() const { return m_DataFolder; }
 

@@ -1,0 +1,41 @@
+#include "module/RegisterTypes.h"
+
+#include "module/TParameterHub.h"
+#include "module/TTypeRegistrar.h"
+
+#include <QtGlobal>
+
+#include <initializer_list>
+
+namespace {
+
+const char* const Uri = "CabSettings";
+
+using RegisterRoom = void (*)(const TTypeRegistrar& types);
+
+/// One function for each room, which registers its types.
+constexpr std::initializer_list<RegisterRoom> Rooms = {};
+
+} // namespace
+
+void TTypeRegistrar::AddUnavailable(const char* name) const
+{
+    qmlRegisterTypeNotAvailable(
+        m_Uri, 1, 0, name, QLatin1String("this program has not called CabQuick::Publish() before its first engine"));
+}
+
+void CabQuick::RegisterTypes()
+{
+    static bool isRegistered = false;
+    if (isRegistered)
+        return;
+    isRegistered = true;
+
+    const bool isPublished = TParameterHub::IsPublished();
+    if (!isPublished)
+        qWarning("CabSettings: this program has not called CabQuick::Publish() before its first engine");
+    qmlRegisterModule(Uri, 1, 0);
+    const TTypeRegistrar types(Uri, isPublished);
+    for (const RegisterRoom registerRoom : Rooms)
+        registerRoom(types);
+}
