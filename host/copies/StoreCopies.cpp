@@ -1,7 +1,6 @@
 #include "copies/StoreCopies.h"
 
-#include "parameters/TParameterCatalogue.h"
-#include "profiles/ProfileGroups.h"
+#include "parameters/ParameterGroups.h"
 #include "stores/DayCopies.h"
 #include "stores/StoreFileCopy.h"
 #include "stores/StoredValue.h"
@@ -16,18 +15,10 @@ namespace StoreCopies {
 
 namespace {
 
-const QString DeviceGroup = QLatin1String("device");
-
 tagCopy CopyOf(const QString& storeFile, const DayCopies::tagCopyName& name)
 {
     const QString path = DayCopies::File(storeFile, name);
     return {name.Text(), name.day, path, QFileInfo(path).size()};
-}
-
-bool IsOfDevice(int parameter)
-{
-    const tagParameter* const known = TParameterCatalogue::Find(parameter);
-    return known && ProfileGroups::Of(known->name) == DeviceGroup;
 }
 
 bool ReadCopy(const tagCopy& copy, StoreTable::tagContent* content, QString* error)
@@ -93,7 +84,8 @@ bool Compare(TSqliteStore& store, const tagCopy& copy, QList<tagDifference>* dif
         const QVariant now = values.value(parameter);
         const QVariant then = content.values.value(parameter);
         // A value of a type that a later version stores is not known, so it is not a value to go back to.
-        if (!content.unreadable.contains(parameter) && !IsOfDevice(parameter) && !IsSameValue(now, then))
+        if (!content.unreadable.contains(parameter) && !ParameterGroups::IsOfDevice(parameter) &&
+            !IsSameValue(now, then))
             differences->append({parameter, now, then});
     }
     return true;

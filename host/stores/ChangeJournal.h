@@ -19,14 +19,17 @@
 ///     const bool isUndone = ChangeJournal::Undo(*store, journal.entries.first().number, &undone, &error);
 /// @endcode
 ///
-/// The journal keeps the last 10,000 changes. Changes in memory alone, and changes by programs that know no journal,
-/// are not in it. The functions may be called from any thread.
+/// The journal keeps the last 10,000 entries. Changes in memory alone, and changes by programs that know no journal,
+/// are not in it. What the library itself changes of the device (the group "device" of ProfileGroups: clock, numbers of
+/// logs, drives) shares one entry for each parameter and minute, as long as nothing else is changed in between. The
+/// functions may be called from any thread.
 namespace ChangeJournal {
 
-/// One change of one parameter.
+/// One change of one parameter, or several that share the entry: then the first old value, the newest new value and the
+/// times of the newest. The old and the new value of such an entry can be equal.
 struct tagEntry
 {
-    qint64 number;          ///< from 1, one higher for each change; never used again
+    qint64 number;          ///< from 1, one higher for each entry; never used again
     QString time;           ///< the terminal's clock: local, ISO 8601 with milliseconds, without a zone
     QString utc;            ///< the machine's clock, which the terminal never sets: UTC, ISO 8601
     ETimeSource timeSource; ///< where the terminal's clock had its time from

@@ -2,6 +2,7 @@
 
 #include "parameters/ETimeSource.h"
 #include "parameters/HostParameters.h"
+#include "parameters/ParameterGroups.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
@@ -20,7 +21,13 @@ const QString Schema =
 
 const QString FormQuery = QLatin1String("SELECT sql FROM sqlite_master WHERE name = 'journal'");
 
+const QString Select = QLatin1String("SELECT entry, time, utc, time_source, author, parameter, old_type, old_value, "
+                                     "new_type, new_value, digest FROM journal");
+const QString Newest = QLatin1String(" ORDER BY entry DESC LIMIT ?");
+
 constexpr int DigestLength = 16;
+constexpr int ToTheMinute = 16; // of an ISO 8601 time: "2026-05-04T12:34"
+constexpr int MostShared = 40;  // newest rows that are looked at; the device has fewer parameters
 
 // Texts of values have no control characters, so the separator keeps the parts apart.
 QString Digest(const tagRow& row)
@@ -68,12 +75,52 @@ QVariant OrNull(const tagStoredValue& value, const QString& part)
     return value.type.isEmpty() ? QVariant() : QVariant(part);
 }
 
-void Insert(TSqliteConnection& connection, const tagRow& row)
+void Write(TSqliteConnection& connection, const tagRow& row)
 {
-    connection.Run(QLatin1String("INSERT INTO journal VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+    connection.Run(QLatin1String("INSERT OR REPLACE INTO journal VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                    {row.number, row.time, row.utc, row.timeSource, row.author, row.parameter,
                     OrNull(row.former, row.former.type), OrNull(row.former, row.former.text),
                     OrNull(row.next, row.next.type), OrNull(row.next, row.next.text), Digest(row)});
+}
+
+// Nothing when the row does not match its digest.
+std::optional<tagRow> RowOf(const TSqliteConnection::TRow& cells)
+{
+    const tagRow row = {cells.at(0).toLongLong(),
+                        cells.at(1).toString(),
+                        cells.at(2).toString(),
+                        cells.at(3).toInt(),
+                        cells.at(4).toString(),
+                        cells.at(5).toInt(),
+                        {cells.at(6).toString(), cells.at(7).toString()},
+                        {cells.at(8).toString(), cells.at(9).toString()}};
+    return cells.at(10).toString() == Digest(row) ? std::optional<tagRow>(row) : std::nullopt;
+}
+
+bool IsSame(const tagStoredValue& one, const tagStoredValue& other)
+{
+    return one.type == other.type && one.text == other.text;
+}
+
+// Whether changes of one parameter share a row.
+bool IsShared(int parameter, const QString& author)
+{
+    return author == ChangeAuthorName(CHANGE_AUTHOR_LIBRARY) && ParameterGroups::IsOfDevice(parameter);
+}
+
+// The row that the change shares, if there is one.
+std::optional<tagRow> SharedRow(TSqliteConnection& connection, const tagChange& change, const tagMoment& now)
+{
+    if (!IsShared(change.parameter, ChangeAuthorName(change.author)))
+        return std::nullopt;
+    for (const TSqliteConnection::TRow& cells : connection.Run(Select + Newest, {MostShared})) {
+        const std::optional<tagRow> row = RowOf(cells);
+        if (!row || !IsShared(row->parameter, row->author) || row->utc.left(ToTheMinute) != now.utc.left(ToTheMinute))
+            return std::nullopt;
+        if (row->parameter == change.parameter)
+            return IsSame(row->next, change.former) ? row : std::nullopt;
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -99,9 +146,12 @@ void Append(TSqliteConnection& connection, const QVector<tagChange>& changes)
     qint64 number =
         connection.Value(QLatin1String("SELECT seq FROM sqlite_sequence WHERE name = 'journal'")).toLongLong();
     const tagMoment now = Now(connection);
-    for (const tagChange& change : changes)
-        Insert(connection, {++number, now.time, now.utc, now.timeSource, ChangeAuthorName(change.author),
-                            change.parameter, change.former, change.next});
+    for (const tagChange& change : changes) {
+        const std::optional<tagRow> shared = SharedRow(connection, change, now);
+        Write(connection,
+              {shared ? shared->number : ++number, now.time, now.utc, now.timeSource, ChangeAuthorName(change.author),
+               change.parameter, shared ? shared->former : change.former, change.next});
+    }
     connection.Run(QLatin1String("DELETE FROM journal WHERE entry <= ?"), {number - MostEntries});
 }
 
@@ -119,24 +169,11 @@ void Read(TSqliteConnection& connection, const tagFilter& filter, QVector<tagRow
         bound += *filter.number;
     }
     bound += filter.most;
-    const auto found = connection.Run(
-        QString::fromLatin1("SELECT entry, time, utc, time_source, author, parameter, old_type, old_value, new_type, "
-                            "new_value, digest FROM journal%1 ORDER BY entry DESC LIMIT ?")
-            .arg(where),
-        bound);
-    for (const TSqliteConnection::TRow& cells : found) {
-        const tagRow row = {cells.at(0).toLongLong(),
-                            cells.at(1).toString(),
-                            cells.at(2).toString(),
-                            cells.at(3).toInt(),
-                            cells.at(4).toString(),
-                            cells.at(5).toInt(),
-                            {cells.at(6).toString(), cells.at(7).toString()},
-                            {cells.at(8).toString(), cells.at(9).toString()}};
-        if (cells.at(10).toString() == Digest(row))
-            rows->append(row);
+    for (const TSqliteConnection::TRow& cells : connection.Run(Select + where + Newest, bound)) {
+        if (const std::optional<tagRow> row = RowOf(cells))
+            rows->append(*row);
         else
-            damaged->append(row.number);
+            damaged->append(cells.at(0).toLongLong());
     }
 }
 

@@ -14,6 +14,11 @@
 /// transaction. The numbers of the rows follow each other without a gap; the oldest rows are removed when there are too
 /// many.
 ///
+/// What the library changes of the device itself, its clock and the numbers of its logs, can change many times in a
+/// second, as when a recording is played. Within a minute such changes of one parameter share one row, so that they do
+/// not displace the changes that people make: the first old value, the newest new value and the time of the newest. A
+/// change of anything else in between begins new rows, so that the order of the journal stays that of the changes.
+///
 /// Files of programs that knew no journal have no such table, and get it when they are opened or with the next change.
 namespace JournalTable {
 
@@ -51,7 +56,7 @@ struct tagFilter
 /// Makes the table when there is none.
 void Create(TSqliteConnection& connection);
 
-/// Adds rows, within a transaction that has changed the table of parameters already.
+/// Notes changes, within a transaction that has changed the table of parameters already.
 void Append(TSqliteConnection& connection, const QVector<tagChange>& changes);
 
 /// Reads rows, the newest first.

@@ -63,9 +63,12 @@ int RunHistory(const tagContext& context, const QStringList& arguments)
 {
     TCommandLine line(
         QLatin1String("history"), QLatin1String("[PARAMETER]"),
-        QLatin1String("Prints the changes of the parameters, or of one, the newest first: number, time on the "
-                      "terminal's clock, where the clock had its time from (none, operator, receiver), who made the "
-                      "change, and the old and the new value. The terminal keeps the last 10000 changes."),
+        QLatin1String(
+            "Prints the changes of the parameters, or of one, the newest first: number, time on the "
+            "terminal's clock, where the clock had its time from (none, operator, receiver), who made the "
+            "change, and the old and the new value. The terminal keeps the last 10000 entries. What the display "
+            "itself changes of the clock, the drives and the numbers of log files has one entry for each "
+            "parameter and minute."),
         QLatin1String("cabsettings history units.area"));
     line.AddOption(QLatin1String(CountOption), QLatin1String("Number of changes."), QLatin1String("N"),
                    QLatin1String("20"));
