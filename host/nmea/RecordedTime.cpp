@@ -4,6 +4,8 @@
 #include "nmea/SourceFile.h"
 #include "nmea/TFixTracker.h"
 #include "nmea/TNmeaLineSplitter.h"
+#include "region/TRegionSettingsProxy.h"
+#include "stores/TPersistenceHold.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -91,6 +93,13 @@ QDateTime FirstTime(int fd)
     return utc;
 }
 
+void SetClock(const QDateTime& utc)
+{
+    QTime time = utc.time();
+    QDate date = utc.date();
+    TRegionSettingsProxy().SetUTCTimeAndDate(time, date, true);
+}
+
 } // namespace
 
 QDateTime FirstRecordedTime(const NmeaAddress& address)
@@ -100,3 +109,16 @@ QDateTime FirstRecordedTime(const NmeaAddress& address)
 }
 
 bool IsRecording(const NmeaAddress& address) { return TOpenRecording(address).IsRecording(); }
+
+void BeginClockAt(const QDateTime& utc, TParameterStore& store)
+{
+    TPersistenceHold hold(store);
+    SetClock(utc);
+    if (!store.GetParameter(PARAM_UTC_OFFSET_SET_BY_USER).toBool()) {
+        const int minutes = utc.toLocalTime().offsetFromUtc() / 60;
+        store.SetParameter(PARAM_UTC_OFFSET_HOURS, minutes / 60, true);
+        store.SetParameter(PARAM_UTC_OFFSET_MINUTES, minutes % 60, true);
+        SetClock(utc);
+    }
+    hold.Release(); // a store that cannot write says so itself
+}

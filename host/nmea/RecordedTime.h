@@ -2,6 +2,7 @@
 
 #include "HostExport.h"
 #include "nmea/NmeaAddress.h"
+#include "stores/TParameterStore.h"
 
 #include <QDateTime>
 
@@ -19,3 +20,10 @@ CABHOST_EXPORT QDateTime FirstRecordedTime(const NmeaAddress& address);
 
 /// Whether @p address is a recording: a regular file, also on standard input. Pipes, servers and devices are live.
 CABHOST_EXPORT bool IsRecording(const NmeaAddress& address);
+
+/// Sets the display's clock to @p utc, at which a recording begins. Call it before the first line. Unless the operator
+/// has chosen an offset from UTC, it becomes that of the machine's time zone at that time: the library's own way, from
+/// clock to GPS time, would give the distance between the recording and today.
+/// @param utc valid, in UTC.
+/// @param store that of the terminal that runs.
+CABHOST_EXPORT void BeginClockAt(const QDateTime& utc, TParameterStore& store);

@@ -1,8 +1,8 @@
 #include "console/line/Candidates.h"
 
 #include "console/logs/LogNames.h"
-#include "console/terminal/ActiveItems.h"
 #include "console/units/UnitNames.h"
+#include "terminal/ActiveItems.h"
 
 #include "parameters/TParameterCatalogue.h"
 #include "units/TUnitAbbreviations.h"

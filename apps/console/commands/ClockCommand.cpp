@@ -5,7 +5,7 @@
 #include "console/line/Messages.h"
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
-#include "console/terminal/UtcOffset.h"
+#include "platform/UtcOffset.h"
 
 #include "parameters/HostParameters.h"
 #include "parameters/TParameterCatalogue.h"

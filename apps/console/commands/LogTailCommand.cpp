@@ -6,7 +6,7 @@
 #include "console/line/QuitOnSignal.h"
 #include "console/logs/LogArgument.h"
 #include "console/logs/LogNames.h"
-#include "console/logs/LogTail.h"
+#include "diagnostics/TLogTail.h"
 
 #include "logs/TLogSeries.h"
 

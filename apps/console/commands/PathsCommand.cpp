@@ -3,8 +3,8 @@
 #include "console/commands/Commands.h"
 #include "console/line/CommandLine.h"
 #include "console/line/Output.h"
-#include "console/terminal/ActiveItems.h"
 #include "console/terminal/Session.h"
+#include "terminal/ActiveItems.h"
 
 #include "parameters/ItemNames.h"
 #include "parameters/TParameterCatalogue.h"

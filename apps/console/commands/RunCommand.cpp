@@ -13,8 +13,6 @@
 #include "nmea/RecordedTime.h"
 #include "nmea/TNmeaInput.h"
 #include "nmea/TNmeaReceiver.h"
-#include "region/TRegionSettingsProxy.h"
-#include "stores/TPersistenceHold.h"
 #include "sun/TDaySwitch.h"
 
 #include <QCoreApplication>
@@ -25,29 +23,6 @@
 namespace {
 
 const double GreatestSpeed = 1000;
-
-void SetClock(const QDateTime& utc)
-{
-    QTime time = utc.time();
-    QDate date = utc.date();
-    TRegionSettingsProxy().SetUTCTimeAndDate(time, date, true);
-}
-
-/// Sets the clock to @p utc, at which a recording begins. Unless the operator has chosen an offset from UTC, it becomes
-/// that of the machine's time zone at that time: the library's own way, from clock to GPS time, would give the distance
-/// between the recording and today.
-void BeginClockAt(const QDateTime& utc, TParameterStore& store)
-{
-    TPersistenceHold hold(store);
-    SetClock(utc);
-    if (!store.GetParameter(PARAM_UTC_OFFSET_SET_BY_USER).toBool()) {
-        const int minutes = utc.toLocalTime().offsetFromUtc() / 60;
-        store.SetParameter(PARAM_UTC_OFFSET_HOURS, minutes / 60, true);
-        store.SetParameter(PARAM_UTC_OFFSET_MINUTES, minutes % 60, true);
-        SetClock(utc);
-    }
-    hold.Release(); // a store that cannot write says so itself
-}
 
 /// Feeds the stream to the receiver until its end, or until a signal asks for it. Empty when the stream was read to its
 /// end, else what went wrong.

@@ -1,8 +1,8 @@
 #include "console/commands/RunSummary.h"
 
 #include "console/line/Output.h"
-#include "console/terminal/ActiveItems.h"
-#include "console/terminal/UtcOffset.h"
+#include "platform/UtcOffset.h"
+#include "terminal/ActiveItems.h"
 
 #include "colors/TColorSettingsProxy.h"
 #include "logs/TLogSeries.h"

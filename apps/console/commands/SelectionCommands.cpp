@@ -4,8 +4,8 @@
 #include "console/line/CommandLine.h"
 #include "console/line/Messages.h"
 #include "console/line/Output.h"
-#include "console/terminal/ActiveItems.h"
 #include "console/terminal/Session.h"
+#include "terminal/ActiveItems.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -5,84 +5,21 @@
 #include "console/line/Output.h"
 #include "console/terminal/Session.h"
 
-#include "system/TSystemSettingsProxy.h"
+#include "terminal/Storage.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QLocale>
-
-#include <sys/statvfs.h>
 
 #include <optional>
 
 namespace {
 
-const qint64 BytesPerKilobyte = 1024; // of the memory
-
-struct tagSpace
-{
-    qint64 total; ///< bytes
-    qint64 free;
-};
-
 struct tagDrive
 {
     const char* name;
-    QString path;
-    bool isMounted;
-    std::optional<tagSpace> space; ///< nothing when it is not mounted, or the system does not tell
+    tagDriveSpace drive;
 };
-
-/// The façade counts in fragments, which are of another size on each file system.
-template <class Count>
-std::optional<tagSpace> InBytes(const QString& path, Count total, Count free)
-{
-    struct statvfs info;
-    if (statvfs(QFile::encodeName(path).constData(), &info) != 0)
-        return std::nullopt;
-    const auto fragment = static_cast<qint64>(info.f_frsize);
-    return tagSpace{total * fragment, free * fragment};
-}
-
-tagDrive InternalDrive(const TSystemSettingsProxy& system)
-{
-    tagDrive drive = {"internal", system.GetInternalDrivePath(), false, std::nullopt};
-    unsigned total = 0;
-    unsigned free = 0;
-    drive.isMounted = system.GetFileSystemInfo(&total, &free) == 0;
-    if (drive.isMounted)
-        drive.space = InBytes(drive.path, total, free);
-    return drive;
-}
-
-/// @param path where it is mounted; the façade complains of one that does not exist.
-tagDrive RemovableDrive(const TSystemSettingsProxy& system, const QString& path)
-{
-    tagDrive drive = {"removable", path, false, std::nullopt};
-    drive.isMounted = QFileInfo::exists(path) && system.GetExternalDrivePath(drive.path);
-    int total = 0;
-    int free = 0;
-    if (drive.isMounted && system.GetUSBMemoryInfo(&total, &free) == 1)
-        drive.space = InBytes(drive.path, total, free);
-    return drive;
-}
-
-std::optional<tagSpace> Memory(const TSystemSettingsProxy& system)
-{
-    unsigned total = 0;
-    unsigned free = 0;
-    if (system.GetMainMemoryInfo(&total, &free) != 0 || total == 0)
-        return std::nullopt;
-    return tagSpace{total * BytesPerKilobyte, free * BytesPerKilobyte};
-}
-
-std::optional<float> Load(const TSystemSettingsProxy& system)
-{
-    float load = 0;
-    return system.GetCpuLoadInfo(&load) == 0 ? std::optional<float>(load) : std::nullopt;
-}
 
 QString Readable(qint64 bytes)
 {
@@ -104,10 +41,10 @@ QJsonObject Json(const std::optional<tagSpace>& space)
 
 QJsonObject Json(const tagDrive& drive)
 {
-    QJsonObject object = Json(drive.space);
+    QJsonObject object = Json(drive.drive.space);
     object.insert(QLatin1String("name"), QLatin1String(drive.name));
-    object.insert(QLatin1String("path"), drive.path);
-    object.insert(QLatin1String("mounted"), drive.isMounted);
+    object.insert(QLatin1String("path"), drive.drive.path);
+    object.insert(QLatin1String("mounted"), drive.drive.isMounted);
     return object;
 }
 
@@ -129,12 +66,9 @@ int RunStorage(const tagContext& context, const QStringList& arguments)
     TSession session;
     if (!session.Open(context, SESSION_TERMINAL))
         return STATUS_FAILED;
-    const TSystemSettingsProxy system;
-    QString mountPoint;
-    system.GetExternalDrivePath(mountPoint);
-    const QList<tagDrive> drives = {InternalDrive(system), RemovableDrive(system, mountPoint)};
-    const std::optional<tagSpace> memory = Memory(system);
-    const std::optional<float> load = Load(system);
+    const QList<tagDrive> drives = {{"internal", Storage::InternalDrive()}, {"removable", Storage::Stick()}};
+    const std::optional<tagSpace> memory = Storage::Memory();
+    const std::optional<float> load = Storage::Load();
     if (line.WantsJson()) {
         QJsonArray array;
         for (const tagDrive& drive : drives)
@@ -151,8 +85,8 @@ int RunStorage(const tagContext& context, const QStringList& arguments)
         {QString(), QLatin1String("total"), QLatin1String("free"), QLatin1String("path")},
     };
     for (const tagDrive& drive : drives) {
-        const QString otherwise = drive.isMounted ? unknown : QLatin1String("(not mounted)");
-        rows.append(Row(drive.name, drive.space, otherwise) + QStringList(drive.path));
+        const QString otherwise = drive.drive.isMounted ? unknown : QLatin1String("(not mounted)");
+        rows.append(Row(drive.name, drive.drive.space, otherwise) + QStringList(drive.drive.path));
     }
     rows.append(Row("memory", memory, unknown));
     rows.append({QLatin1String("load"), load ? QString::number(double(*load), 'f', 2) : unknown});

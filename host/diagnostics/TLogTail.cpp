@@ -1,10 +1,9 @@
-#include "console/logs/LogTail.h"
-
-#include "logs/TLogSeries.h"
+#include "diagnostics/TLogTail.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -17,7 +16,7 @@ QString Text(const QByteArray& line)
 
 } // namespace
 
-TLogTail::TLogTail(const QString& basePath) : m_BasePath(basePath) {}
+TLogTail::TLogTail(const QString& basePath, qint64 firstBytes) : m_BasePath(basePath), m_FirstBytes(firstBytes) {}
 
 QList<tagLogLine> TLogTail::Read(QString* error)
 {
@@ -29,6 +28,8 @@ QList<tagLogLine> TLogTail::Read(QString* error)
     const auto turn = [this](const TLogSeries::tagFile& file) {
         return !m_Read.contains(file.name) ? 2 : file.name == m_LastFile ? 1 : 0;
     };
+    if (m_FirstBytes >= 0)
+        SkipTo(std::exchange(m_FirstBytes, -1), files);
     std::stable_sort(files.begin(), files.end(),
                      [&turn](const TLogSeries::tagFile& a, const TLogSeries::tagFile& b) { return turn(a) < turn(b); });
     for (const TLogSeries::tagFile& found : files) {
@@ -47,7 +48,24 @@ QList<tagLogLine> TLogTail::Read(QString* error)
         Split(name, bytes, &lines);
     }
     m_Read = read;
+    if (m_SkipsLine && !lines.isEmpty()) {
+        lines.removeFirst();
+        m_SkipsLine = false;
+    }
     return lines;
+}
+
+/// Marks what lies before the newest @p bytes as read, except for one byte: it is the end of a line if the newest bytes
+/// begin with a line, so that the line that has lost its beginning is never a whole one.
+void TLogTail::SkipTo(qint64 bytes, const std::vector<TLogSeries::tagFile>& files)
+{
+    qint64 left = bytes + 1;
+    for (auto file = files.rbegin(); file != files.rend(); ++file) {
+        const qint64 taken = std::min(left, file->size);
+        left -= taken;
+        m_Read.insert(file->name, file->size - taken);
+    }
+    m_SkipsLine = left == 0;
 }
 
 tagLogLine TLogTail::Unfinished() const { return {m_RestFile, Text(m_Rest)}; }

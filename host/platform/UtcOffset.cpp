@@ -1,4 +1,4 @@
-#include "console/terminal/UtcOffset.h"
+#include "platform/UtcOffset.h"
 
 #include <cstdlib>
 
