@@ -1,0 +1,79 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import "."
+
+// One quantity: label and unit above, the figure right-aligned below, so that it does not move when it changes.
+//
+//     FigureTile { title: qsTr("Speed"); unit: speed.unit; number: speed.number; onClicked: openChoice() }
+Panel {
+    id: tile
+
+    property string title
+    property string unit
+    property string number
+    // The figure that rules the page.
+    property bool isMain: false
+    // What stands below the figure.
+    default property alias detail: below.data
+
+    readonly property real inner: width - 2 * Sizes.margin
+
+    signal clicked()
+
+    implicitWidth: Math.round(Sizes.figure * 3.8)
+    implicitHeight: lines.height + 2 * Sizes.line
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Button
+    Accessible.name: title + " " + number + " " + unit
+    Accessible.onPressAction: clicked()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Keys.onSpacePressed: clicked()
+
+    Column {
+        id: lines
+
+        x: Sizes.margin
+        anchors.verticalCenter: parent.verticalCenter
+        width: tile.inner
+
+        Item {
+            width: parent.width
+            height: Math.round(Sizes.text * 1.4)
+
+            TextLabel {
+                anchors.bottom: parent.bottom
+                text: tile.title
+                muted: true
+            }
+            TextLabel {
+                objectName: "unit"
+                anchors { bottom: parent.bottom; right: parent.right }
+                text: tile.unit
+                muted: true
+            }
+        }
+        TextLabel {
+            objectName: "figure"
+            width: parent.width
+            // A line of the font is higher than its digits; the room below them is not needed.
+            height: Math.round(size * 1.16)
+            size: tile.isMain ? Sizes.main : Sizes.figure
+            text: tile.number
+            font.bold: true
+            horizontalAlignment: Text.AlignRight
+            verticalAlignment: Text.AlignVCenter
+        }
+        Item {
+            id: below
+
+            width: parent.width
+            height: childrenRect.height > 0 ? childrenRect.height + Sizes.gap : 0
+        }
+    }
+    FocusRing { target: tile }
+    TapArea {
+        onClicked: tile.clicked()
+        onPressAndHold: tile.clicked()
+    }
+}

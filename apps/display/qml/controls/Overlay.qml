@@ -1,0 +1,78 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import CabSettings 1.0
+import "."
+
+// A panel above everything, for what must be answered first. The pages below are dimmed and do nothing meanwhile.
+//
+//     Overlay { id: question; TextLabel { text: qsTr("Remove the field?") } }
+//     PushButton { text: qsTr("Remove"); onClicked: question.open() }
+FocusScope {
+    id: overlay
+
+    default property alias content: panel.data
+    property real padding: Sizes.isCompact ? 2 * Sizes.gap : 3 * Sizes.gap
+    readonly property bool isOpen: visible
+    // The largest content that fits the window.
+    readonly property real roomWidth: Sizes.width - 2 * padding - 2 * Sizes.gap
+    readonly property real roomHeight: Sizes.height - 2 * padding - 2 * Sizes.gap
+
+    property Item _before: null
+
+    signal opened()
+    signal closed()
+
+    function open() {
+        if (visible)
+            return
+        _before = Window.window ? Window.window.activeFocusItem : null
+        parent = Sizes.overlay
+        ++Sizes.overlay.count
+        visible = true
+        forceActiveFocus()
+        opened()
+    }
+    function close() {
+        if (!visible)
+            return
+        visible = false
+        --Sizes.overlay.count
+        if (_before)
+            _before.forceActiveFocus()
+        _before = null
+        closed()
+    }
+
+    anchors.fill: visible ? parent : undefined
+    visible: false
+    Keys.onEscapePressed: close()
+    Component.onDestruction: {
+        if (visible && Sizes.overlay)
+            --Sizes.overlay.count
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Scheme.scrim
+    }
+    MouseArea {
+        objectName: "shield"
+        anchors.fill: parent
+    }
+    Rectangle {
+        anchors.centerIn: parent
+        width: panel.width + 2 * overlay.padding
+        height: panel.height + 2 * overlay.padding
+        color: Scheme.panel
+        radius: Sizes.radius
+        border { width: 2 * Sizes.line; color: Scheme.accent }
+
+        Item {
+            id: panel
+
+            anchors.centerIn: parent
+            width: childrenRect.width
+            height: childrenRect.height
+        }
+    }
+}
