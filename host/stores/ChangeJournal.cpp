@@ -2,9 +2,11 @@
 
 #include "parameters/ParameterText.h"
 #include "parameters/TParameterCatalogue.h"
+#include "stores/DurableFiles.h"
 #include "stores/JournalTable.h"
 #include "stores/StoreTable.h"
 #include "stores/StoredValue.h"
+#include "stores/TPersistenceHold.h"
 #include "stores/TSqliteConnection.h"
 
 namespace ChangeJournal {
@@ -73,6 +75,29 @@ bool Find(TSqliteConnection& connection, const QString& path, std::optional<qint
     return !journal.entries.isEmpty();
 }
 
+// Whether the file has the value that the entry set.
+bool IsStillSet(TSqliteConnection& connection, const QString& path, const tagEntry& entry, QString* error)
+{
+    StoreTable::tagContent content;
+    const tagStoreFinding finding = StoreTable::ReadRows(connection, &content);
+    const QVariant now = content.values.value(entry.parameter);
+    if (finding.state != STORE_FILE_CLEAN)
+        *error = QString::fromLatin1("%1 cannot be read: %2").arg(path, finding.words);
+    else if (!IsSameValue(now, entry.newValue))
+        *error = QString::fromLatin1("%1 is %2 now; entry %3 set it to %4")
+                     .arg(Name(entry.parameter), Text(entry.parameter, now))
+                     .arg(entry.number)
+                     .arg(Text(entry.parameter, entry.newValue));
+    else
+        return true;
+    return false;
+}
+
+QString CannotBeWritten(const QString& path, const QString& reason)
+{
+    return QString::fromLatin1("%1 cannot be written: %2").arg(path, reason);
+}
+
 } // namespace
 
 bool Read(const TSqliteStore& store, const tagQuery& query, tagJournal* journal, QString* error)
@@ -81,34 +106,34 @@ bool Read(const TSqliteStore& store, const tagQuery& query, tagJournal* journal,
     return ReadFrom(connection, store.Path(), {query.parameter, std::nullopt, query.most}, journal, error);
 }
 
+// In the file, and in one transaction: what this process has in memory may be older, and no other program may write
+// between the look at the value and its change.
 bool Undo(TSqliteStore& store, std::optional<qint64> number, tagEntry* undone, QString* error)
 {
-    QVariant now;
-    {
-        TSqliteConnection connection(store.Path(), TSqliteConnection::SQLITE_ACCESS_READ, Patience);
-        if (!Find(connection, store.Path(), number, undone, error))
-            return false;
-        // In the file: what this process has in memory may be older.
-        StoreTable::tagContent content;
-        const tagStoreFinding finding = StoreTable::ReadRows(connection, &content);
-        if (finding.state != STORE_FILE_CLEAN) {
-            *error = QString::fromLatin1("%1 cannot be read: %2").arg(store.Path(), finding.words);
-            return false;
-        }
-        now = content.values.value(undone->parameter);
-    }
-    if (!IsSameValue(now, undone->newValue)) {
-        *error = QString::fromLatin1("%1 is %2 now; entry %3 set it to %4")
-                     .arg(Name(undone->parameter), Text(undone->parameter, now))
-                     .arg(undone->number)
-                     .arg(Text(undone->parameter, undone->newValue));
+    const QString path = store.Path();
+    if (!DurableFiles::Exists(path)) { // SQLite would make a new one
+        *error = CannotBeWritten(path, QLatin1String("it is no longer there"));
         return false;
     }
-    const TChangeAuthor author(CHANGE_AUTHOR_UNDO);
-    if (store.SetParameter(static_cast<EParamID>(undone->parameter), undone->oldValue, true))
-        return true;
-    *error = QString::fromLatin1("cannot store %1").arg(Name(undone->parameter));
-    return false;
+    TSqliteConnection connection(path, TSqliteConnection::SQLITE_ACCESS_WRITE, Patience);
+    connection.Run(QLatin1String("PRAGMA synchronous = FULL"));
+    StoreTable::Begin(connection);
+    QString reason = connection.TakeFailure().text;
+    if (reason.isEmpty()) {
+        if (!Find(connection, path, number, undone, error) || !IsStillSet(connection, path, *undone, error)) {
+            StoreTable::RollBack(connection);
+            return false;
+        }
+        StoreTable::WriteAndNote(connection, {{undone->parameter, undone->oldValue}},
+                                 {{undone->parameter, CHANGE_AUTHOR_UNDO}});
+        reason = StoreTable::Commit(connection);
+    }
+    if (!reason.isEmpty()) {
+        *error = CannotBeWritten(path, reason);
+        return false;
+    }
+    TPersistenceHold(store).Release(); // takes the value into memory, as one that another program has written
+    return true;
 }
 
 } // namespace ChangeJournal

@@ -55,12 +55,12 @@ struct tagJournal
 CABHOST_EXPORT bool Read(const TSqliteStore& store, const tagQuery& query, tagJournal* journal, QString* error);
 
 /// Gives the parameter of an entry the value that it had before, and notes that as a change of the author undo. Undoing
-/// the entry of an undo sets the value again.
+/// the entry of an undo sets the value again. No program changes the parameter between the look at its value and the
+/// change. The file is changed in every case; while persistence is held, the store has the value when the hold ends.
 /// @param number of the entry; nothing: the newest.
 /// @param undone receives the entry.
 /// @return false, with one line in @p error, when there is no such entry, when the parameter no longer has the value
-///         that the entry set, or when the value cannot be stored. While persistence is held the value is written at
-///         the end of the hold; see TParameterStore.
+///         that the entry set, or when the value cannot be stored.
 CABHOST_EXPORT bool Undo(TSqliteStore& store, std::optional<qint64> number, tagEntry* undone, QString* error);
 
 } // namespace ChangeJournal

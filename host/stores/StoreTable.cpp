@@ -117,19 +117,6 @@ QVector<JournalTable::tagChange> ChangesOf(TSqliteConnection& connection, const 
     return found;
 }
 
-void Begin(TSqliteConnection& connection) { connection.Run(QLatin1String("BEGIN IMMEDIATE")); }
-
-QString Commit(TSqliteConnection& connection)
-{
-    connection.Run(QLatin1String("COMMIT"));
-    QString reason = connection.TakeFailure().text;
-    if (!reason.isEmpty()) {
-        connection.Run(QLatin1String("ROLLBACK")); // fails when SQLite has rolled back by itself
-        connection.TakeFailure();
-    }
-    return reason;
-}
-
 } // namespace
 
 void Create(TSqliteConnection& connection)
@@ -168,6 +155,32 @@ QString DamageText(const QList<qlonglong>& damaged)
     return QString::fromLatin1("its parameters %1 do not match their digests").arg(numbers.join(QLatin1String(", ")));
 }
 
+void Begin(TSqliteConnection& connection) { connection.Run(QLatin1String("BEGIN IMMEDIATE")); }
+
+QString Commit(TSqliteConnection& connection)
+{
+    connection.Run(QLatin1String("COMMIT"));
+    QString reason = connection.TakeFailure().text;
+    if (!reason.isEmpty())
+        RollBack(connection);
+    return reason;
+}
+
+void RollBack(TSqliteConnection& connection)
+{
+    connection.TakeFailure();
+    connection.Run(QLatin1String("ROLLBACK")); // fails when SQLite has rolled back by itself
+    connection.TakeFailure();
+}
+
+void WriteAndNote(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
+                  const QMap<int, EChangeAuthor>& authors)
+{
+    const QVector<JournalTable::tagChange> entries = ChangesOf(connection, changes, authors);
+    WriteRows(connection, changes);
+    JournalTable::Append(connection, entries);
+}
+
 QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
               const QMap<int, EChangeAuthor>& authors, QString* journalDamage)
 {
@@ -178,9 +191,8 @@ QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
     JournalTable::Append(connection, entries);
     if (areWritten && connection.Failure().isDamage) {
         // A parameter is not lost because its change cannot be noted.
-        *journalDamage = connection.TakeFailure().text;
-        connection.Run(QLatin1String("ROLLBACK"));
-        connection.TakeFailure();
+        *journalDamage = connection.Failure().text;
+        RollBack(connection);
         Begin(connection);
         WriteRows(connection, changes);
     }

@@ -50,6 +50,17 @@ QString DamageText(const QList<qlonglong>& damaged);
 QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
               const QMap<int, EChangeAuthor>& authors, QString* journalDamage);
 
+/// Parts of Write() for a caller that looks at the file within the same transaction. Between Begin() and the end no
+/// other program writes.
+void Begin(TSqliteConnection& connection);
+void WriteAndNote(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
+                  const QMap<int, EChangeAuthor>& authors);
+
+/// @return empty, or the reason why nothing was written.
+QString Commit(TSqliteConnection& connection);
+
+void RollBack(TSqliteConnection& connection);
+
 /// Removes the rows @p damaged and writes @p values, in one transaction, and notes that in the journal. @return as for
 /// Write().
 QString Repair(TSqliteConnection& connection, const QList<qlonglong>& damaged, const QMap<int, QVariant>& values);

@@ -1,9 +1,6 @@
 #include "StoreTestSupport.h"
 
 #include <QElapsedTimer>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QtTest>
 
 #include <atomic>
@@ -15,38 +12,6 @@ namespace {
 const int Impatience = 50; // milliseconds
 const QLatin1String WrittenByOther("BEGIN IMMEDIATE");
 const QLatin1String Released("ROLLBACK");
-
-// Another program's connection to the file.
-class TOther
-{
-public:
-    explicit TOther(const QString& path)
-        : m_Database(QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), QLatin1String("other")))
-    {
-        m_Database.setDatabaseName(path);
-        if (!m_Database.open())
-            qFatal("cannot open %s", qPrintable(path));
-    }
-
-    ~TOther()
-    {
-        m_Database = QSqlDatabase();
-        QSqlDatabase::removeDatabase(QLatin1String("other"));
-    }
-
-    TOther(const TOther&) = delete;
-    TOther& operator=(const TOther&) = delete;
-
-    void Run(const QString& statement)
-    {
-        QSqlQuery query(m_Database);
-        if (!query.exec(statement))
-            qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
-    }
-
-private:
-    QSqlDatabase m_Database;
-};
 
 } // namespace
 
@@ -94,7 +59,7 @@ void BusyStore::aBusyFileIsSaidAfterAWhile()
     const auto store = Open(Impatience);
     TStandardErrorCapture standardError;
     {
-        TOther other(m_Path);
+        TOtherProgram other(m_Path);
         other.Run(WrittenByOther);
         QVERIFY(!store->SetParameter(PARAM_METRIC, true, true));
         QVERIFY(!store->SetParameter(PARAM_AREA_UNIT, 1, true));
@@ -111,7 +76,7 @@ void BusyStore::aBusyFileIsWaitedFor()
 {
     const auto store = Open(SoonMilliseconds);
     TStandardErrorCapture standardError;
-    TOther other(m_Path);
+    TOtherProgram other(m_Path);
     other.Run(WrittenByOther);
     std::atomic<bool> isStored{false};
     std::atomic<bool> isReturned{false};
@@ -133,7 +98,7 @@ void BusyStore::othersWaitNoLongerThanTheFirst()
     const int patience = 500;
     const auto store = Open(patience);
     TStandardErrorCapture standardError;
-    TOther other(m_Path);
+    TOtherProgram other(m_Path);
     other.Run(WrittenByOther);
     QElapsedTimer timer;
     timer.start();
@@ -159,7 +124,7 @@ void BusyStore::readsDoNotWait()
 {
     const auto store = Open(SoonMilliseconds);
     QVERIFY(store->SetParameter(PARAM_AREA_UNIT, 1, true));
-    TOther other(m_Path);
+    TOtherProgram other(m_Path);
     other.Run(WrittenByOther);
     std::atomic<bool> isReturned{false};
     std::thread setter([&] {
@@ -184,7 +149,7 @@ void BusyStore::whatOthersChangedIsSeenWhileItIsBusy()
     const auto store = Open(SoonMilliseconds);
     const auto another = Open(Impatience);
     QVERIFY(another->SetParameter(PARAM_METRIC, true, true));
-    TOther other(m_Path);
+    TOtherProgram other(m_Path);
     other.Run(WrittenByOther);
     QTRY_COMPARE_WITH_TIMEOUT(store->GetParameter(PARAM_METRIC), QVariant(true), SoonMilliseconds);
     QCOMPARE(Open(Impatience)->GetParameter(PARAM_METRIC), QVariant(true));
@@ -196,7 +161,7 @@ void BusyStore::aReleaseOnABusyFileChangesNothing()
     const auto store = Open(Impatience);
     QVERIFY(store->SetParameter(PARAM_METRIC, false, true));
     TStandardErrorCapture standardError;
-    TOther other(m_Path);
+    TOtherProgram other(m_Path);
     other.Run(WrittenByOther);
     store->HoldPersistence();
     store->SetParameter(PARAM_METRIC, true, true);
@@ -215,7 +180,7 @@ void BusyStore::aClosingStoreLosesOnlyWhatItHasSaid()
     QVERIFY(store->SetParameter(PARAM_METRIC, true, true));
     TStandardErrorCapture standardError;
     {
-        TOther other(m_Path);
+        TOtherProgram other(m_Path);
         other.Run(WrittenByOther);
         QVERIFY(!store->SetParameter(PARAM_AREA_UNIT, 1, true));
         store.reset();
@@ -229,7 +194,7 @@ void BusyStore::aClosingStoreLosesOnlyWhatItHasSaid()
 void BusyStore::openingABusyFileIsSaidAfterAWhile()
 {
     OpenStore(m_Path)->SetParameter(PARAM_METRIC, true, true);
-    TOther other(m_Path);
+    TOtherProgram other(m_Path);
     other.Run(QLatin1String("PRAGMA locking_mode = EXCLUSIVE"));
     other.Run(QLatin1String("UPDATE parameters SET value = 'false', digest = NULL"));
     QString error;
@@ -241,7 +206,7 @@ void BusyStore::openingABusyFileIsSaidAfterAWhile()
 void BusyStore::openingABusyFileWaits()
 {
     OpenStore(m_Path)->SetParameter(PARAM_METRIC, true, true);
-    auto other = std::make_unique<TOther>(m_Path);
+    auto other = std::make_unique<TOtherProgram>(m_Path);
     other->Run(QLatin1String("PRAGMA locking_mode = EXCLUSIVE"));
     other->Run(QLatin1String("UPDATE parameters SET value = 'false', digest = NULL"));
     std::unique_ptr<TSqliteStore> store;

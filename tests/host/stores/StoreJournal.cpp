@@ -6,11 +6,16 @@
 #include <QDateTime>
 #include <QtTest>
 
+#include <atomic>
+#include <chrono>
 #include <thread>
 
 namespace {
 
 const int MostEntries = 10000; // as ChangeJournal.h says
+
+// For code that looks before it waits. The test passes without it.
+const std::chrono::milliseconds TimeToGoWrong(100);
 
 const ChangeJournal::tagQuery Everything = {std::nullopt, 2 * MostEntries};
 
@@ -78,6 +83,8 @@ private slots:
     void anUndoneChangeHasItsFormerValue();
     void theNewestChangeIsUndoneWithoutANumber();
     void aChangeThatWasChangedAgainIsNotUndone();
+    void aChangeDuringAnUndoIsSeen();
+    void anUndoThatCannotWriteSaysSo();
     void whatIsNotThereIsNotUndone();
 
 private:
@@ -425,6 +432,50 @@ void StoreJournal::aChangeThatWasChangedAgainIsNotUndone()
     QVERIFY(!ChangeJournal::Undo(*m_Store, 2, &undone, &error));
     QCOMPARE(error, QLatin1String("units.area is absent now; entry 2 set it to \"acre\""));
     QCOMPARE(static_cast<int>(EntriesOf(*m_Store).size()), 3);
+}
+
+// The other program has changed the value when the undo begins, and commits while the undo waits for it.
+void StoreJournal::aChangeDuringAnUndoIsSeen()
+{
+    QVERIFY(m_Store->SetParameter(PARAM_AREA_UNIT, 0, true));
+    QVERIFY(m_Store->SetParameter(PARAM_AREA_UNIT, 1, true));
+    TOtherProgram other(m_Path);
+    other.Run(QLatin1String("BEGIN IMMEDIATE"));
+    other.Run(QLatin1String("UPDATE parameters SET value = '0', digest = NULL WHERE id = 8960"));
+    std::atomic<bool> isAtIt{false};
+    bool isUndone = true;
+    QString error;
+    std::thread undoing([&] {
+        isAtIt = true;
+        ChangeJournal::tagEntry undone;
+        isUndone = ChangeJournal::Undo(*m_Store, 2, &undone, &error);
+    });
+    while (!isAtIt)
+        std::this_thread::yield();
+    std::this_thread::sleep_for(TimeToGoWrong);
+    other.Run(QLatin1String("COMMIT"));
+    undoing.join();
+    QVERIFY(!isUndone);
+    QCOMPARE(error, QLatin1String("units.area is \"hectare\" now; entry 2 set it to \"acre\""));
+    QCOMPARE(LinesOf(*m_Store), Lines({"2 library 8960 0 -> 1", "1 library 8960 absent -> 0"}));
+}
+
+void StoreJournal::anUndoThatCannotWriteSaysSo()
+{
+    QVERIFY(m_Store->SetParameter(PARAM_AREA_UNIT, 1, true));
+    RunSql(m_Path,
+           QLatin1String("CREATE TRIGGER full BEFORE INSERT ON journal BEGIN SELECT RAISE(ABORT, 'full'); END"));
+    ChangeJournal::tagEntry undone;
+    QString error;
+    QVERIFY(!ChangeJournal::Undo(*m_Store, std::nullopt, &undone, &error));
+    QVERIFY2(error.startsWith(m_Path + QLatin1String(" cannot be written: full")), qPrintable(error));
+    QCOMPARE(m_Store->GetParameter(PARAM_AREA_UNIT), QVariant(1));
+    QCOMPARE(LinesOf(*m_Store), Lines({"1 library 8960 absent -> 1"}));
+    const QString away = m_Path + QLatin1String(".away");
+    QVERIFY(QFile::rename(m_Path, away));
+    QVERIFY(!ChangeJournal::Undo(*m_Store, std::nullopt, &undone, &error));
+    QCOMPARE(error, QString(m_Path + QLatin1String(" cannot be written: it is no longer there")));
+    QVERIFY(!QFile::exists(m_Path));
 }
 
 void StoreJournal::whatIsNotThereIsNotUndone()

@@ -6,10 +6,6 @@
 #include <QDateTime>
 #include <QtTest>
 
-#include <ctime>
-
-#include <sys/time.h>
-
 namespace {
 
 qint64 MachineSeconds = 0; // since 1970
@@ -21,11 +17,23 @@ void SetMachineTime(const char* utc)
 
 } // namespace
 
-/// The machine's clock, as Qt asks for it, stands still until a test moves it.
-extern "C" __attribute__((visibility("default"))) int gettimeofday(timeval* time, void*) noexcept
+namespace {
+
+/// As the C library has it; its own type is another one where times have more bits than addresses.
+struct tagTimeOfDay
 {
-    time->tv_sec = static_cast<time_t>(MachineSeconds);
-    time->tv_usec = 0;
+    long seconds;
+    long microseconds;
+};
+
+} // namespace
+
+/// The machine's clock, as Qt asks for it, stands still until a test moves it.
+extern "C" __attribute__((visibility("default"))) int MachineTime(tagTimeOfDay* time, void*) __asm__("gettimeofday");
+
+extern "C" int MachineTime(tagTimeOfDay* time, void* /*zone*/)
+{
+    *time = {static_cast<long>(MachineSeconds), 0};
     return 0;
 }
 

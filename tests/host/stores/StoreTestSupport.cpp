@@ -75,6 +75,29 @@ QVariant RunSql(const QString& path, const QString& statement)
     return value;
 }
 
+namespace {
+
+const QLatin1String OtherProgram("other");
+
+} // namespace
+
+TOtherProgram::TOtherProgram(const QString& path)
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), OtherProgram);
+    database.setDatabaseName(path);
+    if (!database.open())
+        qFatal("cannot open %s", qPrintable(path));
+}
+
+TOtherProgram::~TOtherProgram() { QSqlDatabase::removeDatabase(OtherProgram); }
+
+void TOtherProgram::Run(const QString& statement)
+{
+    QSqlQuery query(QSqlDatabase::database(OtherProgram));
+    if (!query.exec(statement))
+        qFatal("%s: %s", qPrintable(statement), qPrintable(query.lastError().text()));
+}
+
 TStandardErrorCapture::TStandardErrorCapture() : m_Original(dup(STDERR_FILENO))
 {
     if (!m_File.open())

@@ -39,6 +39,19 @@ QStringList NamesBeside(const QString& path);
 /// Runs a statement in an SQLite file without a store. Returns the first value of the first row.
 QVariant RunSql(const QString& path, const QString& statement);
 
+/// Another program's connection to an SQLite file.
+class TOtherProgram
+{
+public:
+    explicit TOtherProgram(const QString& path);
+    ~TOtherProgram();
+
+    TOtherProgram(const TOtherProgram&) = delete;
+    TOtherProgram& operator=(const TOtherProgram&) = delete;
+
+    void Run(const QString& statement);
+};
+
 /// Catches the lines that this process writes to standard error while the object exists.
 class TStandardErrorCapture
 {
