@@ -246,6 +246,22 @@ bool ReadAll(const QString& path, QByteArray* text, TProblems* problems)
     return problems->IsEmpty();
 }
 
+// Where the first comment begins; -1 when there is none. The parser lets some comments through in its strict mode too.
+int FirstComment(const QByteArray& text)
+{
+    bool isInString = false;
+    for (int at = 0; at + 1 < text.size(); ++at) {
+        const char next = text.at(at + 1);
+        if (isInString && text.at(at) == '\\')
+            ++at; // the next character does not end the string
+        else if (text.at(at) == '"')
+            isInString = !isInString;
+        else if (!isInString && text.at(at) == '/' && (next == '/' || next == '*'))
+            return at;
+    }
+    return -1;
+}
+
 /// The first of the parser's messages, which has the form "* Line 3, Column 5\n  Words\n".
 void AddSyntaxProblem(const QByteArray& text, const QString& messages, TProblems* problems)
 {
@@ -263,6 +279,12 @@ void AddSyntaxProblem(const QByteArray& text, const QString& messages, TProblems
 
 bool Parse(const QByteArray& text, Json::Value* root, TProblems* problems)
 {
+    const int comment = FirstComment(text);
+    if (comment >= 0) {
+        problems->Add(static_cast<int>(text.left(comment).count('\n')) + 1,
+                      QLatin1String("not valid JSON: a comment; expected JSON without // and /* */"));
+        return false;
+    }
     Json::CharReaderBuilder builder;
     Json::CharReaderBuilder::strictMode(&builder.settings_);
     builder["stackLimit"] = MostNesting;

@@ -44,7 +44,7 @@ enum EProfileEdits : int
 ///     ShowError(reason);
 /// @endcode
 ///
-/// The file is JSON in UTF-8, with one parameter in a line:
+/// The file is JSON in UTF-8, without comments, with one parameter in a line:
 /// - "product": "cabsettings profile", "format": 1;
 /// - "origin": "terminal", "software", "time", "timeSource", as in tagProfileOrigin;
 /// - "groups": the exported groups of ProfileGroups;

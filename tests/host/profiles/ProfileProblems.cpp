@@ -14,6 +14,7 @@ private slots:
     void problemsNameTheirLine();
     void allProblemsAreListed();
     void manyProblemsAreCounted();
+    void aTextMayHoldWhatLooksLikeAComment();
     void laterVersionsAreReadAsFarAsTheyAreKnown();
     void whatIsNoFileIsRefused_data();
     void whatIsNoFileIsRefused();
@@ -78,6 +79,18 @@ void ProfileProblems::problemsNameTheirLine_data()
     row("a comma missing", "\"bool\", \"value\"", "\"bool\" \"value\"",
         ":12: not valid JSON: Missing ',' or '}' in object declaration");
     row("a comma too many", "\"base\": 30}", "\"base\": 30},", ":15: not valid JSON: ");
+    const char* const comment = "not valid JSON: a comment; expected JSON without // and /* */";
+    const auto commentAt = [&](const char* name, const char* before, const char* after, int line) {
+        row(name, before, after, (':' + QByteArray::number(line) + ": " + comment).constData());
+    };
+    commentAt("a comment before it", "{\n  \"product\"", "// ours\n{\n  \"product\"", 1);
+    commentAt("a comment in an object", "  \"format\"", "  // the first\n  \"format\"", 3);
+    commentAt("a comment in several lines", "  \"format\"", "  /* the\n  first */ \"format\"", 3);
+    commentAt("a comment in an array", "[\"units\"", "[/* all */ \"units\"", 10);
+    commentAt("a comment behind a value", "\"format\": 1,", "\"format\": 1, // the first", 3);
+    commentAt("a comment behind a name", "\"format\":", "\"format\" /* the first */:", 3);
+    commentAt("a comment behind a backslash", "\"cabsettings profile\",", "\"\\\\\", // ours", 2);
+    commentAt("a comment behind it", "\"@\"\n}", "\"@\"\n} // end", 17);
     row("something behind it", "\"@\"\n}", "\"@\"\n} {}", ":17: not valid JSON: ");
 }
 
@@ -115,6 +128,16 @@ void ProfileProblems::manyProblemsAreCounted()
     QVERIFY(!Read());
     QCOMPARE(static_cast<int>(Problems().size()), 21);
     QCOMPARE(Problems().last(), Utf8("tractor.profile: 30 more"));
+}
+
+void ProfileProblems::aTextMayHoldWhatLooksLikeAComment()
+{
+    const QByteArray software("\"// 2.1 \\\" /* a \\\\ */\"");
+    const QByteArray before = QByteArray(Small).mid(QByteArray(Small).indexOf("\"software\": ") + 12);
+    Put(QByteArray(Small).replace(before.left(before.indexOf(',')), software));
+    const auto read = Read();
+    QVERIFY2(read, qPrintable(m_Problems.join(QLatin1Char('\n'))));
+    QCOMPARE(read->Origin().software, Utf8("// 2.1 \" /* a \\ */"));
 }
 
 void ProfileProblems::laterVersionsAreReadAsFarAsTheyAreKnown()
