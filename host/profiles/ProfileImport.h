@@ -16,7 +16,8 @@
 /// A parameter that was changed on both sides is a conflict: the store's value (ours) differs from the profile's
 /// (theirs), and also from the value that both once had (the base). The base is known in two cases:
 /// - the profile comes from this terminal: the value at its export;
-/// - this terminal has imported from the terminal of the profile before: the value that it took then.
+/// - this terminal has imported from the terminal of the profile before, and from fewer than 16 other terminals since:
+///   the value that it took then.
 /// Without a base, the profile's value is taken.
 ///
 /// @code

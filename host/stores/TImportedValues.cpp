@@ -7,6 +7,11 @@ const int Settled = 0; // the state of a row; 1: noted
 const QString Table = QLatin1String("CREATE TABLE IF NOT EXISTS imported (terminal TEXT NOT NULL, id INTEGER NOT NULL, "
                                     "state INTEGER NOT NULL, value TEXT NOT NULL, PRIMARY KEY (terminal, id, state))");
 
+// Each import gives the rows of its terminal new numbers.
+const QString Pruning =
+    QLatin1String("DELETE FROM imported WHERE terminal NOT IN (SELECT terminal FROM imported GROUP BY terminal "
+                  "ORDER BY max(rowid) DESC LIMIT ?)");
+
 QString NotNull(const QString& text) { return text.isNull() ? QString::fromLatin1("") : text; }
 
 } // namespace
@@ -36,29 +41,32 @@ bool TImportedValues::Read(const QString& terminal, QMap<int, QStringList>* valu
 
 bool TImportedValues::Note(const QString& terminal, const QMap<int, QString>& values, QString* reason)
 {
-    return Write(QLatin1String("INSERT OR REPLACE INTO imported VALUES (?, ?, 1, ?)"), terminal, values, reason);
+    return Write(QLatin1String("INSERT OR REPLACE INTO imported VALUES (?, ?, 1, ?)"), terminal, values, TERMINALS_STAY,
+                 reason);
 }
 
 bool TImportedValues::Settle(const QString& terminal, const QMap<int, QString>& values, QString* reason)
 {
     return Write(QLatin1String("UPDATE OR REPLACE imported SET state = 0 WHERE terminal = ? AND id = ? AND state = 1 "
                                "AND value = ?"),
-                 terminal, values, reason);
+                 terminal, values, OLD_TERMINALS_GO, reason);
 }
 
 bool TImportedValues::Forget(const QString& terminal, const QMap<int, QString>& values, QString* reason)
 {
     return Write(QLatin1String("DELETE FROM imported WHERE terminal = ? AND id = ? AND state = 1 AND value = ?"),
-                 terminal, values, reason);
+                 terminal, values, TERMINALS_STAY, reason);
 }
 
 bool TImportedValues::Write(const QString& statement, const QString& terminal, const QMap<int, QString>& values,
-                            QString* reason)
+                            EPruning pruning, QString* reason)
 {
     m_Connection.Run(QLatin1String("BEGIN IMMEDIATE"));
     m_Connection.Run(Table);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         m_Connection.Run(statement, {terminal, value.key(), NotNull(value.value())});
+    if (pruning == OLD_TERMINALS_GO)
+        m_Connection.Run(Pruning, {MostTerminals});
     m_Connection.Run(QLatin1String("COMMIT"));
     if (TakeReason(reason))
         return true;

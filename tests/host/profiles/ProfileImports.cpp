@@ -20,7 +20,8 @@ using namespace ProfileImport;
 
 namespace {
 
-const int Impatience = 50; // milliseconds
+const int Impatience = 50;    // milliseconds
+const int MostTerminals = 16; // as ProfileImport.h says
 
 } // namespace
 
@@ -44,6 +45,7 @@ private slots:
     void whatWasKeptStaysAConflict();
     void anImportThatWasCutOffHasTwoBases();
     void aProfileOfNobodyHasNoBase();
+    void theBasesOfTheLastTerminalsAreKept();
 
     void aLockedFileIsLeftAlone();
     void aFailedWriteChangesNothing();
@@ -268,6 +270,35 @@ void ProfileImports::aProfileOfNobodyHasNoBase()
     const tagResult result = Import(profile);
     QCOMPARE(Text(result.conflicts), QString());
     QVERIFY(result.isApplied);
+}
+
+void ProfileImports::theBasesOfTheLastTerminalsAreKept()
+{
+    const auto importFrom = [this](int terminal) {
+        m_Theirs->SetParameter(
+            PARAM_TERMINAL_IDENTITY,
+            QString::fromLatin1("6ba7b810-9dad-41d1-80b4-%1").arg(terminal, 12, 10, QLatin1Char('0')), true);
+        tagOptions options;
+        options.resolution = RESOLUTION_OURS;
+        return Import(Exported(*m_Theirs), options);
+    };
+    Set(*m_Theirs, Utf8("units.pressure=psi"));
+    for (int terminal = 1; terminal <= MostTerminals; ++terminal)
+        QVERIFY(importFrom(terminal).isApplied);
+    QVERIFY(importFrom(1).isApplied); // the oldest is now 2
+    QVERIFY(importFrom(MostTerminals + 1).isApplied);
+    QVERIFY(importFrom(MostTerminals + 2).isApplied); // and now 4
+    QCOMPARE(RunSql(Path("ours.db"), Utf8("SELECT count(DISTINCT terminal) FROM imported")).toInt(), MostTerminals);
+    const int rows = RunSql(Path("ours.db"), Utf8("SELECT count(*) FROM imported")).toInt();
+
+    Set(*m_Ours, Utf8("units.pressure=bar"));
+    for (const int terminal : {1, 4, MostTerminals, MostTerminals + 1, MostTerminals + 2})
+        QCOMPARE(Text(importFrom(terminal).conflicts), Utf8("units.pressure: bar, psi, psi"));
+    for (const int terminal : {2, 3}) {
+        Set(*m_Ours, Utf8("units.pressure=bar"));
+        QCOMPARE(Text(importFrom(terminal).conflicts), QString());
+    }
+    QVERIFY(RunSql(Path("ours.db"), Utf8("SELECT count(*) FROM imported")).toInt() <= rows);
 }
 
 void ProfileImports::aLockedFileIsLeftAlone()
