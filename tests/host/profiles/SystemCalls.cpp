@@ -1,5 +1,7 @@
 #include "SystemCalls.h"
 
+#include "TestSeed.h"
+
 #include <atomic>
 #include <cerrno>
 #include <climits>
@@ -33,6 +35,12 @@ bool IsMade()
     return false;
 }
 
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int CallStep = 4;
+#else
+constexpr int CallStep = 1;
+#endif
+
 template <class Function>
 Function* Original(const char* name)
 {
@@ -45,6 +53,8 @@ void SystemCalls::Count() { Arm(INT_MAX, 0); }
 int SystemCalls::Counted() { return calls; }
 void SystemCalls::Fail(int nth, int error) { Arm(nth, error); }
 void SystemCalls::Kill(int nth) { Arm(nth, 0); }
+int SystemCalls::FirstToKill() { return CallStep == 1 ? 1 : 1 + static_cast<int>(TestSeed() % CallStep); }
+int SystemCalls::NextToKill(int nth) { return nth + CallStep; }
 
 // These take the place of the C library's functions. With 64-bit file offsets, pwrite and ftruncate get their names
 // from the headers.
