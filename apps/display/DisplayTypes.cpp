@@ -1,0 +1,20 @@
+#include "display/DisplayTypes.h"
+
+#include "display/keys/TFocusKeys.h"
+#include "display/lightbar/TLightBar.h"
+
+#include <QtQml>
+
+namespace {
+
+constexpr const char* Module = "CabDisplay";
+constexpr int Major = 1;
+constexpr int Minor = 0;
+
+} // namespace
+
+void RegisterDisplayTypes()
+{
+    qmlRegisterType<TFocusKeys>(Module, Major, Minor, "FocusKeys");
+    qmlRegisterType<TLightBar>(Module, Major, Minor, "LightBar");
+}
