@@ -16,6 +16,8 @@
 /// @endcode
 ///
 /// The module works in the thread of the application object.
+class TReceiver;
+
 namespace CabQuick {
 
 /// Makes `import CabSettings 1.0` work in every QML engine of the program. Call it once, after the start of the
@@ -27,5 +29,15 @@ CABQUICK_EXPORT void Publish(TSqliteStore& store, const QString& dataFolder);
 /// Ends the module's work with the store: watches, timers, the receiver. Call it after the engines and before the
 /// terminal stops. Does nothing when nothing is published.
 CABQUICK_EXPORT void Withdraw();
+
+/// The receiver of the terminal, which QML knows as Receiver. Call it while a terminal is published.
+CABQUICK_EXPORT TReceiver& Receiver();
+
+/// Adds a problem to those that QML knows as Problems, or changes its text; and takes it away when it is over. May be
+/// called from any thread while a terminal is published. Otherwise does nothing.
+/// @param key tells the problems of a program apart, for instance "coverage".
+/// @param text one sentence for the operator.
+CABQUICK_EXPORT void SetProblem(const QString& key, const QString& text);
+CABQUICK_EXPORT void ClearProblem(const QString& key);
 
 } // namespace CabQuick

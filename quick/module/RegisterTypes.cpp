@@ -2,6 +2,7 @@
 
 #include "module/TParameterHub.h"
 #include "module/TTypeRegistrar.h"
+#include "terminal/RegisterTerminalTypes.h"
 
 #include <QtGlobal>
 
@@ -14,7 +15,7 @@ const char* const Uri = "CabSettings";
 using RegisterRoom = void (*)(const TTypeRegistrar& types);
 
 /// One function for each room, which registers its types.
-constexpr std::initializer_list<RegisterRoom> Rooms = {};
+constexpr std::initializer_list<RegisterRoom> Rooms = {RegisterTerminalTypes};
 
 } // namespace
 
