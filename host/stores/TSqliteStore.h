@@ -38,8 +38,8 @@ struct tagContent;
 /// opening fails; both are said.
 ///
 /// The store keeps these files beside the file `name`:
-/// - `name.good`, the last good copy. It is made by the first program that opens the file and by the last one that
-///   closes it.
+/// - `name.good`, the last good copy. It is made by the last program that closes the file when the file was changed, and
+///   by the first one that opens it on a day or after a program that was killed.
 /// - `name.copies/`, a copy for each of the last seven days and the newest of each of the last four weeks on which the
 ///   store was open, by the terminal's clock. They are made with the good copy, and when the day changes. See
 ///   StoreCopies.
@@ -48,7 +48,7 @@ struct tagContent;
 ///   the file there, and these rows get their values from the good copy or are removed. A file that is damaged as a
 ///   whole while other programs use it cannot be opened. A row that is damaged while the store is open keeps its value
 ///   in memory, and the next write repairs it.
-/// - `name.lock`, while the store is open.
+/// - `name.lock`, while the store is open, and after a program that was killed.
 ///
 /// Failures are said on standard error, one line for each reason.
 ///

@@ -128,16 +128,21 @@ TSqliteStoreFile::TSqliteStoreFile(const QString& path, int patience)
     , m_Patience(patience)
     , m_Lock(path + QLatin1String(".lock"))
     , m_Identity{}
+    , m_IsMarked(false)
+    , m_IsCopyOwed(false)
 {}
 
 TSqliteStoreFile::~TSqliteStoreFile()
 {
     if (!m_Connection)
         return;
+    if (m_IsCopyOwed || Version() != m_FirstVersion) // changed by another program or connection
+        m_Lock.MarkChanged();
     m_Connection.reset();
-    if (m_Lock.TakeAlone() && IsStillThere()) {
+    if (m_Lock.TakeAlone() && IsStillThere() && m_Lock.IsMarkedChanged()) {
         TSqliteConnection connection(m_Path, TSqliteConnection::SQLITE_ACCESS_WRITE, m_Patience);
-        MakeGoodCopy(connection, DAY_COPY_CHANGED);
+        if (!MakeGoodCopy(connection, DAY_COPY_CHANGED))
+            m_Lock.LeaveBehind(); // the next program tries again
     }
 }
 
@@ -149,8 +154,11 @@ QString TSqliteStoreFile::Open(StoreTable::tagContent* content)
         QString reason;
         if (!m_Lock.Take(deadline, &reason))
             return CannotBeUsed(m_Path, reason);
-        if (m_Lock.IsAlone() && !Prepare(deadline, &reason))
+        if (m_Lock.IsAlone() && !Prepare(deadline, &reason)) {
+            if (m_Lock.WasLeftBehind())
+                m_Lock.LeaveBehind();
             return reason;
+        }
         isShared = !m_Lock.IsAlone() || m_Lock.Share(m_Identity, &reason);
         if (!reason.isEmpty())
             return CannotBeUsed(m_Path, reason);
@@ -165,7 +173,10 @@ bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
 {
     std::unique_ptr<TSqliteConnection> connection;
     StoreTable::tagContent content;
+    bool mayDiffer = m_Lock.WasLeftBehind() || AnyExists(Companions(m_Path));
     tagStoreFinding found = RecogniseAndConnect(m_Path, deadline, &connection, &content);
+    mayDiffer =
+        mayDiffer || found.state != STORE_FILE_CLEAN || !content.journalDamage.isEmpty() || !content.damaged.isEmpty();
     if (found.state != STORE_FILE_CLEAN && !IsBeyondUs(found.state)) {
         if (!Replace(found, reason))
             return false;
@@ -189,7 +200,7 @@ bool TSqliteStoreFile::Prepare(const QDeadlineTimer& deadline, QString* reason)
     DurableFiles::Identify(m_Path, &m_Identity);
     JournalTable::Create(*connection); // before the disk is full
     connection->TakeFailure();         // without it, parameters can be stored all the same
-    MakeGoodCopy(*connection, DAY_COPY_MISSING);
+    m_IsCopyOwed = (mayDiffer || IsGoodCopyDue(*connection)) && !MakeGoodCopy(*connection, DAY_COPY_MISSING);
     return true;
 }
 
@@ -210,6 +221,7 @@ QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTabl
     if (found.state != STORE_FILE_CLEAN)
         return Refusal(m_Path, found);
     m_Connection->SetPatience(m_Patience);
+    m_FirstVersion = Version();
     return {};
 }
 
@@ -304,7 +316,7 @@ bool TSqliteStoreFile::PutInPlace(TSqliteConnection& source, QString* reason)
 
 QString TSqliteStoreFile::ReadChanged(StoreTable::tagContent* content, bool* isChanged)
 {
-    const QVariant version = m_Connection->Value(QLatin1String("PRAGMA data_version"));
+    const QVariant version = Version();
     QString reason = m_Connection->TakeFailure().text;
     *isChanged = reason.isEmpty() && version != m_Version;
     if (*isChanged)
@@ -320,6 +332,9 @@ QString TSqliteStoreFile::ReadChanged(StoreTable::tagContent* content, bool* isC
 QString TSqliteStoreFile::Write(const QMap<int, QVariant>& changes, const QMap<int, EChangeAuthor>& authors,
                                 QString* journalDamage)
 {
+    if (!m_IsMarked)
+        m_Lock.MarkChanged();
+    m_IsMarked = true;
     QString reason = StoreTable::Write(*m_Connection, changes, authors, journalDamage);
     // SQLite can still write to a file that was deleted or moved, or whose drive is gone. Such a write has failed.
     if (reason.isEmpty() && !(IsStillThere() && DurableFiles::Exists(m_Path + QLatin1String(LogSuffix))))
@@ -333,13 +348,26 @@ bool TSqliteStoreFile::IsStillThere() const
     return DurableFiles::Identify(m_Path, &named) && named == m_Identity;
 }
 
-// And the copy of the day.
-void TSqliteStoreFile::MakeGoodCopy(TSqliteConnection& source, EDayCopy when)
+QVariant TSqliteStoreFile::Version() const { return m_Connection->Value(QLatin1String("PRAGMA data_version")); }
+
+bool TSqliteStoreFile::IsGoodCopyDue(TSqliteConnection& source) const
+{
+    return !DurableFiles::Exists(m_GoodPath) ||
+           !DurableFiles::Exists(DayCopies::File(m_Path, {DayCopies::Today(source), 0}));
+}
+
+// And the copy of the day. Says why when one of them cannot be made.
+bool TSqliteStoreFile::MakeGoodCopy(TSqliteConnection& source, EDayCopy when)
 {
     const QDate day = DayCopies::Today(source);
     QString reason;
-    if (!CopyTo(source, m_GoodPath, DAMAGED_ROWS_REFUSED, &reason))
-        SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(m_GoodPath, reason));
-    else if (!DayCopies::Make(source, m_Path, day, when, &reason))
-        SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(DayCopies::File(m_Path, {day, 0}), reason));
+    QString path = m_GoodPath;
+    bool isMade = CopyTo(source, m_GoodPath, DAMAGED_ROWS_REFUSED, &reason);
+    if (isMade) {
+        path = DayCopies::File(m_Path, {day, 0});
+        isMade = DayCopies::Make(source, m_Path, day, when, &reason);
+    }
+    if (!isMade)
+        SayOnStandardError(QString::fromLatin1("%1 cannot be made: %2").arg(path, reason));
+    return isMade;
 }

@@ -28,14 +28,15 @@ public:
     /// @param patience how many milliseconds to wait for other programs that have the file locked.
     TSqliteStoreFile(const QString& path, int patience);
 
-    /// Closes the file if it is open. The last one makes the good copy.
+    /// Closes the file if it is open. The last one makes the good copy, when the file was changed since it was opened.
     ~TSqliteStoreFile();
 
     TSqliteStoreFile(const TSqliteStoreFile&) = delete;
     TSqliteStoreFile& operator=(const TSqliteStoreFile&) = delete;
 
     /// Opens the file. The first one makes the file when there is none, repairs rows that are damaged, and replaces a
-    /// damaged file by the good copy.
+    /// damaged file by the good copy. It makes a good copy when there is none of the day, and when the last one may not
+    /// be up to date: after a repair, and after a program that was killed.
     /// @return empty, or one line with the reason why the file cannot be used.
     QString Open(StoreTable::tagContent* content);
 
@@ -57,7 +58,9 @@ private:
     bool PutRowsInPlace(const QString& source, QString* reason);
     bool PutInPlace(TSqliteConnection& source, QString* reason);
     bool IsStillThere() const;
-    void MakeGoodCopy(TSqliteConnection& source, EDayCopy when);
+    bool IsGoodCopyDue(TSqliteConnection& source) const;
+    bool MakeGoodCopy(TSqliteConnection& source, EDayCopy when);
+    QVariant Version() const;
 
     const QString m_Path;
     const QString m_GoodPath;
@@ -65,5 +68,8 @@ private:
     TStoreLock m_Lock;
     std::unique_ptr<TSqliteConnection> m_Connection; // open only while the lock is held
     DurableFiles::tagIdentity m_Identity;
-    QVariant m_Version; // PRAGMA data_version when the file was last read
+    QVariant m_FirstVersion; // PRAGMA data_version when the file was opened
+    QVariant m_Version;      // when it was last read
+    bool m_IsMarked;         // the lock tells the last program that the file was changed
+    bool m_IsCopyOwed;       // the good copy could not be made
 };

@@ -1,9 +1,9 @@
 #include "stores/TStoreLock.h"
 
-#include <QByteArray>
 #include <QList>
 #include <QThread>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -14,16 +14,19 @@ namespace {
 
 const unsigned long PollMilliseconds = 20;
 const char Separator = ' ';
-const char End = '\n'; // a note without it is incomplete
+const char End = '\n';           // a line of the note without it is incomplete
+const char Mark[] = "changed\n"; // the second line
 
 } // namespace
 
-TStoreLock::TStoreLock(const QString& path) : m_Path(path), m_File(-1), m_IsAlone(false) {}
+TStoreLock::TStoreLock(const QString& path)
+    : m_Path(path), m_File(-1), m_IsAlone(false), m_WasLeftBehind(false), m_StaysBehind(false)
+{}
 
 TStoreLock::~TStoreLock()
 {
     QString reason;
-    if ((m_IsAlone || TakeAlone()) && IsStillThere())
+    if ((m_IsAlone || TakeAlone()) && IsStillThere() && !m_StaysBehind)
         DurableFiles::Remove(m_Path, &reason); // a file that stays is not locked, and does no harm
     Drop();
 }
@@ -64,7 +67,9 @@ bool TStoreLock::TryToTake()
         errno = EWOULDBLOCK;
         return false;
     }
-    return !m_IsAlone || ftruncate(m_File, 0) == 0;
+    m_WasLeftBehind = m_IsAlone && !Note().isEmpty();
+    const off_t remainder = m_WasLeftBehind ? 1 : 0; // seen when this program is killed too, and no complete note
+    return !m_IsAlone || ftruncate(m_File, remainder) == 0;
 }
 
 bool TStoreLock::Share(const DurableFiles::tagIdentity& file, QString* reason)
@@ -84,14 +89,30 @@ bool TStoreLock::Share(const DurableFiles::tagIdentity& file, QString* reason)
     return false;
 }
 
+void TStoreLock::MarkChanged()
+{
+    // Every holder writes the same bytes to the same place. Without the mark, the good copy is older than it could be.
+    const int place = static_cast<int>(Note().indexOf(End)) + 1;
+    if (place > 0)
+        static_cast<void>(pwrite(m_File, Mark, sizeof Mark - 1, place));
+}
+
+bool TStoreLock::IsMarkedChanged() const { return Note().endsWith(Mark); }
+
+QByteArray TStoreLock::Note() const
+{
+    QByteArray note(128, '\0');
+    const ssize_t length = pread(m_File, note.data(), static_cast<size_t>(note.size()), 0);
+    note.truncate(static_cast<int>(std::max(length, ssize_t{0})));
+    return note;
+}
+
 bool TStoreLock::FileInUse(DurableFiles::tagIdentity* file) const
 {
-    QByteArray note(64, '\0');
-    const ssize_t length = pread(m_File, note.data(), static_cast<size_t>(note.size()), 0);
-    if (length <= 0 || note.at(static_cast<int>(length) - 1) != End)
+    const QByteArray note = Note();
+    if (!note.contains(End))
         return false;
-    note.truncate(static_cast<int>(length) - 1);
-    const QList<QByteArray> numbers = note.split(Separator);
+    const QList<QByteArray> numbers = note.left(note.indexOf(End)).split(Separator);
     bool isDevice = false;
     bool isNumber = false;
     *file = {static_cast<dev_t>(numbers.first().toULongLong(&isDevice)),

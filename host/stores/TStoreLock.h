@@ -2,6 +2,7 @@
 
 #include "stores/DurableFiles.h"
 
+#include <QByteArray>
 #include <QDeadlineTimer>
 #include <QString>
 
@@ -14,7 +15,7 @@ public:
     /// @param path of the lock's own file, which exists while the lock is held.
     explicit TStoreLock(const QString& path);
 
-    /// Releases the lock. The last holder removes the lock's file.
+    /// Releases the lock. The last holder removes the lock's file, unless LeaveBehind() was called.
     ~TStoreLock();
 
     TStoreLock(const TStoreLock&) = delete;
@@ -31,6 +32,18 @@ public:
     /// process has taken the lock during the change, with an empty reason, or when the note cannot be written.
     bool Share(const DurableFiles::tagIdentity& file, QString* reason);
 
+    /// Whether the exclusive holder has found the lock's file of one that did not end in order.
+    bool WasLeftBehind() const { return m_WasLeftBehind; }
+
+    /// Lets the lock's file stay, so that the next holder finds it.
+    void LeaveBehind() { m_StaysBehind = true; }
+
+    /// Notes for the last holder that a shared holder has changed the file in use.
+    void MarkChanged();
+
+    /// Whether a holder has called MarkChanged().
+    bool IsMarkedChanged() const;
+
     /// The file that Share() has noted. Returns false when there is no complete note.
     bool FileInUse(DurableFiles::tagIdentity* file) const;
 
@@ -40,9 +53,12 @@ public:
 private:
     bool TryToTake();
     bool IsStillThere() const;
+    QByteArray Note() const;
     void Drop();
 
     const QString m_Path;
     int m_File;
     bool m_IsAlone;
+    bool m_WasLeftBehind;
+    bool m_StaysBehind;
 };
