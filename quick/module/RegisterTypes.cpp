@@ -1,7 +1,10 @@
 #include "module/RegisterTypes.h"
 
+#include "look/RegisterLookTypes.h"
 #include "module/TParameterHub.h"
 #include "module/TTypeRegistrar.h"
+#include "quantities/RegisterQuantityTypes.h"
+#include "settings/RegisterSettingsTypes.h"
 #include "terminal/RegisterTerminalTypes.h"
 
 #include <QtGlobal>
@@ -15,7 +18,12 @@ const char* const Uri = "CabSettings";
 using RegisterRoom = void (*)(const TTypeRegistrar& types);
 
 /// One function for each room, which registers its types.
-constexpr std::initializer_list<RegisterRoom> Rooms = {RegisterTerminalTypes};
+constexpr std::initializer_list<RegisterRoom> Rooms = {
+    RegisterSettingsTypes,
+    RegisterQuantityTypes,
+    RegisterLookTypes,
+    RegisterTerminalTypes,
+};
 
 } // namespace
 

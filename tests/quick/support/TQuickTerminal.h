@@ -69,6 +69,17 @@ public:
 
     QObject* Object() const { return m_Object.get(); }
 
+    /// An object beside it, as in "Parameter { name: 'units.metric' }".
+    std::unique_ptr<QObject> Make(const QByteArray& body) const
+    {
+        QQmlComponent component(m_Engine.get());
+        component.setData("import CabSettings 1.0\n" + body, QUrl());
+        std::unique_ptr<QObject> object(component.create());
+        if (!object)
+            qFatal("%s", qPrintable(component.errorString()));
+        return object;
+    }
+
     /// The value of a QML expression; invalid, with a failed check, when it has none.
     QVariant Get(const char* expression) const
     {

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QColor>
+#include <QVector>
+
+/// Colours that are mixed from those of a scheme, so that an operator's own scheme carries the whole display.
+namespace DerivedColors {
+
+/// @p share of @p added in @p color, channel by channel; 0 is @p color. Opaque.
+QColor Mix(const QColor& color, const QColor& added, double share);
+
+/// Whether the ground is lighter than what is drawn on it may be: black is read on it better than white.
+bool IsLight(const QColor& ground);
+
+/// The colour that is nearest to @p color and has at least @p ratio against each of @p grounds, towards black or white.
+/// Grounds of which one is light and one is dark may have none; then the best.
+QColor Legible(const QColor& color, const QVector<QColor>& grounds, double ratio);
+
+/// The least of the contrast ratios; see ContrastRatio().
+double LeastRatio(const QColor& color, const QVector<QColor>& grounds);
+
+/// The colours of a scheme that the others are mixed from.
+struct tagBasis
+{
+    bool isDay;
+    QColor text;
+    QColor background;
+    QColor title;
+    QColor coverage;
+};
+
+struct tagDerived
+{
+    QColor panel;        ///< the ground of what lies on the background or floats on the map
+    QColor line;         ///< a hairline around a panel and between rows
+    QColor muted;        ///< secondary text
+    QColor accent;       ///< what is chosen
+    QColor accentText;   ///< on it
+    QColor good;         ///< as it should be
+    QColor attention;    ///< needs to be looked at
+    QColor scrim;        ///< translucent, over a page behind a question
+    QColor focus;        ///< the frame around what the keyboard acts on
+    QColor coverageEdge; ///< seams of the coverage
+};
+
+tagDerived Derive(const tagBasis& basis);
+
+} // namespace DerivedColors

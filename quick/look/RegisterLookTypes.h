@@ -1,0 +1,6 @@
+#pragma once
+
+class TTypeRegistrar;
+
+/// Scheme and ContrastModel.
+void RegisterLookTypes(const TTypeRegistrar& types);

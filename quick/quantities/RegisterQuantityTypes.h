@@ -1,0 +1,6 @@
+#pragma once
+
+class TTypeRegistrar;
+
+/// Quantity and QuantityModel.
+void RegisterQuantityTypes(const TTypeRegistrar& types);

@@ -1,0 +1,119 @@
+#include "settings/ParameterTexts.h"
+
+#include "settings/ParameterTitles.h"
+
+#include "parameters/ItemNames.h"
+#include "parameters/ParameterText.h"
+#include "parameters/TParameterCatalogue.h"
+
+#include <QCoreApplication>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+QString Translated(const char* text) { return QCoreApplication::translate("ParameterTexts", text); }
+
+QVariantMap Choice(const QVariant& value, const QString& name, const QString& text)
+{
+    return {{QLatin1String("value"), value}, {QLatin1String("name"), name}, {QLatin1String("text"), text}};
+}
+
+bool HasRange(const tagParameter& parameter) { return parameter.type == PARAMETER_INT && parameter.choices.isEmpty(); }
+
+bool IsBounded(const tagParameter& parameter)
+{
+    return parameter.least != std::numeric_limits<int>::min() && parameter.greatest != std::numeric_limits<int>::max();
+}
+
+QString WithUnit(const QString& number, const QString& unit)
+{
+    return unit.isEmpty() ? number : number + QLatin1Char(' ') + unit;
+}
+
+QString RangeProblem(const tagParameter& parameter, const QString& entered)
+{
+    bool isNumber = false;
+    const double number = entered.toDouble(&isNumber);
+    const bool isWhole = isNumber && std::trunc(number) == number;
+    const QString problem = !isWhole ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not a whole number."))
+                            : number < parameter.least
+                                ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Below the least value."))
+                                : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Above the greatest value."));
+    if (!IsBounded(parameter))
+        return problem;
+    return problem + QLatin1Char(' ') +
+           Translated(QT_TRANSLATE_NOOP("ParameterTexts", "%1 to %2"))
+               .arg(QString::number(parameter.least), WithUnit(QString::number(parameter.greatest), parameter.unit));
+}
+
+/// What the catalogue would say is for a tool: it names the parameter and repeats the value.
+QString Problem(const tagParameter& parameter, const QString& entered)
+{
+    if (HasRange(parameter))
+        return RangeProblem(parameter, entered);
+    if (parameter.mostBytes > 0) {
+        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "The name %1. Accepted is: %2"))
+            .arg(ItemNames::Problem(entered, parameter.mostBytes), ItemNames::Suggestion(entered, parameter.mostBytes));
+    }
+    return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not accepted. Expected: %1."))
+        .arg(Translated(parameter.accepts.toUtf8().constData()));
+}
+
+} // namespace
+
+QString ParameterTexts::Shown(const tagParameter& parameter, const QVariant& value)
+{
+    const bool isChoice = value.userType() == QMetaType::Bool || value.userType() == QMetaType::Int;
+    const QString choice = isChoice ? ParameterTitles::Choice(parameter, value.toInt()) : QString();
+    if (!choice.isEmpty())
+        return choice;
+    const QString text = TParameterCatalogue::Text(parameter, value);
+    if (parameter.names.isEmpty())
+        return text.isEmpty() ? text : WithUnit(text, parameter.unit);
+
+    QStringList names;
+    for (const QString& name : text.split(QLatin1Char(','))) {
+        const QString listed = ParameterTitles::ListedName(name);
+        names.append(listed.isEmpty() ? name : listed);
+    }
+    return names.join(QLatin1String(", "));
+}
+
+QVariantList ParameterTexts::Choices(const tagParameter& parameter)
+{
+    QVariantList choices;
+    for (const tagParameterChoice& choice : parameter.choices)
+        choices.append(Choice(choice.value, choice.name, ParameterTitles::Choice(parameter, choice.value)));
+    if (parameter.type == PARAMETER_BOOL) {
+        for (const bool value : {true, false})
+            choices.append(Choice(value, ParameterText::FromValue(value), ParameterTitles::Choice(parameter, value)));
+    }
+    for (const QString& name : parameter.names)
+        choices.append(Choice(name, name, ParameterTitles::ListedName(name)));
+    return choices;
+}
+
+std::optional<QString> ParameterTexts::Entered(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Double: // any number of QML may arrive as one
+        return QString::number(value.toDouble(), 'g', std::numeric_limits<double>::max_digits10);
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::QString:
+    case QMetaType::QColor:
+        return ParameterText::FromValue(value);
+    default:
+        return std::nullopt;
+    }
+}
+
+QVariant ParameterTexts::Read(const tagParameter& parameter, const QString& entered, QString* problem)
+{
+    QString error;
+    QVariant value = TParameterCatalogue::Read(parameter, entered, &error);
+    *problem = value.isValid() ? QString() : Problem(parameter, entered);
+    return value;
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+class TTypeRegistrar;
+
+/// Parameter, ParameterModel, ParameterGroups and Restart.
+void RegisterSettingsTypes(const TTypeRegistrar& types);
