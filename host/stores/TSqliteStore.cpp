@@ -112,6 +112,26 @@ bool TSqliteStore::SetParameter(EParamID id, const QVariant& value, bool persist
     return false;
 }
 
+QString TSqliteStore::WriteFailure() const
+{
+    const QMutexLocker locker(&m_FailureMutex);
+    return m_LastWriteFailure;
+}
+
+bool TSqliteStore::WriteOutstanding()
+{
+    const bool isDone = PersistOutstanding();
+    if (isDone)
+        KeepWriteFailure(QString());
+    return isDone;
+}
+
+void TSqliteStore::KeepWriteFailure(const QString& failure)
+{
+    const QMutexLocker locker(&m_FailureMutex);
+    m_LastWriteFailure = failure;
+}
+
 bool TSqliteStore::CatchUp()
 {
     QString failure;
@@ -136,5 +156,6 @@ bool TSqliteStore::Persist(const QMap<int, QVariant>& changes)
         journalDamage = QString::fromLatin1("%1: changes are not in the journal: %2").arg(m_Path, journalDamage);
     SayOnce(journalDamage, &m_JournalFailure);
     SayOnce(failure, &m_WriteFailure);
+    KeepWriteFailure(failure);
     return failure.isEmpty();
 }

@@ -3,6 +3,7 @@
 #include "stores/TParameterStore.h"
 
 #include <QDate>
+#include <QMutex>
 #include <QString>
 
 #include <memory>
@@ -71,6 +72,14 @@ public:
     /// the value in memory changes, the row in the file does not.
     bool SetParameter(EParamID id, const QVariant& value, bool persist) override;
 
+    /// Why the last write of the file has failed, in one line; empty when it has succeeded, and when nothing is left to
+    /// write. The values are in memory, and are on the disk when WriteOutstanding() has returned true.
+    QString WriteFailure() const;
+
+    /// Tries once more to write the values that are not on the disk yet. True when all of them are. False, too, while
+    /// persistence is held.
+    bool WriteOutstanding();
+
     /// The store's file, as an absolute path.
     QString Path() const { return m_Path; }
 
@@ -81,6 +90,7 @@ protected:
 private:
     TSqliteStore(const QString& path, int patience);
     QString Load();
+    void KeepWriteFailure(const QString& failure);
     QDate DayNow();
     void CopyPastDay();
     void Take(const StoreTable::tagContent& content);
@@ -88,7 +98,9 @@ private:
     const QString m_Path;
     std::unique_ptr<TDiskThread> m_DiskThread;
     std::unique_ptr<TSqliteStoreFile> m_File; // used by the disk thread alone
-    QString m_ReadFailure;                    // the last one that was said, as the next three
+    mutable QMutex m_FailureMutex;
+    QString m_LastWriteFailure; // guarded by m_FailureMutex
+    QString m_ReadFailure;      // the last one that was said, as the next three
     QString m_WriteFailure;
     QString m_JournalFailure;
     QMap<int, QString> m_Problems;

@@ -3,6 +3,7 @@
 #include "module/CabQuick.h"
 #include "module/SharedObject.h"
 #include "region/TRegionSettingsProxy.h"
+#include "terminal/TProblemWatch.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ void InModule(Change change)
 
 } // namespace
 
-TProblems::TProblems(QObject* parent) : QAbstractListModel(parent) {}
+TProblems::TProblems(QObject* parent) : QAbstractListModel(parent) { new TProblemWatch(*this); }
 
 void TProblems::Set(const QString& key, const QString& text)
 {

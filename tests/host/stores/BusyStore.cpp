@@ -23,6 +23,7 @@ private slots:
     void init();
 
     void aBusyFileIsSaidAfterAWhile();
+    void whatIsNotWrittenIsKnownUntilItIs();
     void aBusyFileIsWaitedFor();
     void othersWaitNoLongerThanTheFirst();
     void readsDoNotWait();
@@ -69,6 +70,26 @@ void BusyStore::aBusyFileIsSaidAfterAWhile()
     }
     QVERIFY(store->SetParameter(PARAM_FARM, QLatin1String("Hill"), true));
     QCOMPARE(standardError.Lines().size(), 1);
+    QCOMPARE(OpenStore(m_Path)->Values(), store->Values());
+}
+
+void BusyStore::whatIsNotWrittenIsKnownUntilItIs()
+{
+    const auto store = Open(Impatience);
+    TStandardErrorCapture standardError;
+    QCOMPARE(store->WriteFailure(), QString());
+    QVERIFY(store->WriteOutstanding());
+    {
+        TOtherProgram other(m_Path);
+        other.Run(WrittenByOther);
+        QVERIFY(!store->SetParameter(PARAM_METRIC, true, true));
+        QCOMPARE(store->WriteFailure(), m_Said);
+        QVERIFY(!store->WriteOutstanding());
+        QCOMPARE(store->WriteFailure(), m_Said);
+        other.Run(Released);
+    }
+    QVERIFY(store->WriteOutstanding());
+    QCOMPARE(store->WriteFailure(), QString());
     QCOMPARE(OpenStore(m_Path)->Values(), store->Values());
 }
 
