@@ -73,8 +73,21 @@ void TReceiver::FollowAddress()
     }
 }
 
+void TReceiver::Show(const QByteArray& sentences)
+{
+    if (m_IsRunning)
+        return;
+    if (!m_Player) {
+        m_Player = std::make_unique<TReceiverWorker>(TParameterHub::Instance().Store(), m_Address);
+        connect(m_Player.get(), &TReceiverWorker::Received, this, &TReceiver::Take);
+    }
+    m_Player->Play(sentences);
+    TellCounts();
+}
+
 void TReceiver::Start()
 {
+    m_Player.reset();
     auto* const worker = new TReceiverWorker(TParameterHub::Instance().Store(), m_Address);
     m_Link = std::make_unique<QObject>();
     QObject* const link = m_Link.get();

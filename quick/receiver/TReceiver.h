@@ -13,6 +13,7 @@
 #include <memory>
 
 struct tagReceived;
+class TReceiverWorker;
 
 /// The receiver of the terminal: reads the stream at the address of the parameter receiver.address, logs it, sets the
 /// clock, and switches between day and night. In QML it is the singleton Receiver; in C++ it is CabQuick::Receiver().
@@ -86,6 +87,11 @@ public:
     bool IsRunning() const { return m_IsRunning; }
     void SetRunning(bool isRunning);
 
+    /// Takes whole sentences as if they had just come, in the thread that calls, while the receiver is not running: for
+    /// pictures and tests, which need the same moment each time. Sets the clock as a recording does, and emits what a
+    /// stream emits, before it returns. What has been shown stays current: it grows no older and never falls silent.
+    void Show(const QByteArray& sentences);
+
     EState State() const { return m_State; }
     QString StateName() const;                  ///< "off", "connecting", "receiving", "silent", "lost" or "ended"
     QString StateText() const;                  ///< for the operator, one or two words
@@ -149,7 +155,8 @@ private:
     void TellCounts();
 
     QThread m_Thread;
-    std::unique_ptr<QObject> m_Link; ///< signals of the worker end here; null while there is none
+    std::unique_ptr<TReceiverWorker> m_Player; ///< of Show(); null before
+    std::unique_ptr<QObject> m_Link;           ///< signals of the worker end here; null while there is none
     QString m_Address;
     bool m_IsRunning = false;
     EState m_State = STATE_OFF;

@@ -4,6 +4,7 @@
 #include "nmea/NmeaChecksum.h"
 #include "nmea/RecordedTime.h"
 #include "nmea/TNmeaInput.h"
+#include "nmea/TNmeaLineSplitter.h"
 #include "parameters/ParameterRows.h"
 #include "receiver/SimulatedField.h"
 #include "receiver/TSimulatedInput.h"
@@ -91,6 +92,17 @@ void TReceiverWorker::StartInput()
     m_Input->Start();
 }
 
+void TReceiverWorker::Play(const QByteArray& sentences)
+{
+    if (!m_Receiver)
+        m_Receiver = std::make_unique<TNmeaReceiver>(NMEA_RECORDED);
+    TNmeaLineSplitter lines;
+    lines.Append(sentences.constData(), static_cast<int>(sentences.size()));
+    for (QByteArray line = lines.TakeLine(); !line.isEmpty(); line = lines.TakeLine())
+        Take(line);
+    Deliver();
+}
+
 void TReceiverWorker::Take(const QByteArray& line)
 {
     const QByteArray epoch = EpochOf(line);
@@ -106,7 +118,8 @@ void TReceiverWorker::Take(const QByteArray& line)
     const TNmeaReceiver::tagStatus& status = m_Received.status;
     if (!epoch.isEmpty() && status.hasFix && !std::isnan(status.latitude)) {
         m_Received.isPosition = true;
-        m_DaySwitch->Look({status.latitude, status.longitude}, status.utc);
+        if (m_DaySwitch)
+            m_DaySwitch->Look({status.latitude, status.longitude}, status.utc);
     }
     if (!m_Delivery.isActive())
         m_Delivery.start(0);

@@ -41,6 +41,10 @@ public:
 
     void Start();
 
+    /// In place of Start(): takes whole sentences as if they had just come, in the thread that calls. Sets the clock,
+    /// but leaves day and night alone.
+    void Play(const QByteArray& sentences);
+
 signals:
     /// Once for each epoch of the receiver, when its sentences are complete, and for lines without a position.
     void Received(const tagReceived& received);

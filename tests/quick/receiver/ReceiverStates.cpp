@@ -28,6 +28,8 @@ private slots:
     void aNewAddressIsUsedAtOnce();
     void aLostFixIsSaid();
     void itMayBeStoppedAtAnyTime();
+    void whatIsShownStaysCurrent();
+    void aRunningReceiverShowsNothingElse();
 
 private:
     static QMap<int, QVariant> At(const QString& address) { return {{PARAM_RECEIVER_ADDRESS, address}}; }
@@ -252,6 +254,45 @@ void ReceiverStates::itMayBeStoppedAtAnyTime()
         QCOMPARE(terminal.Text("Receiver.state"), QLatin1String("off"));
     }
     terminal.Get("Receiver.running = true"); // the terminal ends while it runs
+}
+
+void ReceiverStates::whatIsShownStaysCurrent()
+{
+    const TQuickTerminal terminal;
+    TReceiver& receiver = CabQuick::Receiver();
+    terminal.Store().SetParameter(PARAM_DAY_MODE, false, true); // it is noon in the sentences
+    QSignalSpy positions(&receiver, &TReceiver::positionChanged);
+    for (int tenth = 0; tenth < 15; ++tenth)
+        receiver.Show(Epoch(tenth));
+    QCOMPARE(positions.size(), 15);
+    QCOMPARE(receiver.State(), TReceiver::STATE_RECEIVING);
+    QCOMPARE(receiver.IsRunning(), false);
+    QCOMPARE(receiver.FixText(), QLatin1String("RTK"));
+    QCOMPARE(receiver.AgeText(), QLatin1String("0.1 s"));
+    QCOMPARE(receiver.Lines(), 30.0);
+    QCOMPARE(receiver.Utc(), QLatin1String("2026-05-01 12:00:01"));
+    QCOMPARE(TRegionSettingsProxy().GetDate(), QDate(2026, 5, 1));
+    QCOMPARE(terminal.Store().GetParameter(PARAM_DAY_MODE).toBool(), false);
+    QSignalSpy states(&receiver, &TReceiver::stateChanged);
+    QSignalSpy ages(&receiver, &TReceiver::ageChanged);
+    QVERIFY(!states.wait(TReceiver::SilenceMs + 1000));
+    QCOMPARE(ages.size(), 0);
+}
+
+void ReceiverStates::aRunningReceiverShowsNothingElse()
+{
+    TReceiverServer server;
+    QVERIFY(server.Listen());
+    const TQuickTerminal terminal(At(AddressOf(server)));
+    TReceiver& receiver = CabQuick::Receiver();
+    receiver.Show(Epoch(0));
+    QCOMPARE(receiver.Lines(), 2.0);
+    receiver.SetRunning(true);
+    QCOMPARE(receiver.State(), TReceiver::STATE_CONNECTING);
+    QCOMPARE(receiver.Lines(), 0.0);
+    receiver.Show(Epoch(1));
+    QCOMPARE(receiver.State(), TReceiver::STATE_CONNECTING);
+    QCOMPARE(receiver.Lines(), 0.0);
 }
 
 QTEST_GUILESS_MAIN(ReceiverStates)
