@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdio>
 #include <dlfcn.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -99,4 +100,17 @@ extern "C" __attribute__((visibility("default"))) int unlink(const char* path) n
 {
     static const auto original = Original<int(const char*)>("unlink");
     return IsMade() ? original(path) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int renameat2(int fromFolder, const char* from, int toFolder,
+                                                                const char* to, unsigned flags) noexcept
+{
+    static const auto original = Original<int(int, const char*, int, const char*, unsigned)>("renameat2");
+    return IsMade() ? original(fromFolder, from, toFolder, to, flags) : -1;
+}
+
+extern "C" __attribute__((visibility("default"))) int mkdir(const char* path, mode_t mode) noexcept
+{
+    static const auto original = Original<int(const char*, mode_t)>("mkdir");
+    return IsMade() ? original(path, mode) : -1;
 }

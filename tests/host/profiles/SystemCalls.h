@@ -1,7 +1,7 @@
 #pragma once
 
-/// The calls of this process that change files: write, pwrite, fsync, fdatasync, ftruncate, rename and
-/// unlink. One of them can be made to fail, or to be the last thing that the process does.
+/// The calls of this process that change files: write, pwrite, fsync, fdatasync, ftruncate, rename, renameat2, unlink
+/// and mkdir. One of them can be made to fail, or to be the last thing that the process does.
 namespace SystemCalls {
 
 /// Lets the calls through, and counts them from now on.

@@ -18,6 +18,9 @@ inline EParamID Param(int id) { return static_cast<EParamID>(id); }
 /// Makes a folder, in memory where that is possible, because tests open hundreds of stores.
 std::unique_ptr<QTemporaryDir> MakeFolder();
 
+/// Lets the temporary folders of this program be in memory where that is possible.
+void KeepTemporaryFilesInMemory();
+
 /// Opens a store. When that fails, the reason is a warning of the test.
 std::unique_ptr<TSqliteStore> OpenStore(const QString& path);
 
