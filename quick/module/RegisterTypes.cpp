@@ -1,5 +1,7 @@
 #include "module/RegisterTypes.h"
 
+#include "fields/RegisterFieldTypes.h"
+#include "logs/RegisterLogTypes.h"
 #include "look/RegisterLookTypes.h"
 #include "module/TParameterHub.h"
 #include "module/TTypeRegistrar.h"
@@ -19,10 +21,8 @@ using RegisterRoom = void (*)(const TTypeRegistrar& types);
 
 /// One function for each room, which registers its types.
 constexpr std::initializer_list<RegisterRoom> Rooms = {
-    RegisterSettingsTypes,
-    RegisterQuantityTypes,
-    RegisterLookTypes,
-    RegisterTerminalTypes,
+    RegisterSettingsTypes, RegisterQuantityTypes, RegisterLookTypes,
+    RegisterTerminalTypes, RegisterFieldTypes,    RegisterLogTypes,
 };
 
 } // namespace

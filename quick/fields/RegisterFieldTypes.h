@@ -1,0 +1,6 @@
+#pragma once
+
+class TTypeRegistrar;
+
+/// The tree of clients, farms, fields and jobs.
+void RegisterFieldTypes(const TTypeRegistrar& types);

@@ -1,0 +1,6 @@
+#pragma once
+
+class TTypeRegistrar;
+
+/// The lines of the logs.
+void RegisterLogTypes(const TTypeRegistrar& types);
