@@ -68,6 +68,11 @@ QString ReceiverTexts::Age(double seconds)
     return TUnits::GetValueString(seconds, UNITS_SECONDS, seconds < FirstWholeSeconds ? 1 : 0, nullptr);
 }
 
+QString ReceiverTexts::Dilution(double hdop)
+{
+    return std::isnan(hdop) ? QString() : TUnits::GetValueString(hdop, QString(), 1, nullptr).trimmed();
+}
+
 QString ReceiverTexts::Silent() { return Translated(QT_TRANSLATE_NOOP("Receiver", "The receiver sends nothing.")); }
 
 QString ReceiverTexts::Lost(const QString& reason)

@@ -16,6 +16,9 @@ QString Fix(int quality, bool hasFix);
 /// "0.1 s"; empty for NaN.
 QString Age(double seconds);
 
+/// "0.9"; empty for NaN.
+QString Dilution(double hdop);
+
 // Sentences, with what the system says.
 QString Silent();
 QString Lost(const QString& reason);

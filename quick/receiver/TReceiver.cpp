@@ -216,4 +216,6 @@ QString TReceiver::StateName() const { return ReceiverTexts::StateName(m_State);
 QString TReceiver::StateText() const { return ReceiverTexts::StateText(m_State); }
 QString TReceiver::FixText() const { return ReceiverTexts::Fix(Quality(), HasFix()); }
 
+QString TReceiver::HdopText() const { return ReceiverTexts::Dilution(Hdop()); }
+
 TReceiver& CabQuick::Receiver() { return *SharedObject<TReceiver>(); }

@@ -42,6 +42,7 @@ class CABQUICK_EXPORT TReceiver : public QObject
     Q_PROPERTY(QString fixText READ FixText NOTIFY fixChanged)
     Q_PROPERTY(int satellites READ Satellites NOTIFY fixChanged)
     Q_PROPERTY(double hdop READ Hdop NOTIFY fixChanged)
+    Q_PROPERTY(QString hdopText READ HdopText NOTIFY fixChanged)
     Q_PROPERTY(double age READ Age NOTIFY ageChanged)
     Q_PROPERTY(QString ageText READ AgeText NOTIFY ageChanged)
     Q_PROPERTY(double latitude READ Latitude NOTIFY positionChanged)
@@ -102,6 +103,7 @@ public:
     QString FixText() const;
     int Satellites() const { return m_Quality.satellites; }
     double Hdop() const { return m_Quality.hdop; } ///< NaN when it is not told
+    QString HdopText() const;                      ///< "0.9"; empty when it is not told
 
     /// Seconds; the greatest age that the last position has reached: while positions come, the time from one to the
     /// next. NaN before the first.

@@ -90,7 +90,7 @@ void TParameterModel::Select()
         const bool isFound = std::all_of(words.begin(), words.end(), [&searched](const QString& word) {
             return searched.contains(word, Qt::CaseInsensitive);
         });
-        if (isFound && (m_Group.isEmpty() || m_Group == ParameterTitles::Group(parameter)))
+        if (isFound && (m_Group.isEmpty() || parameter.name.startsWith(m_Group + QLatin1Char('.'))))
             rows.append(&parameter);
     }
     std::sort(rows.begin(), rows.end(), [](const tagParameter* left, const tagParameter* right) {

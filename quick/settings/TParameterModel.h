@@ -18,7 +18,9 @@ struct tagParameter;
 class TParameterModel : public QAbstractListModel
 {
     Q_OBJECT
-    Q_PROPERTY(QString group READ Group WRITE SetGroup NOTIFY groupChanged) ///< empty: all groups
+
+    /// The text before a full stop of the name: "colors", or "colors.day" for a part of the group. Empty: all groups.
+    Q_PROPERTY(QString group READ Group WRITE SetGroup NOTIFY groupChanged)
 
     /// Each of its words must occur in the title, the meaning, the name, or the text of a choice. Empty: all.
     Q_PROPERTY(QString search READ Search WRITE SetSearch NOTIFY searchChanged)

@@ -107,6 +107,7 @@ void ReceiverStates::aPositionIsToldOnceForEachEpoch()
         QVERIFY(std::abs(latitudes.at(tenth) - (52 + tenth * 0.00001 / 60)) < 1e-9);
     QCOMPARE(terminal.Get("Receiver.satellites").toInt(), 14);
     QCOMPARE(terminal.Get("Receiver.hdop").toDouble(), 0.8);
+    QCOMPARE(terminal.Get("Receiver.hdopText").toString(), QString::fromLatin1("0.8"));
 }
 
 void ReceiverStates::aServerIsLostAndComesBack()
