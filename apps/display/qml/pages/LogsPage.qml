@@ -1,0 +1,98 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import "../controls"
+import "parts"
+
+// The newest lines of the logs as they are written. A pause keeps them still; a tap on Export takes the logs to the
+// stick.
+//
+//     LogsPage { anchors.fill: parent }
+Item {
+    id: page
+
+    property bool isUserLog: true
+
+    Log {
+        id: log
+        kind: page.isUserLog ? Log.User : Log.Nmea
+    }
+
+    SettingsPanel {
+        anchors.fill: parent
+        anchors.margins: Sizes.margin
+        title: qsTr("Logs")
+
+        tools: [
+            Segments {
+                choices: [{ value: true, text: qsTr("Events") }, { value: false, text: qsTr("Receiver") }]
+                value: page.isUserLog
+                onChosen: function (chosen) { page.isUserLog = chosen }
+            },
+            IconButton {
+                icon: log.paused ? "play" : "pause"
+                accessibleName: log.paused ? qsTr("Go on") : qsTr("Pause")
+                primary: log.paused
+                onClicked: log.paused = !log.paused
+            }
+        ]
+
+        TextLabel {
+            visible: log.count === 0
+            muted: true
+            text: qsTr("No line yet.")
+        }
+
+        ListView {
+            id: lines
+
+            // Follows the newest line unless the operator has paged up.
+            property bool follows: true
+
+            anchors.left: parent.left
+            anchors.right: turner.left
+            anchors.rightMargin: Sizes.gap * 2
+            height: parent.height
+            clip: true
+            focus: true
+            boundsBehavior: Flickable.StopAtBounds
+            model: log
+            delegate: TextLabel {
+                width: ListView.view.width
+                bottomPadding: Sizes.gap
+                wraps: true
+                text: model.line
+            }
+            onCountChanged: {
+                if (follows)
+                    Qt.callLater(lines.positionViewAtEnd)
+            }
+            onMovementEnded: follows = atYEnd
+        }
+
+        // Hides the line that is not whole.
+        Rectangle {
+            readonly property Item first: lines.itemAt(0, lines.contentY + 1)
+
+            anchors.left: lines.left
+            anchors.right: lines.right
+            height: first && first.y < lines.contentY ? first.y + first.height - lines.contentY : 0
+            color: Scheme.panel
+        }
+
+        PageTurner {
+            id: turner
+            anchors.right: parent.right
+            hasUp: !lines.atYBeginning
+            hasDown: !lines.atYEnd
+            onUp: {
+                lines.follows = false
+                lines.contentY = Math.max(lines.originY, lines.contentY - lines.height + Sizes.row)
+            }
+            onDown: {
+                lines.contentY = Math.min(lines.originY + Math.max(0, lines.contentHeight - lines.height),
+                                          lines.contentY + lines.height - Sizes.row)
+                lines.follows = lines.atYEnd
+            }
+        }
+    }
+}

@@ -1,0 +1,31 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import "../../controls"
+
+// The contrasts in which an element takes part, on its ground or as the ground of others: the ratio now, and what it
+// should reach where it does not.
+//
+//     Contrasts { width: 500; model: contrastModel; name: "colors.day.track" }
+Flow {
+    id: contrasts
+
+    property var model
+    // Of the element's parameter.
+    property string name
+    spacing: Sizes.gap * 2
+
+    Repeater {
+        model: contrasts.model
+
+        TextLabel {
+            visible: model.elementName === contrasts.name || model.groundName === contrasts.name
+            color: model.isLegible ? Scheme.muted : Scheme.attention
+            text: {
+                var other = model.elementName === contrasts.name ? qsTr("on %1: %2").arg(model.ground)
+                                                                : qsTr("under %1: %2").arg(model.element)
+                var known = other.arg(model.ratioText)
+                return model.isLegible ? known : qsTr("%1, too low: at least %2").arg(known).arg(model.boundText)
+            }
+        }
+    }
+}

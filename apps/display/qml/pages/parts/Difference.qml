@@ -1,0 +1,44 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import "../../controls"
+
+// The value of a setting on this display and in a profile. The one that an import leaves is bold.
+//
+//     Difference { title: "Area"; ours: "Hectare"; theirs: "Acre"; kept: "theirs" }
+SettingRow {
+    id: row
+
+    property string ours
+    property string theirs
+    property string kept
+    property bool isConflict: false
+
+    readonly property real half: Math.max(Sizes.target * 2, width * 0.25)
+
+    meaning: isConflict ? qsTr("Changed on both sides") : ""
+
+    Row {
+        spacing: Sizes.gap * 2
+
+        Repeater {
+            model: [{ side: "ours", title: qsTr("Here") }, { side: "theirs", title: qsTr("Profile") }]
+
+            Column {
+                width: row.half
+
+                TextLabel {
+                    muted: true
+                    text: modelData.title
+                }
+
+                TextLabel {
+                    width: parent.width
+                    size: Sizes.row
+                    wraps: true
+                    font.bold: row.kept === modelData.side
+                    text: modelData.side === "ours" ? row.ours : row.theirs
+                }
+            }
+        }
+    }
+}

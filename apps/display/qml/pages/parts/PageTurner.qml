@@ -1,0 +1,35 @@
+import QtQuick 2.15
+import "../../controls"
+
+// The two buttons that turn the pages of a list.
+//
+//     PageTurner { hasUp: first > 0; hasDown: last < count - 1; onUp: turnUp(); onDown: turnDown() }
+Column {
+    id: turner
+
+    property bool hasUp
+    property bool hasDown
+
+    signal up()
+    signal down()
+
+    width: Sizes.target
+    spacing: Sizes.gap
+    visible: hasUp || hasDown
+
+    IconButton {
+        width: Sizes.target
+        icon: "up"
+        accessibleName: qsTr("Rows above")
+        enabled: turner.hasUp
+        onClicked: turner.up()
+    }
+
+    IconButton {
+        width: Sizes.target
+        icon: "down"
+        accessibleName: qsTr("Rows below")
+        enabled: turner.hasDown
+        onClicked: turner.down()
+    }
+}

@@ -1,0 +1,123 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import "../../controls"
+
+// A list of a model that shows whole rows only, with two buttons to turn its pages: nothing needs a drag. Rows may have
+// different heights, none more than the list's own.
+//
+//     PagedList { anchors.fill: parent; model: names; delegate: NameRow { width: ListView.view.width } }
+FocusScope {
+    id: list
+
+    property alias model: view.model
+    property alias delegate: view.delegate
+    property alias count: view.count
+    property alias spacing: view.spacing
+
+    property int firstRow: 0
+    property int lastRow: -1
+    readonly property Item focused: Window.activeFocusItem
+
+    function turnDown() {
+        if (lastRow < view.count - 1)
+            view.positionViewAtIndex(lastRow + 1, ListView.Beginning)
+        measure()
+    }
+
+    function turnUp() {
+        if (firstRow > 0) {
+            view.positionViewAtIndex(firstRow - 1, ListView.End)
+            var first = view.indexAt(0, view.contentY + view.spacing + 1)
+            var row = view.itemAtIndex(first)
+            view.positionViewAtIndex(row && row.y < view.contentY - 1 ? first + 1 : first, ListView.Beginning)
+        }
+        measure()
+    }
+
+    function show(index) {
+        measure()
+        if (index < firstRow || index > lastRow)
+            view.positionViewAtIndex(index, ListView.Beginning)
+        measure()
+    }
+
+    // Finds the rows that are whole.
+    function measure() {
+        var index = Math.max(0, view.indexAt(0, view.contentY + view.spacing + 1))
+        var bottom = 0
+        firstRow = index
+        for (var row = view.itemAtIndex(index); row; row = view.itemAtIndex(++index)) {
+            if (index > firstRow && row.y + row.height > view.contentY + view.height + 1)
+                break
+            bottom = row.y + row.height - view.contentY
+        }
+        lastRow = index - 1
+        whole.height = view.moving ? view.height : Math.min(view.height, bottom)
+    }
+
+    // The keyboard reaches rows that are not whole.
+    onFocusedChanged: {
+        for (var item = focused; item; item = item.parent) {
+            if (item.parent === view.contentItem) {
+                show(view.indexAt(0, item.y + 1))
+                return
+            }
+        }
+    }
+
+    Keys.onPressed: function (event) {
+        if (event.key !== Qt.Key_PageDown && event.key !== Qt.Key_PageUp)
+            return
+        if (event.key === Qt.Key_PageDown)
+            turnDown()
+        else
+            turnUp()
+        event.accepted = true
+    }
+
+    Item {
+        id: whole
+        anchors.left: parent.left
+        anchors.right: turner.visible ? turner.left : parent.right
+        anchors.rightMargin: (turner.visible ? Sizes.gap * 2 : 0) - Sizes.line
+        clip: true
+
+        ListView {
+            id: view
+            // The line around a button at the edge is not cut off.
+            width: parent.width - Sizes.line
+            height: list.height
+            cacheBuffer: 0
+            boundsBehavior: Flickable.StopAtBounds
+            snapMode: ListView.SnapToItem
+            // The last page too begins with a whole row.
+            footer: Item { width: 1; height: Math.max(0, list.height - Sizes.target) }
+
+            // Changes when a row is made, and when one grows.
+            readonly property real extent: contentItem.childrenRect.height
+
+            onExtentChanged: measuring.restart()
+            onContentYChanged: measuring.restart()
+            onContentHeightChanged: measuring.restart()
+            onHeightChanged: measuring.restart()
+            onCountChanged: measuring.restart()
+            onMovingChanged: measuring.restart()
+
+            // Once for all changes of an event.
+            Timer {
+                id: measuring
+                interval: 0
+                onTriggered: list.measure()
+            }
+        }
+    }
+
+    PageTurner {
+        id: turner
+        anchors.right: parent.right
+        hasUp: list.firstRow > 0
+        hasDown: list.lastRow < list.count - 1
+        onUp: list.turnUp()
+        onDown: list.turnDown()
+    }
+}

@@ -1,0 +1,54 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import "../../controls"
+
+// A question that must be answered before anything else: Cancel, or the button that does it.
+//
+//     Question { id: question; action: qsTr("Remove"); onAgreed: tree.remove(name, true) }
+//     …
+//     question.ask(qsTr("%1 holds files. Remove them too?").arg(name))
+Overlay {
+    id: question
+
+    property string action
+    property alias text: words.text
+
+    signal agreed()
+
+    function ask(sentence) {
+        text = sentence
+        open()
+    }
+
+    Column {
+        width: Math.min(question.roomWidth, Sizes.row * 22)
+        spacing: Sizes.gap * 3
+
+        TextLabel {
+            id: words
+            width: parent.width
+            size: Sizes.row
+            wraps: true
+        }
+
+        Row {
+            anchors.right: parent.right
+            spacing: Sizes.gap * 2
+
+            PushButton {
+                focus: true
+                text: qsTr("Cancel")
+                onClicked: question.close()
+            }
+
+            PushButton {
+                text: question.action
+                primary: true
+                onClicked: {
+                    question.close()
+                    question.agreed()
+                }
+            }
+        }
+    }
+}
