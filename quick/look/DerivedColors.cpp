@@ -64,6 +64,12 @@ QColor Muted(const QColor& text, const QVector<QColor>& grounds)
     return DerivedColors::Legible(text, grounds, ReadableText);
 }
 
+/// A bright colour fills a large area of a dark display by half.
+QColor LargeArea(const QColor& color, const QColor& background)
+{
+    return IsLight(background) ? color : Mix(background, color, 0.45);
+}
+
 QColor Scrim(const QColor& background)
 {
     QColor scrim = IsLight(background) ? Black : Mix(background, Black, 0.5);
@@ -117,6 +123,10 @@ DerivedColors::tagDerived DerivedColors::Derive(const tagBasis& basis)
     derived.accentText = TextOn(basis.title, basis);
     derived.good = Legible(QColor::fromRgb(hues.good), grounds, ReadableText);
     derived.attention = Legible(QColor::fromRgb(hues.attention), grounds, ReadableText);
+    derived.accentGround = LargeArea(derived.accent, basis.background);
+    derived.accentGroundText = TextOn(derived.accentGround, basis);
+    derived.goodGround = LargeArea(derived.good, basis.background);
+    derived.goodGroundText = TextOn(derived.goodGround, basis);
     derived.scrim = Scrim(basis.background);
     derived.focus = Legible(basis.title, grounds, VisibleFrame);
     derived.coverageEdge = Mix(basis.coverage, basis.text, 0.2);

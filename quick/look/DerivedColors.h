@@ -36,6 +36,10 @@ struct tagDerived
     QColor muted;        ///< secondary text
     QColor accent;       ///< what is chosen
     QColor accentText;   ///< on it
+    QColor accentGround; ///< a large area that is chosen: on a dark display it must not dazzle
+    QColor accentGroundText;
+    QColor goodGround; ///< a large area of what is as it should be
+    QColor goodGroundText;
     QColor good;         ///< as it should be
     QColor attention;    ///< needs to be looked at
     QColor scrim;        ///< translucent, over a page behind a question

@@ -44,6 +44,10 @@ class TScheme : public QObject
     Q_PROPERTY(QColor muted READ Muted NOTIFY changed)
     Q_PROPERTY(QColor accent READ Accent NOTIFY changed)
     Q_PROPERTY(QColor accentText READ AccentText NOTIFY changed)
+    Q_PROPERTY(QColor accentGround READ AccentGround NOTIFY changed)
+    Q_PROPERTY(QColor accentGroundText READ AccentGroundText NOTIFY changed)
+    Q_PROPERTY(QColor goodGround READ GoodGround NOTIFY changed)
+    Q_PROPERTY(QColor goodGroundText READ GoodGroundText NOTIFY changed)
     Q_PROPERTY(QColor good READ Good NOTIFY changed)
     Q_PROPERTY(QColor attention READ Attention NOTIFY changed)
     Q_PROPERTY(QColor scrim READ Scrim NOTIFY changed)
@@ -82,6 +86,10 @@ public:
     QColor Muted() const { return m_Look.derived.muted; }
     QColor Accent() const { return m_Look.derived.accent; }
     QColor AccentText() const { return m_Look.derived.accentText; }
+    QColor AccentGround() const { return m_Look.derived.accentGround; }
+    QColor AccentGroundText() const { return m_Look.derived.accentGroundText; }
+    QColor GoodGround() const { return m_Look.derived.goodGround; }
+    QColor GoodGroundText() const { return m_Look.derived.goodGroundText; }
     QColor Good() const { return m_Look.derived.good; }
     QColor Attention() const { return m_Look.derived.attention; }
     QColor Scrim() const { return m_Look.derived.scrim; }

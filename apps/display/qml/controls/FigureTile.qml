@@ -17,6 +17,7 @@ Panel {
     default property alias detail: below.data
 
     readonly property real inner: width - 2 * Sizes.margin
+    readonly property bool isTooWide: inner > 0 && widest.advanceWidth(number) > inner
 
     signal clicked()
 
@@ -30,6 +31,11 @@ Panel {
     Keys.onEnterPressed: clicked()
     Keys.onSpacePressed: clicked()
 
+    FontMetrics {
+        id: widest
+
+        font { bold: true; pixelSize: tile.isMain ? Sizes.main : Sizes.figureLeast }
+    }
     Column {
         id: lines
 

@@ -6,6 +6,7 @@ import "."
 //     IconButton { icon: "plus"; accessibleName: qsTr("Zoom in"); onClicked: map.zoomIn() }
 PushButton {
     implicitWidth: Sizes.target
+    iconSize: Math.round(Sizes.icon * 1.2)
     strong: true
     size: Math.round(Sizes.title * 1.2)
 }

@@ -35,8 +35,8 @@ Overlay {
     readonly property string unit: quantity ? quantity.unit : parameter ? parameter.unit : ""
     readonly property string range: quantity ? rangeOf(quantity.unit)
                                     : parameter && parameter.hasRange ? parameter.accepts : ""
-    // As the display writes it; "" where numbers of this kind have no decimals.
-    readonly property string decimalSign: quantity ? quantity.format(1.5).replace(/[^.,]/g, "") : ""
+    // As the display writes it; "" where a number has no decimals.
+    readonly property string decimalSign: quantity ? quantity.decimalSign : ""
     readonly property bool hasSign: quantity ? least < 0 : parameter !== null && parameter.least < 0
     // A number that is longer is a slip of the finger.
     readonly property int lengthGreatest: 12

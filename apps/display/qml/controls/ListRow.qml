@@ -16,7 +16,7 @@ Item {
     property bool chosen: false
     // Another page opens.
     property bool opens: false
-    property color ink: chosen ? Scheme.accentText : Scheme.text
+    property color ink: chosen ? Scheme.accentGroundText : Scheme.text
 
     signal clicked()
     signal held()
@@ -37,7 +37,7 @@ Item {
         anchors.fill: parent
         visible: row.chosen || tap.pressed
         radius: Sizes.radius
-        color: row.chosen ? Scheme.accent : Scheme.line
+        color: row.chosen ? Scheme.accentGround : Scheme.line
     }
     Icon {
         id: picture
@@ -71,7 +71,7 @@ Item {
             visible: text !== ""
             text: row.detail
             wraps: true
-            color: row.chosen ? Scheme.accentText : Scheme.muted
+            color: row.chosen ? Scheme.accentGroundText : Scheme.muted
         }
     }
     Icon {
@@ -80,7 +80,7 @@ Item {
         anchors { right: parent.right; rightMargin: Sizes.margin; verticalCenter: parent.verticalCenter }
         visible: row.opens
         name: "forward"
-        color: row.chosen ? Scheme.accentText : Scheme.muted
+        color: row.chosen ? Scheme.accentGroundText : Scheme.muted
     }
     FocusRing { target: row }
     TapArea {

@@ -17,13 +17,14 @@ Item {
     property bool checked: false
     property string accessibleName: text
     property int size: Sizes.row
+    property int iconSize: Sizes.icon
     property bool isFlat: false
     // Bold, as the text of a primary button is.
     property bool strong: primary || checked
 
     readonly property bool isPressed: tap.pressed && tap.containsMouse
-    readonly property color ground: primary ? Scheme.accent : checked ? Scheme.good : Scheme.button
-    readonly property color ink: primary ? Scheme.accentText : checked ? Scheme.panel
+    readonly property color ground: primary ? Scheme.accentGround : checked ? Scheme.goodGround : Scheme.button
+    readonly property color ink: primary ? Scheme.accentGroundText : checked ? Scheme.goodGroundText
                                  : isFlat ? Scheme.text : Scheme.buttonText
 
     signal clicked()
@@ -64,13 +65,14 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             visible: button.icon !== ""
             name: button.icon
+            size: button.iconSize
             color: button.ink
         }
         TextLabel {
             id: label
 
             readonly property real room: button.width - 2 * Sizes.gap
-                                         - (button.icon !== "" ? Sizes.icon + content.spacing : 0)
+                                         - (button.icon !== "" ? button.iconSize + content.spacing : 0)
 
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, room)

@@ -77,7 +77,7 @@ FocusScope {
                     anchors.fill: parent
                     visible: cell.isChosen || tap.pressed
                     radius: Sizes.radius
-                    color: cell.isChosen ? Scheme.accent : Scheme.line
+                    color: cell.isChosen ? Scheme.accentGround : Scheme.line
                 }
                 // The chosen text is bold. The places must not move with the choice.
                 TextLabel {
@@ -95,7 +95,7 @@ FocusScope {
                     text: modelData.text
                     size: Sizes.text + 2
                     font.bold: cell.isChosen
-                    color: cell.isChosen ? Scheme.accentText : Scheme.buttonText
+                    color: cell.isChosen ? Scheme.accentGroundText : Scheme.buttonText
                 }
                 FocusRing { target: cell }
                 TapArea {
