@@ -27,10 +27,21 @@ TLocalPlane::TLocalPlane(double latitude, double longitude)
 {
     const double phi = latitude / DegreesPerRadian;
     const double lambda = longitude / DegreesPerRadian;
-    const double normal = SemiMajorAxis / std::sqrt(1 - Eccentricity2 * std::sin(phi) * std::sin(phi));
-    m_Origin = {normal * std::cos(phi) * std::cos(lambda), normal * std::cos(phi) * std::sin(lambda),
-                normal * (1 - Eccentricity2) * std::sin(phi)};
+    m_Origin = Surface(phi, lambda);
     m_Directions = DirectionsAt(phi, lambda);
+    m_Up = Upwards(phi, lambda);
+}
+
+TLocalPlane::TVector TLocalPlane::Surface(double latitude, double longitude)
+{
+    const double normal = SemiMajorAxis / std::sqrt(1 - Eccentricity2 * std::sin(latitude) * std::sin(latitude));
+    return {normal * std::cos(latitude) * std::cos(longitude), normal * std::cos(latitude) * std::sin(longitude),
+            normal * (1 - Eccentricity2) * std::sin(latitude)};
+}
+
+TLocalPlane::TVector TLocalPlane::Upwards(double latitude, double longitude)
+{
+    return {std::cos(latitude) * std::cos(longitude), std::cos(latitude) * std::sin(longitude), std::sin(latitude)};
 }
 
 TLocalPlane::tagDirections TLocalPlane::DirectionsAt(double latitude, double longitude)
@@ -45,6 +56,20 @@ TLocalPlane::TVector TLocalPlane::Along(double east, double north) const
     for (std::size_t axis = 0; axis < result.size(); ++axis)
         result[axis] = east * m_Directions.east[axis] + north * m_Directions.north[axis];
     return result;
+}
+
+tagPlanePoint TLocalPlane::ToPlane(double latitude, double longitude) const
+{
+    const double phi = latitude / DegreesPerRadian;
+    const double lambda = longitude / DegreesPerRadian;
+    const TVector place = Surface(phi, lambda);
+    const TVector up = Upwards(phi, lambda);
+    TVector offset = {place[0] - m_Origin[0], place[1] - m_Origin[1], place[2] - m_Origin[2]};
+    // Not straight down on the plane but along the place's own vertical, on which ToGround() comes back.
+    const double height = -Dot(offset, m_Up) / Dot(up, m_Up);
+    for (std::size_t axis = 0; axis < offset.size(); ++axis)
+        offset[axis] += height * up[axis];
+    return {Dot(offset, m_Directions.east), Dot(offset, m_Directions.north)};
 }
 
 tagGroundPose TLocalPlane::ToGround(double east, double north, double heading) const

@@ -1,11 +1,8 @@
 #include "profiles/ProfileFile.h"
 
-#include "platform/DurableCopy.h"
-#include "platform/TUnfinishedCopy.h"
 #include "stores/DurableFiles.h"
 
 #include <QCryptographicHash>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -32,7 +29,6 @@ const char* const Product = "cabsettings profile";
 const char* const HashField = "sha256";
 const int MostProblems = 20;
 const int MostNesting = 16;
-const mode_t ReadableByAll = 0644;
 
 QString Utf8(const char* text) { return QString::fromUtf8(text); }
 
@@ -350,22 +346,7 @@ QByteArray ProfileFile::Text(const tagContent& content)
 
 bool ProfileFile::Write(const QString& path, const QByteArray& text, QString* reason)
 {
-    const QByteArray folder = QFileInfo(path).path().toUtf8();
-    TUnfinishedCopy copy(folder);
-    int written = 0;
-    bool isWritten = copy.Descriptor() >= 0;
-    while (isWritten && written < text.size()) {
-        const ssize_t count =
-            write(copy.Descriptor(), text.constData() + written, static_cast<std::size_t>(text.size() - written));
-        isWritten = count > 0 || (count < 0 && errno == EINTR);
-        written += count > 0 ? static_cast<int>(count) : 0;
-    }
-    if (isWritten) // FAT has no permissions, which is no reason to fail
-        static_cast<void>(fchmod(copy.Descriptor(), ReadableByAll));
-    if (isWritten && fsync(copy.Descriptor()) == 0 && copy.MoveTo(path.toUtf8(), true) && SyncFolder(folder))
-        return true;
-    *reason = DurableFiles::SystemReason(QLatin1String("cannot write"), path);
-    return false;
+    return DurableFiles::Write(path, text, reason);
 }
 
 std::optional<ProfileFile::tagContent> ProfileFile::Read(const QString& path, TProblems* problems)

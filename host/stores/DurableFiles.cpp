@@ -1,8 +1,8 @@
 #include "stores/DurableFiles.h"
 
 #include "platform/DurableCopy.h"
+#include "platform/TUnfinishedCopy.h"
 
-#include <QByteArray>
 #include <QFileInfo>
 
 #include <cerrno>
@@ -13,6 +13,27 @@
 #include <unistd.h>
 
 namespace DurableFiles {
+
+namespace {
+
+const mode_t ReadableByAll = 0644;
+
+bool WriteAll(int descriptor, const QByteArray& content)
+{
+    int written = 0;
+    while (written < content.size()) {
+        const ssize_t count =
+            write(descriptor, content.constData() + written, static_cast<std::size_t>(content.size() - written));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        written += static_cast<int>(count);
+    }
+    return true;
+}
+
+} // namespace
 
 // Not strerror(), which translates to the machine's language.
 QString SystemText(int error)
@@ -72,6 +93,19 @@ bool Copy(const QString& source, const QString& target, QString* reason)
     if (CopyDurably(source.toUtf8(), target.toUtf8(), false))
         return true;
     *reason = SystemReason(QLatin1String("cannot copy"), source);
+    return false;
+}
+
+bool Write(const QString& path, const QByteArray& content, QString* reason)
+{
+    const QByteArray folder = QFileInfo(path).path().toUtf8();
+    TUnfinishedCopy copy(folder);
+    const bool isWritten = copy.Descriptor() >= 0 && WriteAll(copy.Descriptor(), content);
+    if (isWritten) // FAT has no permissions, which is no reason to fail
+        static_cast<void>(fchmod(copy.Descriptor(), ReadableByAll));
+    if (isWritten && fsync(copy.Descriptor()) == 0 && copy.MoveTo(path.toUtf8(), true) && SyncFolder(folder))
+        return true;
+    *reason = SystemReason(QLatin1String("cannot write"), path);
     return false;
 }
 

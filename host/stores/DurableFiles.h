@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <sys/types.h>
@@ -18,6 +19,10 @@ bool Rename(const QString& source, const QString& target, QString* reason);
 
 /// Copies a file. Returns false when @p target exists.
 bool Copy(const QString& source, const QString& target, QString* reason);
+
+/// Writes a file that everyone may read; an existing one is replaced. Whatever happens on the way, @p path is the old
+/// file or the complete new one.
+bool Write(const QString& path, const QByteArray& content, QString* reason);
 
 /// Removes a file. Returns true when there is no such file.
 bool Remove(const QString& path, QString* reason);

@@ -1,0 +1,25 @@
+#include "blocks/PointList.h"
+
+void PointList::Write(TSerializer& serializer, const std::vector<tagGeoPoint>& points)
+{
+    serializer << static_cast<unsigned>(points.size());
+    for (const tagGeoPoint& point : points)
+        serializer << point.latitude << point.longitude;
+}
+
+bool PointList::Read(TSerializer& serializer, std::vector<tagGeoPoint>* points)
+{
+    points->clear();
+    unsigned count = 0;
+    serializer >> count;
+    for (unsigned i = 0; i < count; ++i) {
+        if (serializer.atEnd()) // a wrong number may stand for gigabytes that are not there
+            return false;
+        tagGeoPoint point = {};
+        serializer >> point.latitude >> point.longitude;
+        if (!IsGeoPoint(point))
+            return false;
+        points->push_back(point);
+    }
+    return true;
+}
