@@ -30,31 +30,36 @@ TParameterHub::~TParameterHub()
 
 void TParameterHub::Write(int number, const QVariant& value)
 {
-    const auto id = static_cast<EParamID>(number);
     {
+        const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
         const QMutexLocker lock(&m_Mutex);
         m_Unwritten.insert(number, value);
+        m_Store.SetParameter(static_cast<EParamID>(number), value, false);
     }
-    const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
-    m_Store.SetParameter(id, value, false);
     QMetaObject::invokeMethod(m_Writer, [this] { WriteToDisk(); });
 }
 
 void TParameterHub::WriteToDisk()
 {
-    // Only the newest value of each: an older one would come back into memory, and so to the pages, with its write.
+    const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
     QHash<int, QVariant> values;
+    bool areAccepted = true;
+    TPersistenceHold transaction(m_Store);
     {
+        // Only the newest value of each, and none newer in between: an older one would come back into memory, and so to
+        // the pages, with its write. No disk is waited for here, since the store is held.
         const QMutexLocker lock(&m_Mutex);
         values.swap(m_Unwritten);
+        for (auto value = values.begin(); value != values.end();) {
+            const auto id = static_cast<EParamID>(value.key());
+            if (m_Store.GetParameter(id) != value.value()) { // set by others meanwhile, who were the last
+                value = values.erase(value);
+                continue;
+            }
+            areAccepted = m_Store.SetParameter(id, value.value(), true) && areAccepted;
+            ++value;
+        }
     }
-    if (values.isEmpty())
-        return;
-    const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
-    TPersistenceHold transaction(m_Store);
-    bool areAccepted = true;
-    for (auto value = values.cbegin(); value != values.cend(); ++value)
-        areAccepted = m_Store.SetParameter(static_cast<EParamID>(value.key()), value.value(), true) && areAccepted;
     const bool areOnDisk = transaction.Release() && areAccepted;
     for (auto value = values.cbegin(); value != values.cend(); ++value)
         emit Written(value.key(), areOnDisk);

@@ -57,8 +57,8 @@ private:
     const int m_LanguageAtStart;
     const int m_DecimalPointAtStart;
     TParameterWatch m_Watch;
-    QMutex m_Mutex;
-    QHash<int, QVariant> m_Unwritten; // guarded by the mutex
+    QMutex m_Mutex; // guards the next member, and that memory gets its values in their order
+    QHash<int, QVariant> m_Unwritten;
     QThread m_DiskThread;
     QObject* const m_Writer; // lives in the disk thread, which deletes it
 };
