@@ -129,6 +129,6 @@ DerivedColors::tagDerived DerivedColors::Derive(const tagBasis& basis)
     derived.goodGroundText = TextOn(derived.goodGround, basis);
     derived.scrim = Scrim(basis.background);
     derived.focus = Legible(basis.title, grounds, VisibleFrame);
-    derived.coverageEdge = Mix(basis.coverage, basis.text, 0.2);
+    derived.coverageEdge = Mix(basis.coverage, basis.text, basis.isDay ? 0.2 : 0.1);
     return derived;
 }
