@@ -29,12 +29,20 @@ int RunChild(const QString& path)
     }
 }
 
-void FillJournal(const QString& path)
+// The bytes of a store whose journal is full. The parameters are removed again, so that it is read quickly.
+QByteArray FullJournal()
 {
-    const auto store = OpenStore(path);
-    const TPersistenceHold hold(*store);
-    for (int number = 0; number < MostEntries; ++number)
-        store->SetParameter(Param(1000 + number), number, true);
+    const auto folder = MakeFolder();
+    const QString path = folder->filePath(QLatin1String("settings.db"));
+    {
+        const auto store = OpenStore(path);
+        for (const bool isSet : {true, false}) {
+            const TPersistenceHold hold(*store);
+            for (int number = 0; number < MostEntries / 2; ++number)
+                store->SetParameter(Param(1000 + number), isSet ? QVariant(number) : QVariant(), true);
+        }
+    }
+    return FileBytes(path);
 }
 
 } // namespace
@@ -44,8 +52,13 @@ class StoreJournalSurvivesKill : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { m_FullJournal = FullJournal(); }
+
     void journalAndParametersAgreeWheneverTheKillComes_data();
     void journalAndParametersAgreeWheneverTheKillComes();
+
+private:
+    QByteArray m_FullJournal;
 };
 
 void StoreJournalSurvivesKill::journalAndParametersAgreeWheneverTheKillComes_data()
@@ -54,8 +67,8 @@ void StoreJournalSurvivesKill::journalAndParametersAgreeWheneverTheKillComes_dat
     QTest::addColumn<int>("told");
     QTest::addColumn<int>("spins");
     QRandomGenerator random(TestSeed());
-    for (int point = 0; point < 30; ++point)
-        QTest::addRow("point %d", point) << (point % 3 == 0) << random.bounded(1, 40) << random.bounded(300000);
+    for (int point = 0; point < 30; ++point) // a full journal takes long to read
+        QTest::addRow("point %d", point) << (point % 6 == 0) << random.bounded(1, 40) << random.bounded(300000);
 }
 
 void StoreJournalSurvivesKill::journalAndParametersAgreeWheneverTheKillComes()
@@ -66,7 +79,7 @@ void StoreJournalSurvivesKill::journalAndParametersAgreeWheneverTheKillComes()
     const auto folder = MakeFolder();
     const QString path = folder->filePath(QLatin1String("settings.db"));
     if (isFull)
-        FillJournal(path);
+        SetFileBytes(path, m_FullJournal);
     TChild child({ChangeForEver, path});
     int last = 0;
     for (int number = child.NextNumber(); number > 0; number = child.NextNumber()) {
@@ -102,8 +115,11 @@ void StoreJournalSurvivesKill::journalAndParametersAgreeWheneverTheKillComes()
         newestValues.insert(entry.parameter, entry.newValue);
         QCOMPARE(store->GetParameter(Param(entry.parameter)), entry.newValue);
     }
-    if (!isFull)
-        QCOMPARE(newestValues, store->Values());
+    QMap<int, QVariant> values;
+    for (auto value = newestValues.cbegin(); value != newestValues.cend(); ++value)
+        if (value->isValid())
+            values.insert(value.key(), *value);
+    QCOMPARE(values, store->Values());
     QCOMPARE(standardError.Lines(), QStringList());
 }
 

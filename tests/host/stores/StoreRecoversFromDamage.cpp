@@ -1,6 +1,8 @@
 #include "StoreTestSupport.h"
+#include "TestSeed.h"
 
 #include <QFile>
+#include <QRandomGenerator>
 #include <QtTest>
 
 namespace {
@@ -11,6 +13,24 @@ const QLatin1String FirstAside(".damaged-1");
 // The bytes of the schema number. A larger number means a later version of the program, and the file is refused.
 const int SchemaAt = 60;
 const int SchemaEnd = 64;
+
+const int HeaderSize = 100; // of the file
+const int PageSize = 4096;
+const int PageHeaderSize = 12;
+
+// Of the log: its header, and the frames that hold a page each.
+const int LogHeaderSize = 32;
+const int FrameSize = PageSize + 24;
+
+// Each damage takes an opening, some of them a restore: every run tries other bytes of those that are alike.
+const int RandomBytes = 60;
+
+// One bit, or all bits of a byte.
+char RandomFlip(QRandomGenerator& random)
+{
+    const int bit = random.bounded(9);
+    return static_cast<char>(bit == 8 ? 0xff : 1 << bit);
+}
 
 } // namespace
 
@@ -88,7 +108,7 @@ void StoreRecoversFromDamage::initTestCase()
         m_FileValues = store->Values();
     }
     m_FileBytes = FileBytes(m_Path);
-    QVERIFY(m_FileBytes.size() > 3 * 4096);
+    QVERIFY(m_FileBytes.size() > 3 * PageSize);
 }
 
 void StoreRecoversFromDamage::init()
@@ -159,29 +179,31 @@ void StoreRecoversFromDamage::CheckByte(int offset, char flip)
 
 void StoreRecoversFromDamage::aChangedByteNeverGivesWrongValues_data()
 {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("step");
-    QTest::addColumn<QByteArray>("flips");
+    QTest::addColumn<QVector<int>>("offsets");
+    QRandomGenerator random(TestSeed());
     const int size = static_cast<int>(m_FileBytes.size());
-    QTest::newRow("file header") << 0 << 100 << 1 << QByteArray("\xff\x01");
-    QTest::newRow("page headers") << 100 << 108 << 1 << QByteArray("\xff\x01");
-    QTest::newRow("everywhere, one bit") << 108 << size << 197 << QByteArray("\x01");
-    QTest::newRow("everywhere, eight bits") << 207 << size << 197 << QByteArray("\xff");
+    QVector<int> header;
+    for (int offset = 0; offset < HeaderSize + PageHeaderSize; ++offset) // of the first page too
+        header += offset;
+    QVector<int> pageHeaders;
+    for (int page = PageSize; page < size; page += PageSize)
+        pageHeaders += page + random.bounded(PageHeaderSize);
+    QVector<int> anywhere;
+    for (int count = 0; count < RandomBytes; ++count)
+        anywhere += random.bounded(HeaderSize, size);
+    QTest::newRow("file header") << header;
+    QTest::newRow("page headers") << pageHeaders;
+    QTest::newRow("anywhere") << anywhere;
 }
 
 void StoreRecoversFromDamage::aChangedByteNeverGivesWrongValues()
 {
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(int, step);
-    QFETCH(QByteArray, flips);
-    for (int offset = from; offset < to; offset += step) {
-        for (const char flip : flips) {
-            CheckByte(offset, flip);
-            if (QTest::currentTestFailed())
-                return;
-        }
+    QFETCH(QVector<int>, offsets);
+    QRandomGenerator random(TestSeed());
+    for (const int offset : offsets) {
+        CheckByte(offset, RandomFlip(random));
+        if (QTest::currentTestFailed())
+            return;
     }
 }
 
@@ -190,11 +212,10 @@ void StoreRecoversFromDamage::aChangedByteOfARowNeverGivesWrongValues()
     const QByteArray text("value of parameter 42");
     const int at = static_cast<int>(m_FileBytes.indexOf(text));
     QVERIFY(at > 0);
+    QRandomGenerator random(TestSeed());
     // From a position before the row's header to the end of its digest.
-    for (int offset = at - 15; offset < at + text.size() + 16 && !QTest::currentTestFailed(); ++offset) {
-        CheckByte(offset, '\x01');
-        CheckByte(offset, '\x20');
-    }
+    for (int offset = at - 15; offset < at + text.size() + 16 && !QTest::currentTestFailed(); ++offset)
+        CheckByte(offset, RandomFlip(random));
 }
 
 void StoreRecoversFromDamage::aTruncatedFileNeverGivesWrongValues_data()
@@ -216,14 +237,18 @@ void StoreRecoversFromDamage::aTruncatedFileNeverGivesWrongValues()
 void StoreRecoversFromDamage::aRunOfLostBytesNeverGivesWrongValues()
 {
     const int block = 512;
-    for (int offset = 0; offset < m_FileBytes.size(); offset += block) {
-        for (const char fill : {'\0', '\xff'}) {
-            QByteArray bytes = m_FileBytes;
-            bytes.replace(offset, block, QByteArray(block, fill));
-            Place(bytes);
-            const QString verdict = Verdict(block);
-            QVERIFY2(verdict.isEmpty(), qPrintable(QString::fromLatin1("block at %1: %2").arg(offset).arg(verdict)));
-        }
+    QRandomGenerator random(TestSeed());
+    QVector<int> offsets;
+    for (int offset = 0; offset < PageSize; offset += block)
+        offsets += offset;
+    for (int page = PageSize; page < m_FileBytes.size(); page += PageSize)
+        offsets += page + block * random.bounded(PageSize / block);
+    for (const int offset : std::as_const(offsets)) {
+        QByteArray bytes = m_FileBytes;
+        bytes.replace(offset, block, QByteArray(block, static_cast<char>(random.bounded(2) == 0 ? 0 : 0xff)));
+        Place(bytes);
+        const QString verdict = Verdict(block);
+        QVERIFY2(verdict.isEmpty(), qPrintable(QString::fromLatin1("block at %1: %2").arg(offset).arg(verdict)));
     }
 }
 
@@ -419,9 +444,14 @@ void StoreRecoversFromDamage::aTornLogGivesAWholeEarlierState()
         file = FileBytes(m_Path);
         log = FileBytes(m_Path + suffix);
     }
+    // Around the end of each frame, and somewhere in it.
+    QRandomGenerator random(TestSeed());
+    QVector<int> lengths{0, LogHeaderSize / 2, LogHeaderSize};
+    for (int end = LogHeaderSize + FrameSize; end <= log.size(); end += FrameSize)
+        lengths << end - random.bounded(2, FrameSize) << end - 1 << end;
+    QCOMPARE(lengths.last(), static_cast<int>(log.size()));
     int previous = 0;
-    const int step = 509;
-    for (int length = 0; length < log.size() + step; length += step) {
+    for (const int length : std::as_const(lengths)) {
         Place(file);
         SetFileBytes(m_Path + suffix, log.left(length));
         const int state = static_cast<int>(states.indexOf(StoredValues(m_Path)));
