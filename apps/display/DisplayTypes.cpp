@@ -2,6 +2,7 @@
 
 #include "display/keys/TFocusKeys.h"
 #include "display/lightbar/TLightBar.h"
+#include "display/map/TMapItem.h"
 
 #include <QtQml>
 
@@ -17,4 +18,5 @@ void RegisterDisplayTypes()
 {
     qmlRegisterType<TFocusKeys>(Module, Major, Minor, "FocusKeys");
     qmlRegisterType<TLightBar>(Module, Major, Minor, "LightBar");
+    qmlRegisterType<TMapItem>(Module, Major, Minor, "MapView");
 }
