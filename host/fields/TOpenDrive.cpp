@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <unistd.h>
 
 namespace {
 
@@ -36,3 +37,5 @@ qint64 TOpenDrive::Free() const
         return -1;
     return static_cast<qint64>(info.f_bavail) * static_cast<qint64>(info.f_frsize);
 }
+
+bool TOpenDrive::Sync() const { return syncfs(m_Folder.Get()) == 0; }

@@ -1,12 +1,21 @@
 #pragma once
 
+#include "HostExport.h"
 #include "platform/TDescriptor.h"
 
 #include <QString>
 
 /// A drive that stays the same one while the object exists: when the stick is pulled, nothing is written into the empty
 /// folder that was its mount point.
-class TOpenDrive
+///
+/// @code
+/// const TOpenDrive stick(Storage::Stick().path);
+/// const bool isThere = profile.Write(stick.Path(QLatin1String("tractor.profile")), &reason) && stick.Sync() &&
+///                      stick.IsThere();
+/// @endcode
+///
+/// May be used from any thread.
+class CABHOST_EXPORT TOpenDrive
 {
 public:
     /// @param root the root of the drive, without "/" at its end.
@@ -23,6 +32,9 @@ public:
 
     /// The free space in bytes; -1 when it is not known.
     qint64 Free() const;
+
+    /// Writes everything that programs have written on the drive to it. False when that has failed.
+    bool Sync() const;
 
 private:
     const QString m_Root;

@@ -8,6 +8,7 @@
 #include "quantities/RegisterQuantityTypes.h"
 #include "settings/RegisterSettingsTypes.h"
 #include "terminal/RegisterTerminalTypes.h"
+#include "transfer/RegisterTransferTypes.h"
 
 #include <QtGlobal>
 
@@ -21,8 +22,8 @@ using RegisterRoom = void (*)(const TTypeRegistrar& types);
 
 /// One function for each room, which registers its types.
 constexpr std::initializer_list<RegisterRoom> Rooms = {
-    RegisterSettingsTypes, RegisterQuantityTypes, RegisterLookTypes,
-    RegisterTerminalTypes, RegisterFieldTypes,    RegisterLogTypes,
+    RegisterSettingsTypes, RegisterQuantityTypes, RegisterLookTypes,     RegisterTerminalTypes,
+    RegisterFieldTypes,    RegisterLogTypes,      RegisterTransferTypes,
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "system/TSystemSettingsProxy.h"
 #include "terminal/SizeText.h"
 #include "terminal/TProblems.h"
+#include "transfer/TransferProblem.h"
 
 #include <QCoreApplication>
 
@@ -48,8 +49,12 @@ TProblemWatch::tagLook TProblemWatch::LookNow(TSqliteStore& store)
     const TSystemSettingsProxy system;
     if (!store.WriteFailure().isEmpty())
         store.WriteOutstanding();
-    return {Storage::InternalDrive().space, user.lostLines + nmea.lostLines, user.hasFailed || nmea.hasFailed,
-            system.IsLowFlashRecordingOff() || system.IsLowRAMRecordingOff(), store.WriteFailure()};
+    return {Storage::InternalDrive().space,
+            Storage::Stick().isMounted,
+            user.lostLines + nmea.lostLines,
+            user.hasFailed || nmea.hasFailed,
+            system.IsLowFlashRecordingOff() || system.IsLowRAMRecordingOff(),
+            store.WriteFailure()};
 }
 
 void TProblemWatch::Look()
@@ -63,6 +68,9 @@ void TProblemWatch::Look()
 void TProblemWatch::Take(const tagLook& look)
 {
     TakeDrive(look.drive);
+    if (look.hasStick != m_HadStick) // not by what is there now: it may be older than the problem
+        m_Problems.Clear(look.hasStick ? NoStickProblem : StickProblem);
+    m_HadStick = look.hasStick;
     TakeLogs(look);
     m_Problems.Keep(QLatin1String("recording"), look.isRecordingOff,
                     Translated(QT_TRANSLATE_NOOP("Problems", "Recording is off, because there is too little room.")));

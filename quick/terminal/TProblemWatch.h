@@ -26,6 +26,7 @@ private:
     struct tagLook
     {
         std::optional<tagSpace> drive;
+        bool hasStick;
         qint64 lostLines; ///< of both logs, since the start
         bool hasFailedLog;
         bool isRecordingOff;
@@ -40,6 +41,7 @@ private:
 
     TProblems& m_Problems;
     bool m_IsNearlyFull = false;
+    bool m_HadStick = false;
     qint64 m_LostLines = 0;
     int m_LooksSinceLoss;
     QTimer m_Timer; ///< until the next look

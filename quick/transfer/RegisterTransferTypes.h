@@ -1,0 +1,6 @@
+#pragma once
+
+class TTypeRegistrar;
+
+/// Exports and imports.
+void RegisterTransferTypes(const TTypeRegistrar& types);
