@@ -1,7 +1,103 @@
+#include "display/options/DisplayOptions.h"
+#include "display/session/TDisplaySession.h"
+#include "display/shot/Pictures.h"
+
+#include "console/line/QuitOnSignal.h"
+#include "module/CabQuick.h"
+#include "receiver/TReceiver.h"
+
 #include <QGuiApplication>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#endif
+
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+enum EStatus : int
+{
+    STATUS_DONE = 0,
+    STATUS_FAILED = 1,
+    STATUS_MISUSE = 2,
+    STATUS_RESTART = 64, ///< never the program's own: Main.qml asks for a restart with it
+};
+
+QStringList Arguments(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    return arguments;
+}
+
+int Fail(const QString& problem, EStatus status)
+{
+    std::fprintf(stderr, "cabdisplay: %s\n", qUtf8Printable(problem));
+    return status;
+}
+
+/// Without a GPU the display is drawn by the processor, which every cab has; the environment may ask for one.
+void ChooseRenderer()
+{
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+}
+
+/// Threads of the platform begin before TQuitOnSignal can: they must leave the ending signals to it.
+void HoldEndingSignals()
+{
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&ending, signal);
+    pthread_sigmask(SIG_BLOCK, &ending, nullptr);
+}
+
+int Run(const tagDisplayOptions& options)
+{
+    TDisplaySession session;
+    QString error;
+    if (!session.Start(options, &error) || !session.OpenWindow(options, &error))
+        return Fail(error, STATUS_FAILED);
+    CabQuick::Receiver().SetRunning(true);
+    return QGuiApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Names of farms and fields are UTF-8 on the drives, whatever locale the program is started in.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
+    tagDisplayOptions options;
+    const QString problem = ReadDisplayOptions(Arguments(argc, argv), options);
+    if (!problem.isEmpty())
+        return Fail(problem + QLatin1String(" (see cabdisplay --help)"), STATUS_MISUSE);
+    if (options.wantsHelp || options.wantsVersion) {
+        std::fputs(options.wantsHelp ? qUtf8Printable(DisplayHelp()) : "cabdisplay " CABSETTINGS_VERSION "\n", stdout);
+        return STATUS_DONE;
+    }
+    ChooseRenderer();
+    if (!options.pictureFolder.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    HoldEndingSignals();
     const QGuiApplication application(argc, argv);
-    return 0;
+    const TQuitOnSignal quitOnSignal;
+    std::setlocale(LC_MESSAGES, "C"); // the reasons that the system gives are in the log's language too
+    if (!options.pictureFolder.isEmpty()) {
+        QString error;
+        return WritePictures(options, &error) ? STATUS_DONE : Fail(error, STATUS_FAILED);
+    }
+    const int status = Run(options);
+    if (status == STATUS_RESTART) {
+        execv("/proc/self/exe", argv);
+        return Fail(QStringLiteral("cannot start again"), STATUS_FAILED);
+    }
+    return status;
 }

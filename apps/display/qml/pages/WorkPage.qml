@@ -1,0 +1,126 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import CabDisplay 1.0
+import "../controls"
+import "work"
+
+// The map fills the page. On it float the light bar, the buttons of one tap at the left hand, and the operator's tiles:
+// beside the map, and below it where the window is higher than wide.
+Item {
+    id: page
+
+    signal openSettings(string section)
+
+    readonly property real oneColumn: 7 * Sizes.target + 5 * Sizes.gap + 2 * Sizes.margin
+    // Where the buttons have no room in one column, those of the line stand in a row at the foot.
+    readonly property bool isLow: height < oneColumn + 2 * Sizes.margin
+    readonly property real tilesWidth: tiles.names.length === 0 || Sizes.isPortrait ? 0 : tiles.width + Sizes.margin
+    // Where nothing covers the map.
+    readonly property rect free: Qt.rect(0, 0, width - tilesWidth, height - (Sizes.isPortrait ? tiles.height : 0))
+
+    MapView {
+        id: map
+
+        anchors.fill: parent
+        model: Work.map
+        free: page.free
+        headingUp: headingUp.value === true
+        mapColor: Scheme.map
+        gridColor: Scheme.grid
+        coverageColor: Scheme.coverage
+        coverageEdgeColor: Scheme.coverageEdge
+        trackColor: Scheme.track
+        externalBoundaryColor: Scheme.externalBoundary
+        internalBoundaryColor: Scheme.internalBoundary
+        inactiveBoundariesColor: Scheme.inactiveBoundaries
+        exclusionZoneColor: Scheme.exclusionZone
+        vehicleColor: Scheme.vehicle
+        crossHairsColor: Scheme.crossHairs
+    }
+    Parameter { id: headingUp; name: "display.heading-up" }
+
+    // Nothing needs it, but who drags the map means to move it.
+    MouseArea {
+        property point last
+
+        objectName: "shield"
+        anchors.fill: parent
+        onPressed: function(mouse) { last = Qt.point(mouse.x, mouse.y) }
+        onPositionChanged: function(mouse) {
+            map.pan(mouse.x - last.x, mouse.y - last.y)
+            last = Qt.point(mouse.x, mouse.y)
+        }
+    }
+    LinePanel {
+        id: line
+
+        readonly property real from: mapButtons.x + mapButtons.width
+
+        x: from + (page.free.width - from - width) / 2
+        y: Sizes.margin
+        room: page.free.width - from - 2 * Sizes.margin
+        visible: Work.hasLine
+    }
+    Panel {
+        anchors.horizontalCenter: line.horizontalCenter
+        y: Sizes.margin
+        visible: !Work.hasPosition
+        width: Math.min(waiting.implicitWidth + 4 * Sizes.margin, line.room)
+        height: waiting.height + 2 * Sizes.margin
+
+        TextLabel {
+            id: waiting
+
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 2 * Sizes.margin)
+            text: qsTr("Waiting for a position")
+            wraps: true
+        }
+    }
+    MapButtons {
+        id: mapButtons
+
+        x: Sizes.margin
+        y: Sizes.margin
+        map: map
+        headingUp: headingUp.value === true
+        onTurn: headingUp.value = headingUp.value !== true
+    }
+    LineButtons {
+        id: lineButtons
+
+        x: page.isLow ? mapButtons.x + mapButtons.width + Sizes.gap : Sizes.margin
+        y: page.isLow ? page.free.height - height - Sizes.margin : mapButtons.y + mapButtons.height + 2 * Sizes.margin
+        columns: page.isLow ? 3 : 1
+    }
+    WorkingButton {
+        readonly property bool isSquare: page.isLow || Sizes.isPortrait
+
+        hasWords: !isSquare
+        x: !isSquare ? page.width - width - Sizes.margin : page.isLow ? lineButtons.x + lineButtons.width + Sizes.gap
+                                                                      : Sizes.margin
+        y: !isSquare ? page.height - height - Sizes.margin : page.isLow ? lineButtons.y
+                       : lineButtons.y + lineButtons.height + 2 * Sizes.margin
+        width: isSquare ? Sizes.target : Math.max(tiles.width, implicitWidth)
+    }
+    ScaleBar {
+        x: lineButtons.x + lineButtons.width + Sizes.gap
+        y: page.free.height - height - Sizes.margin
+        visible: !page.isLow && map.scaleLength > 0
+        pixels: map.scaleLength
+        metres: map.scaleMetres
+    }
+    TileGrid {
+        id: tiles
+
+        x: Sizes.isPortrait ? (page.width - width) / 2 : page.width - width - Sizes.margin
+        y: Sizes.isPortrait ? page.height - height - Sizes.margin : Sizes.margin
+        columns: Sizes.isPortrait ? 4 : Sizes.isNarrow ? 1 : 2
+        cellWidth: columns === 1 ? Math.round(252 * Sizes.scale)
+                   : Sizes.isPortrait ? Math.floor((page.width - 2 * Sizes.margin - 3 * Sizes.gap) / 4)
+                                      : Math.round(184 * Sizes.scale)
+        room: Sizes.isPortrait ? page.height / 3
+              : page.height - 2 * Sizes.margin - (page.isLow ? 0 : Sizes.target + Sizes.gap)
+        onChosen: page.openSettings("tiles")
+    }
+}

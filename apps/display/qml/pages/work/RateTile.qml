@@ -1,0 +1,71 @@
+import QtQuick 2.15
+import CabSettings 1.0
+import CabDisplay 1.0
+import "../../controls"
+
+// The figure that rules the page: the rate, a bar that shows how far it is from what is set, and both in words.
+FigureTile {
+    id: tile
+
+    property var row
+    property bool hasWords: true
+    // Percent of the rate that is set, for a full bar; beyond the tolerance the bar calls for attention.
+    readonly property real fullScale: 20
+    readonly property real tolerance: 5
+    readonly property real error: isNaN(Work.rateError) ? 0 : Work.rateError
+    readonly property real fill: Math.max(-1, Math.min(1, error / fullScale))
+
+    isMain: true
+    title: row.title
+    unit: rate.unit
+    number: rate.number
+
+    Quantity { id: rate; kind: Quantity.Rate; value: Work.rate }
+    Quantity { id: target; kind: Quantity.Rate; value: Work.rateSet }
+    Quantity { id: deviation; kind: Quantity.RateError; value: Work.rate; error: Work.rateError }
+
+    Column {
+        width: tile.inner
+        spacing: Sizes.gap / 2
+
+        Rectangle {
+            id: bar
+
+            width: parent.width
+            height: Math.round(14 * Sizes.scale)
+            radius: height / 2
+            color: Scheme.button
+
+            Rectangle {
+                x: bar.width / 2 + Math.min(0, tile.fill) * bar.width / 2
+                width: Math.abs(tile.fill) * bar.width / 2
+                height: parent.height
+                radius: Math.min(width, height) / 2
+                color: Math.abs(tile.error) > tile.tolerance ? Scheme.attention : Scheme.good
+            }
+            Rectangle {
+                anchors.centerIn: parent
+                width: 3 * Sizes.line
+                height: parent.height + Sizes.gap
+                color: Scheme.text
+            }
+        }
+        Item {
+            width: parent.width
+            height: words.height
+            visible: tile.hasWords
+
+            TextLabel {
+                id: words
+
+                text: qsTr("set %1", "the rate that is set").arg(target.number)
+                muted: true
+            }
+            TextLabel {
+                anchors.right: parent.right
+                text: deviation.errorText
+                muted: true
+            }
+        }
+    }
+}

@@ -1,0 +1,165 @@
+#include "display/shot/Pictures.h"
+
+#include "display/session/TDisplaySession.h"
+#include "display/shot/PageTable.h"
+
+#include "module/CabQuick.h"
+#include "nmea/TFieldSimulator.h"
+#include "platform/EParamID.h"
+#include "receiver/SimulatedField.h"
+#include "receiver/TReceiver.h"
+#include "region/TRegionSettingsProxy.h"
+#include "stores/TSqliteStore.h"
+#include "terminal/DataFolder.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QLocale>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickItemGrabResult>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtQml>
+
+namespace {
+
+const QDateTime Moment(QDate(2024, 5, 1), QTime(12, 5), Qt::UTC);
+constexpr int SecondsFromUtc = 2 * 60 * 60;
+
+// Five passes and a part of the sixth: both sides of the line can be seen.
+constexpr int EpochsBefore = 10 * 60 * 14;
+constexpr int Attempts = 20;
+constexpr int StepsOfClock = 60;
+constexpr int StepMs = 20;
+constexpr int SettleMs = 100; // what a page asks of other threads, such as the room on the drives
+
+void Wait(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// Drives to the place of the pictures, as the live receiver would.
+void DriveToPlace()
+{
+    tagFieldPlan plan = CabQuick::SimulatedPlan();
+    plan.start = Moment.addMSecs(-EpochsBefore * qint64(1000) / plan.rate);
+    // The first time of the receiver makes the distance from the clock's time the one from UTC.
+    const QDateTime local = plan.start.addSecs(SecondsFromUtc);
+    const QDate date = local.date();
+    const QTime time = local.time();
+    TRegionSettingsProxy().SetUserDateTime(date.year(), date.month(), date.day(), time.hour(), time.minute(),
+                                           time.second());
+    TFieldSimulator simulator(plan);
+    for (int epoch = 0; epoch <= EpochsBefore; ++epoch)
+        CabQuick::Receiver().Show(simulator.NextEpoch());
+}
+
+/// Entries of the user log have the milliseconds at which the machine has written them; in a picture, those of the
+/// moment.
+bool SetTimesOfLog(const QString& dataFolder)
+{
+    const QDir folder(DataFolder::InternalDrive(dataFolder) + QLatin1String("Diagnostics"));
+    const QString moment =
+        QLocale::c().toString(Moment.addSecs(SecondsFromUtc), QLatin1String("yyyy.MM.dd-hh:mm:ss:zzz"));
+    static const QRegularExpression time(QStringLiteral("^[0-9.]{10}-[0-9:]{12}"), QRegularExpression::MultilineOption);
+    const QStringList names = folder.entryList({QStringLiteral("User*.csv")}, QDir::Files);
+    for (const QString& name : names) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadWrite))
+            return false;
+        const QByteArray text = QString::fromUtf8(file.readAll()).replace(time, moment).toUtf8();
+        if (!file.seek(0) || file.write(text) != text.size())
+            return false;
+    }
+    return !names.isEmpty();
+}
+
+QImage Grab(QQuickItem& item)
+{
+    const QSharedPointer<QQuickItemGrabResult> result = item.grabToImage();
+    if (!result)
+        return {};
+    QEventLoop loop;
+    QObject::connect(result.data(), &QQuickItemGrabResult::ready, &loop, &QEventLoop::quit);
+    loop.exec();
+    return result->image();
+}
+
+/// What the display's clock shows, which looks at the time once a second.
+QString ShownTime(QQmlEngine& engine)
+{
+    const int type = qmlTypeId("CabSettings", 1, 0, "Clock");
+    const auto* const clock = engine.singletonInstance<QObject*>(type);
+    return clock->property("time").toString();
+}
+
+/// The clock goes on while a picture is made: one for which it shows the moment before and after is right. Null when
+/// the machine is too slow for that.
+QImage GrabAtMoment(QQuickItem& item)
+{
+    QQmlEngine& engine = *qmlEngine(&item);
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
+        QTime time = Moment.time();
+        QDate date = Moment.date();
+        TRegionSettingsProxy region;
+        region.SetUTCTimeAndDate(time, date, true);
+        const QString expected = region.GetTimeString();
+        for (int step = 0; step < StepsOfClock && ShownTime(engine) != expected; ++step)
+            Wait(StepMs);
+        const QImage image = Grab(item);
+        if (ShownTime(engine) == expected)
+            return image;
+    }
+    return {};
+}
+
+bool WritePicture(QQuickItem& display, const tagPage& page, const QString& path, QString* error)
+{
+    display.setProperty("section", QLatin1String(page.section));
+    display.setProperty("page", QLatin1String(page.door));
+    Wait(SettleMs);
+    const QImage image = GrabAtMoment(display);
+    if (!image.isNull() && image.save(path))
+        return true;
+    *error = QString::fromLatin1("cannot write the picture \"%1\"").arg(path);
+    return false;
+}
+
+} // namespace
+
+bool WritePictures(const tagDisplayOptions& options, QString* error)
+{
+    const QTemporaryDir folder;
+    if (!folder.isValid() || !QDir().mkpath(options.pictureFolder)) {
+        *error = QString::fromLatin1("cannot create the folder \"%1\"").arg(options.pictureFolder);
+        return false;
+    }
+    tagDisplayOptions own = options;
+    own.dataFolder = folder.path();
+    TDisplaySession session;
+    if (!session.Start(own, error))
+        return false;
+    session.Store().SetParameter(PARAM_DAY_MODE, !options.isNight, true);
+    if (!session.OpenWindow(own, error))
+        return false;
+    DriveToPlace();
+    if (!SetTimesOfLog(own.dataFolder)) {
+        *error = QStringLiteral("cannot write the log of the example");
+        return false;
+    }
+    auto* const display = session.Window()->findChild<QQuickItem*>(QStringLiteral("display"));
+    const QString ending = QLatin1String(options.isNight ? "-night.png" : ".png");
+    for (const tagPage& page : Pages) {
+        const QString name = QLatin1String(page.name);
+        const bool isWanted = options.page.isEmpty() || options.page == name;
+        if (isWanted && !WritePicture(*display, page, options.pictureFolder + QLatin1Char('/') + name + ending, error))
+            return false;
+    }
+    return true;
+}
