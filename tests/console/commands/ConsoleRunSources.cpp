@@ -1,8 +1,8 @@
 #include "TConsole.h"
 
-#include "../host/nmea/Deadline.h"
-#include "../host/nmea/TPseudoTerminal.h"
-#include "../host/nmea/TReceiverServer.h"
+#include "../../host/nmea/Deadline.h"
+#include "../../host/nmea/TPseudoTerminal.h"
+#include "../../host/nmea/TReceiverServer.h"
 
 #include "nmea/NmeaChecksum.h"
 

@@ -1,6 +1,6 @@
 #include "ConsoleTest.h"
 
-#include "../system/TPrivateMounts.h"
+#include "../../system/TPrivateMounts.h"
 
 #include <pty.h>
 
