@@ -1,5 +1,5 @@
-# What a program elsewhere finds with find_package(CabSettings [COMPONENTS Host]), or with pkg-config as cabsettings and
-# cabhost. Nothing that is installed knows where it lies: a prefix can be moved.
+# What a program elsewhere finds with find_package(CabSettings [COMPONENTS Host|Quick]), or with pkg-config as
+# cabsettings, cabhost and cabquick. Nothing that is installed knows where it lies: a prefix can be moved.
 include(CMakePackageConfigHelpers)
 
 set(_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CabSettings)
@@ -34,6 +34,12 @@ if(CABSETTINGS_HOST)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
     # The program's own; a build for another machine without an emulator has none.
     install(FILES ${PROJECT_BINARY_DIR}/apps/console/cabsettings.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)
+endif()
+if(CABSETTINGS_HOST AND CABSETTINGS_DISPLAY)
+    cabsettings_install(CabQuick cabquick CabSettingsQuickTargets)
+    set(_qml_dir ${CMAKE_INSTALL_LIBDIR}/qt${CABSETTINGS_QT}/qml/CabSettings) # where Debian's Qt looks for modules
+    install(TARGETS CabQuickPlugin LIBRARY DESTINATION ${_qml_dir})
+    install(FILES quick/plugin/qmldir DESTINATION ${_qml_dir})
 endif()
 
 configure_package_config_file(cmake/CabSettingsConfig.cmake.in CabSettingsConfig.cmake

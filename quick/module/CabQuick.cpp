@@ -1,6 +1,5 @@
 #include "module/CabQuick.h"
 
-#include "module/RegisterTypes.h"
 #include "module/TParameterHub.h"
 
 #include <memory>
@@ -26,7 +25,6 @@ bool TParameterHub::IsPublished() { return Hub() != nullptr; }
 void CabQuick::Publish(TSqliteStore& store, const QString& dataFolder)
 {
     Hub() = std::make_unique<TParameterHub>(store, dataFolder);
-    RegisterTypes();
 }
 
 void CabQuick::Withdraw() { Hub().reset(); }

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+class TReceiver;
+
 /// The QML module CabSettings: every setting of the terminal as an object that QML binds to.
 ///
 /// @code
@@ -16,8 +18,6 @@
 /// @endcode
 ///
 /// The module works in the thread of the application object.
-class TReceiver;
-
 namespace CabQuick {
 
 /// Makes `import CabSettings 1.0` work in every QML engine of the program. Call it once, after the start of the

@@ -10,6 +10,7 @@
 #include "terminal/RegisterTerminalTypes.h"
 #include "transfer/RegisterTransferTypes.h"
 
+#include <QQmlModuleRegistration>
 #include <QtGlobal>
 
 #include <initializer_list>
@@ -17,6 +18,14 @@
 namespace {
 
 const char* const Uri = "CabSettings";
+
+/// Registers at the first import. Before it, types of a module that has a plugin on the import path would be taken for
+/// those of another one, and the plugin refused.
+#if QT_VERSION >= 0x060000
+const QQmlModuleRegistration AtFirstImport(Uri, &CabQuick::RegisterTypes);
+#else
+const QQmlModuleRegistration AtFirstImport(Uri, 1, &CabQuick::RegisterTypes);
+#endif
 
 using RegisterRoom = void (*)(const TTypeRegistrar& types);
 
