@@ -1,0 +1,173 @@
+#include "TTemporaryFolder.h"
+
+#include "boundaries/ExclusionZones.h"
+
+#include <QtTest>
+
+#include <shapefil.h>
+
+namespace {
+
+const std::vector<TGeoRing> Zones = {
+    {{52, 10}, {52, 10.001}, {52.001, 10.001}, {52.001, 10}},      // counterclockwise
+    {{-33, -70.002}, {-33.001, -70.001}, {-33.002, -70.002}},      // clockwise
+    {{52.01, 10}, {52.02, 10.01}, {52.0, 10.02}, {52.005, 10.01}}, // not convex
+};
+
+/// The corners of a ring, wherever it begins and whichever way it turns.
+std::vector<std::pair<double, double>> Corners(const TGeoRing& ring)
+{
+    std::vector<std::pair<double, double>> corners;
+    for (const tagGeoPoint& corner : ring)
+        corners.emplace_back(corner.latitude, corner.longitude);
+    std::sort(corners.begin(), corners.end());
+    return corners;
+}
+
+} // namespace
+
+class ExclusionZones : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void zonesComeBack();
+    void partsOfOneShapeAreZones();
+    void noFileIsNoError();
+    void aMissingIndexIsSaid();
+    void otherShapesAreRefused();
+    void otherCoordinatesAreRefused();
+    void damagedFilesDoNoHarm_data();
+    void damagedFilesDoNoHarm();
+    void whatIsNoZoneIsNotWritten();
+
+private:
+    static QString Path(const TTemporaryFolder& folder) { return folder.Path(QLatin1String("Zones/F1/F1.shp")); }
+};
+
+void ExclusionZones::zonesComeBack()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY2(WriteExclusionZones(Path(folder), Zones, &error), qPrintable(error));
+    QVERIFY(folder.Exists(QLatin1String("Zones/F1/F1.dbf")));
+    const auto zones = ReadExclusionZones(Path(folder), &error);
+    QVERIFY2(zones, qPrintable(error));
+    QCOMPARE(zones->size(), Zones.size());
+    for (std::size_t i = 0; i < Zones.size(); ++i)
+        QCOMPARE(Corners(zones->at(i)), Corners(Zones[i]));
+
+    QVERIFY2(WriteExclusionZones(Path(folder), {Zones[1]}, &error), qPrintable(error));
+    QCOMPARE(ReadExclusionZones(Path(folder), &error)->size(), std::size_t(1));
+}
+
+void ExclusionZones::partsOfOneShapeAreZones()
+{
+    const TTemporaryFolder folder;
+    const QByteArray path = folder.Path(QLatin1String("F1.shp")).toUtf8();
+    const int starts[] = {0, 4};
+    const double longitudes[] = {10, 10, 11, 10, 20, 20, 21, 20};
+    const double latitudes[] = {50, 51, 50, 50, 50, 51, 50, 50};
+    const SHPHandle file = SHPCreate(path.constData(), SHPT_POLYGON);
+    SHPObject* const shape =
+        SHPCreateObject(SHPT_POLYGON, -1, 2, starts, nullptr, 8, longitudes, latitudes, nullptr, nullptr);
+    SHPWriteObject(file, -1, shape);
+    SHPDestroyObject(shape);
+    SHPClose(file);
+
+    QString error;
+    const auto zones = ReadExclusionZones(QString::fromUtf8(path), &error);
+    QVERIFY2(zones, qPrintable(error));
+    QCOMPARE(zones->size(), std::size_t(2));
+    QCOMPARE(Corners(zones->front()), Corners({{50, 10}, {51, 10}, {50, 11}}));
+}
+
+void ExclusionZones::noFileIsNoError()
+{
+    const TTemporaryFolder folder;
+    QString error = QLatin1String("old");
+    QVERIFY(!ReadExclusionZones(Path(folder), &error));
+    QCOMPARE(error, QString());
+}
+
+void ExclusionZones::aMissingIndexIsSaid()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY(WriteExclusionZones(Path(folder), Zones, &error));
+    QVERIFY(QFile::remove(folder.Path(QLatin1String("Zones/F1/F1.shx"))));
+    QVERIFY(!ReadExclusionZones(Path(folder), &error));
+    QVERIFY2(error.contains(QLatin1String("has no index")), qPrintable(error));
+}
+
+void ExclusionZones::otherShapesAreRefused()
+{
+    const TTemporaryFolder folder;
+    const QByteArray path = folder.Path(QLatin1String("F1.shp")).toUtf8();
+    SHPClose(SHPCreate(path.constData(), SHPT_ARC));
+    QString error;
+    QVERIFY(!ReadExclusionZones(QString::fromUtf8(path), &error));
+    QCOMPARE(error, QString::fromUtf8(path) + QLatin1String(" has no polygons"));
+}
+
+void ExclusionZones::otherCoordinatesAreRefused()
+{
+    const TTemporaryFolder folder;
+    const QByteArray path = folder.Path(QLatin1String("F1.shp")).toUtf8();
+    const double eastings[] = {600000, 600000, 600100, 600000};
+    const double northings[] = {5760000, 5760100, 5760000, 5760000};
+    const SHPHandle file = SHPCreate(path.constData(), SHPT_POLYGON);
+    SHPObject* const shape = SHPCreateSimpleObject(SHPT_POLYGON, 4, eastings, northings, nullptr);
+    SHPWriteObject(file, -1, shape);
+    SHPDestroyObject(shape);
+    SHPClose(file);
+    QString error;
+    QVERIFY(!ReadExclusionZones(QString::fromUtf8(path), &error));
+    QCOMPARE(error, QString::fromUtf8(path) + QLatin1String(" has coordinates that are not degrees; expected WGS84"));
+}
+
+void ExclusionZones::damagedFilesDoNoHarm_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("shapes") << QString::fromLatin1("Zones/F1/F1.shp");
+    QTest::newRow("index") << QString::fromLatin1("Zones/F1/F1.shx");
+}
+
+void ExclusionZones::damagedFilesDoNoHarm()
+{
+    // A shapefile has no checksum: a changed byte may pass as another place. A file that is cut off never passes.
+    QFETCH(QString, name);
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY(WriteExclusionZones(Path(folder), Zones, &error));
+    const QByteArray whole = folder.Content(name);
+    for (int at = 0; at < whole.size(); ++at) {
+        folder.MakeFile(name, whole.left(at));
+        QVERIFY2(!ReadExclusionZones(Path(folder), &error), qPrintable(QString::number(at)));
+        QVERIFY(!error.isEmpty());
+        for (const int bits : {0x01, 0x80, 0xFF}) {
+            QByteArray changed = whole;
+            changed[at] = static_cast<char>(changed.at(at) ^ bits);
+            folder.MakeFile(name, changed);
+            const auto zones = ReadExclusionZones(Path(folder), &error);
+            QCOMPARE(zones.has_value(), error.isEmpty());
+            for (const TGeoRing& zone : zones.value_or(std::vector<TGeoRing>()))
+                QVERIFY(std::all_of(zone.begin(), zone.end(), IsGeoPoint));
+        }
+    }
+}
+
+void ExclusionZones::whatIsNoZoneIsNotWritten()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY(!WriteExclusionZones(Path(folder), {{{52, 10}, {52, 11}}}, &error));
+    QVERIFY(!WriteExclusionZones(Path(folder), {{{52, 10}, {52, 11}, {qQNaN(), 11}}}, &error));
+    QVERIFY(folder.Entries().isEmpty());
+    folder.MakeFile(QLatin1String("Zones"));
+    QVERIFY(!WriteExclusionZones(Path(folder), Zones, &error));
+    QCOMPARE(error, QLatin1String("cannot write ") + Path(folder));
+}
+
+QTEST_GUILESS_MAIN(ExclusionZones)
+#include "ExclusionZones.moc"
