@@ -11,14 +11,13 @@
 #include "stores/ChangeJournal.h"
 #include "stores/StoreTable.h"
 #include "stores/TSqliteConnection.h"
+#include "support/UsedLibraries.h"
 #include "system/TSystemSettings.h"
 #include "system/TSystemSettingsProxy.h"
 #include "terminal/DataFolder.h"
 
 #include <QFile>
 #include <QSysInfo>
-
-#include <archive.h>
 
 namespace {
 
@@ -110,13 +109,11 @@ void WriteJournal(const tagSupportSource& source, const TSupportSink& sink)
 
 void WriteVersions(const tagSupportSource& source, const TSupportSink& sink)
 {
-    TSqliteConnection connection(QLatin1String(":memory:"), TSqliteConnection::SQLITE_ACCESS_WRITE, PatienceMs);
     sink(Line("cabsettings", source.request.softwareVersion));
     sink(Line("software", Proxy().GetSoftwareVersion(true)));
     sink(Line("built", QLatin1String(TSystemSettings::CompileTime)));
-    sink(Line("Qt", QLatin1String(qVersion())));
-    sink(Line("SQLite", connection.Value(QLatin1String("SELECT sqlite_version()")).toString()));
-    sink(Line("libarchive", QLatin1String(archive_version_string())));
+    for (const tagUsedLibrary& library : UsedLibraries())
+        sink(Line(library.name, library.version));
     sink(Line("system", QSysInfo::prettyProductName()));
     sink(Line("kernel", QSysInfo::kernelVersion()));
     sink(Line("processor", QSysInfo::currentCpuArchitecture()));

@@ -40,4 +40,12 @@ CABQUICK_EXPORT TReceiver& Receiver();
 CABQUICK_EXPORT void SetProblem(const QString& key, const QString& text);
 CABQUICK_EXPORT void ClearProblem(const QString& key);
 
+/// Adds a part of the program to those that QML knows as About, with its licence. Call it while a terminal is published.
+/// @param name "B612"
+/// @param version empty when it is not known.
+/// @param licence by its SPDX identifier: "OFL-1.1"
+/// @param text what it is, for the operator.
+CABQUICK_EXPORT void AddToAbout(const QString& name, const QString& version, const QString& licence,
+                                const QString& text);
+
 } // namespace CabQuick

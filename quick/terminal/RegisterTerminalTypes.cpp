@@ -3,6 +3,7 @@
 #include "module/SharedObject.h"
 #include "module/TTypeRegistrar.h"
 #include "receiver/TReceiver.h"
+#include "terminal/TAbout.h"
 #include "terminal/TClock.h"
 #include "terminal/TDrives.h"
 #include "terminal/TProblems.h"
@@ -10,6 +11,7 @@
 
 void RegisterTerminalTypes(const TTypeRegistrar& types)
 {
+    types.AddShared<TAbout>("About", SharedObject<TAbout>);
     types.AddShared<TClock>("Clock", SharedObject<TClock>);
     types.AddShared<TDrives>("Drives", SharedObject<TDrives>);
     types.AddShared<TProblems>("Problems", SharedObject<TProblems>);

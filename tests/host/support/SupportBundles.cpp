@@ -177,7 +177,7 @@ void SupportBundles::everyPartIsInTheBundle()
         if (QByteArray(program).mid(4, 1) == QByteArray(qVersion()).left(1))
             QVERIFY(members.value(QLatin1String("versions.txt")).contains(program));
     }
-    for (const char* program : {"SQLite: 3.", "libarchive: libarchive 3."})
+    for (const char* program : {"SQLite: 3.", "libarchive: 3.", "JsonCpp: 1.", "libnova: "})
         QVERIFY2(members.value(QLatin1String("versions.txt")).contains(program), program);
 }
 
