@@ -13,10 +13,14 @@
 #include "terminal/DataFolder.h"
 #include "terminal/TTerminal.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QQuickWindow>
 
 namespace {
+
+/// How long a tap may wait for another program that has the settings locked. What is not written then is tried again.
+const int StorePatienceMs = 500;
 
 /// Stores what the command line says as the pages of the settings would. An empty text leaves the parameter as it is.
 bool StoreOption(TSqliteStore& store, EParamID id, const QString& text, QString* error)
@@ -44,7 +48,7 @@ bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error)
         *error = QString::fromLatin1("cannot create the data folder \"%1\"").arg(options.dataFolder);
         return false;
     }
-    m_Store = TSqliteStore::Open(DataFolder::StoreFile(options.dataFolder), error);
+    m_Store = TSqliteStore::Open(DataFolder::StoreFile(options.dataFolder), error, StorePatienceMs);
     if (!m_Store || !StoreOption(*m_Store, PARAM_RECEIVER_ADDRESS, options.receiver, error) ||
         !StoreOption(*m_Store, PARAM_LANGUAGE, options.language, error))
         return false;
@@ -54,6 +58,8 @@ bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error)
     CabQuick::Publish(*m_Store, options.dataFolder);
     InstallDisplayFont();
     RegisterDisplayTypes();
+    CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans"), QString(), QStringLiteral("OFL-1.1"),
+                         QCoreApplication::translate("Display", "The fonts of the display"));
     return true;
 }
 
