@@ -13,7 +13,7 @@ namespace {
 const int ParameterCount = 40;
 const int PageSize = 4096;
 const int MostPages = 120; // that a restore needs
-const int Step = 8;
+const int Step = 15;
 
 /// Values that fill pages, so that a restore needs room.
 bool SetAll(TSqliteStore& store, char letter)
@@ -32,6 +32,7 @@ class RestoreFailures : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup() { m_Drive.reset(); }
 
@@ -49,11 +50,27 @@ private:
     std::unique_ptr<TMemoryDrive> m_Drive; ///< in the folder
     QString m_Path;
     QString m_Copy;
+    QByteArray m_StoreBytes;
+    QByteArray m_CopyBytes;
     QMap<int, QVariant> m_Old;
     QMap<int, QVariant> m_New;
 };
 
-// A store on a drive of its own, and a copy with other values.
+// A store, and a copy with other values.
+void RestoreFailures::initTestCase()
+{
+    const auto folder = MakeFolder();
+    const QString path = folder->filePath(QLatin1String("settings.db"));
+    QVERIFY(SetAll(*OpenStore(path), 'n'));
+    m_CopyBytes = FileBytes(path + QLatin1String(".good"));
+    m_New = StoredValues(path);
+    QVERIFY(SetAll(*OpenStore(path), 'o'));
+    m_StoreBytes = FileBytes(path);
+    m_Old = StoredValues(path);
+    QVERIFY(m_Old.size() == m_New.size() && m_Old != m_New);
+}
+
+// Both on a drive of their own.
 void RestoreFailures::init()
 {
     if (!PrivateMounts::ArePermitted())
@@ -65,13 +82,9 @@ void RestoreFailures::init()
     QVERIFY(m_Drive->IsMounted());
     m_Path = drive + QLatin1String("/settings.db");
     m_Copy = m_Path + QLatin1String(".copies/2001-02-03.db"); // an old one, which no program makes anew
-    QVERIFY(SetAll(*OpenStore(m_Path), 'n'));
-    m_New = StoredValues(m_Path);
-    QVERIFY(QFile::copy(m_Path + QLatin1String(".good"), m_Copy));
-    QVERIFY(SetAll(*OpenStore(m_Path), 'o'));
-    m_Old = StoredValues(m_Path);
-    QCOMPARE(m_Old.size(), m_New.size());
-    QVERIFY(m_Old != m_New);
+    SetFileBytes(m_Path, m_StoreBytes);
+    QVERIFY(OpenStore(m_Path)); // makes the copies that every store has
+    SetFileBytes(m_Copy, m_CopyBytes);
 }
 
 void RestoreFailures::Fill(int pagesLeft) const
@@ -117,10 +130,11 @@ void RestoreFailures::aFullDiskIsSaidAndTheStoreStaysWhole()
     // With room again, a later write does not bring the restore after all.
     MakeRoom();
     QVERIFY(store->SetParameter(Param(ParameterCount), 1, true));
-    m_Old.insert(ParameterCount, 1);
-    QCOMPARE(store->Values(), m_Old);
+    QMap<int, QVariant> expected = m_Old;
+    expected.insert(ParameterCount, 1);
+    QCOMPARE(store->Values(), expected);
     store.reset();
-    QCOMPARE(StoredValues(m_Path), m_Old);
+    QCOMPARE(StoredValues(m_Path), expected);
     QCOMPARE(Restores(), 0);
 }
 
