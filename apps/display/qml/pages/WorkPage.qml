@@ -16,7 +16,7 @@ Item {
     readonly property bool isLow: height < oneColumn + 2 * Sizes.margin
     readonly property real tilesWidth: tiles.names.length === 0 || Sizes.isPortrait ? 0 : tiles.width + Sizes.margin
     // Where nothing covers the map.
-    readonly property rect free: Qt.rect(0, 0, width - tilesWidth, height - (Sizes.isPortrait ? tiles.height : 0))
+    readonly property rect free: Qt.rect(0, 0, width - tilesWidth, height - (Sizes.isPortrait ? tiles.height + Sizes.margin : 0))
 
     MapView {
         id: map
@@ -24,6 +24,7 @@ Item {
         anchors.fill: parent
         model: Work.map
         free: page.free
+        lengthUnit: length.metresPerUnit
         headingUp: headingUp.value === true
         mapColor: Scheme.map
         gridColor: Scheme.grid
@@ -36,6 +37,14 @@ Item {
         exclusionZoneColor: Scheme.exclusionZone
         vehicleColor: Scheme.vehicle
         crossHairsColor: Scheme.crossHairs
+    }
+    Quantity {
+        id: length
+
+        readonly property real metresPerUnit: unit !== "" ? parse("1") : 1
+
+        kind: Quantity.Distance
+        value: 0
     }
     Parameter { id: headingUp; name: "display.heading-up" }
 
