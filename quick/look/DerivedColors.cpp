@@ -64,10 +64,10 @@ QColor Muted(const QColor& text, const QVector<QColor>& grounds)
     return DerivedColors::Legible(text, grounds, ReadableText);
 }
 
-/// A bright colour fills a large area of a dark display by half.
+/// A bright colour fills a large area of a dark display by less than half: the area stays below 8 % of white.
 QColor LargeArea(const QColor& color, const QColor& background)
 {
-    return IsLight(background) ? color : Mix(background, color, 0.45);
+    return IsLight(background) ? color : Mix(background, color, 0.4);
 }
 
 QColor Scrim(const QColor& background)

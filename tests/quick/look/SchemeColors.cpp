@@ -204,6 +204,8 @@ void SchemeColors::CheckLegibility() const
         check("focus", ground, 3);
     }
     check("accentText", "accent", 4.5);
+    check("accentGroundText", "accentGround", 4.5);
+    check("goodGroundText", "goodGround", 4.5);
     check("line", "panel", 1.15);
     QCOMPARE(Color("accent"), Color("title"));
     QVERIFY(Color("muted") != Color("text"));
@@ -263,7 +265,8 @@ void SchemeColors::anOwnSchemeCarriesTheDisplay()
 void SchemeColors::theNightIsDark()
 {
     Night();
-    for (const char* ground : {"background", "panel", "button", "map", "line", "coverageEdge"})
+    for (const char* ground :
+         {"background", "panel", "button", "map", "line", "coverageEdge", "accentGround", "goodGround"})
         QVERIFY2(Luminance(Color(ground)) < 0.08, ground);
     for (const char* drawn : {"text", "muted", "accentText", "good", "attention", "focus", "accent"}) {
         QVERIFY2(Color(drawn) != QColor(Qt::white), drawn);
