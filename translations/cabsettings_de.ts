@@ -588,4 +588,1115 @@
         <translation>Geringfügig</translation>
     </message>
 </context>
+<context>
+    <name>ParameterTexts</name>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a colour: #rrggbb, #aarrggbb or a name such as navy</source>
+        <translation>eine Farbe: #rrggbb, #aarrggbb oder ein Name wie navy</translation>
+    </message>
+    <message>
+        <source>a time in UTC, such as 2026-03-05T13:05:09Z</source>
+        <translation>eine Zeit in UTC, etwa 2026-03-05T13:05:09Z</translation>
+    </message>
+    <message>
+        <source>an absolute path that ends in &quot;/&quot; and is not &quot;/&quot;</source>
+        <translation>ein absoluter Pfad, der auf &quot;/&quot; endet und nicht &quot;/&quot; ist</translation>
+    </message>
+    <message>
+        <source>an absolute path</source>
+        <translation>ein absoluter Pfad</translation>
+    </message>
+    <message>
+        <source>a UUID in small letters, such as 6ba7b810-9dad-41d1-80b4-00c04fd430c8</source>
+        <translation>eine UUID in Kleinbuchstaben, etwa 6ba7b810-9dad-41d1-80b4-00c04fd430c8</translation>
+    </message>
+    <message>
+        <source>simulator, tcp://HOST:PORT, serial:///dev/NAME?baud=N or an absolute path</source>
+        <translation>simulator, tcp://HOST:PORT, serial:///dev/NAME?baud=N oder ein absoluter Pfad</translation>
+    </message>
+    <message>
+        <source>Not a whole number.</source>
+        <translation>Keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>Below the least value.</source>
+        <translation>Unter dem kleinsten Wert.</translation>
+    </message>
+    <message>
+        <source>Above the greatest value.</source>
+        <translation>Über dem größten Wert.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>This cannot be the name of a file. Possible is: %1</source>
+        <translation>So kann keine Datei heißen. Möglich ist: %1</translation>
+    </message>
+    <message>
+        <source>Not accepted. Expected: %1.</source>
+        <translation>Nicht möglich. Erwartet: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Parameters</name>
+    <message>
+        <source>Measures</source>
+        <translation>Maßsystem</translation>
+    </message>
+    <message>
+        <source>Gallons and bushels</source>
+        <translation>Gallonen und Bushel</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Short distances</source>
+        <translation>Kurze Strecken</translation>
+    </message>
+    <message>
+        <source>Liquid</source>
+        <translation>Flüssigkeit</translation>
+    </message>
+    <message>
+        <source>Granular volume</source>
+        <translation>Granulatvolumen</translation>
+    </message>
+    <message>
+        <source>Granular density</source>
+        <translation>Granulatdichte</translation>
+    </message>
+    <message>
+        <source>Positions</source>
+        <translation>Positionen</translation>
+    </message>
+    <message>
+        <source>Rate per travel</source>
+        <translation>Menge je Fahrstrecke</translation>
+    </message>
+    <message>
+        <source>Basis of rates</source>
+        <translation>Bezug der Mengen</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Decimal sign</source>
+        <translation>Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Dates</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Time zone set by hand</source>
+        <translation>Zeitzone von Hand</translation>
+    </message>
+    <message>
+        <source>Time zone, hours</source>
+        <translation>Zeitzone, Stunden</translation>
+    </message>
+    <message>
+        <source>Time zone, minutes</source>
+        <translation>Zeitzone, Minuten</translation>
+    </message>
+    <message>
+        <source>Clock less UTC</source>
+        <translation>Uhr gegen UTC</translation>
+    </message>
+    <message>
+        <source>Source of the time</source>
+        <translation>Quelle der Zeit</translation>
+    </message>
+    <message>
+        <source>Source of the time since</source>
+        <translation>Quelle der Zeit seit</translation>
+    </message>
+    <message>
+        <source>Newest receiver time</source>
+        <translation>Neueste Empfängerzeit</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Day and night</source>
+        <translation>Tag und Nacht</translation>
+    </message>
+    <message>
+        <source>Map direction</source>
+        <translation>Kartenrichtung</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Light bar at night</source>
+        <translation>Lichtbalken bei Nacht</translation>
+    </message>
+    <message>
+        <source>Screen at night</source>
+        <translation>Bildschirm bei Nacht</translation>
+    </message>
+    <message>
+        <source>Button lights at night</source>
+        <translation>Tastenlicht bei Nacht</translation>
+    </message>
+    <message>
+        <source>Switched by the sun</source>
+        <translation>Von der Sonne geschaltet</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Kunde</translation>
+    </message>
+    <message>
+        <source>Farm</source>
+        <translation>Betrieb</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Fahrzeug</translation>
+    </message>
+    <message>
+        <source>Implement</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Sprayer</source>
+        <translation>Spritze</translation>
+    </message>
+    <message>
+        <source>Boom leveller</source>
+        <translation>Gestängeführung</translation>
+    </message>
+    <message>
+        <source>Steering profile</source>
+        <translation>Lenkprofil</translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation>Feldgrenze</translation>
+    </message>
+    <message>
+        <source>A-B line</source>
+        <translation>A-B-Linie</translation>
+    </message>
+    <message>
+        <source>Pivot</source>
+        <translation>Kreisspur</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Optimal lines</source>
+        <translation>Optimale Linien</translation>
+    </message>
+    <message>
+        <source>Project lines</source>
+        <translation>Projektlinien</translation>
+    </message>
+    <message>
+        <source>Zones</source>
+        <translation>Zonen</translation>
+    </message>
+    <message>
+        <source>Receiver address</source>
+        <translation>Empfängeradresse</translation>
+    </message>
+    <message>
+        <source>Internal drive</source>
+        <translation>Internes Laufwerk</translation>
+    </message>
+    <message>
+        <source>Stick</source>
+        <translation>Stick</translation>
+    </message>
+    <message>
+        <source>Implement folder</source>
+        <translation>Geräteordner</translation>
+    </message>
+    <message>
+        <source>Next NMEA log</source>
+        <translation>Nächstes NMEA-Protokoll</translation>
+    </message>
+    <message>
+        <source>Next user log</source>
+        <translation>Nächstes Bedienprotokoll</translation>
+    </message>
+    <message>
+        <source>Identity</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Button text</source>
+        <translation>Tastentext</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Bearbeitet</translation>
+    </message>
+    <message>
+        <source>Vehicle on the map</source>
+        <translation>Fahrzeug auf der Karte</translation>
+    </message>
+    <message>
+        <source>Guidance line</source>
+        <translation>Leitlinie</translation>
+    </message>
+    <message>
+        <source>Cross hairs</source>
+        <translation>Fadenkreuz</translation>
+    </message>
+    <message>
+        <source>Outer boundary</source>
+        <translation>Außengrenze</translation>
+    </message>
+    <message>
+        <source>Inner boundary</source>
+        <translation>Innengrenze</translation>
+    </message>
+    <message>
+        <source>Other boundaries</source>
+        <translation>Andere Grenzen</translation>
+    </message>
+    <message>
+        <source>Exclusion zone</source>
+        <translation>Sperrzone</translation>
+    </message>
+    <message>
+        <source>Background picture</source>
+        <translation>Hintergrundbild</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metrisch</translation>
+    </message>
+    <message>
+        <source>US or English</source>
+        <translation>US oder englisch</translation>
+    </message>
+    <message>
+        <source>US</source>
+        <translation>US</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>Englisch</translation>
+    </message>
+    <message>
+        <source>Deg., min., s</source>
+        <translation>Grad, min, s</translation>
+    </message>
+    <message>
+        <source>Degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>24 hours</source>
+        <translation>24 Stunden</translation>
+    </message>
+    <message>
+        <source>am, pm</source>
+        <translation>am, pm</translation>
+    </message>
+    <message>
+        <source>Month first</source>
+        <translation>Monat zuerst</translation>
+    </message>
+    <message>
+        <source>Day first</source>
+        <translation>Tag zuerst</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>Nacht</translation>
+    </message>
+    <message>
+        <source>Heading up</source>
+        <translation>Fahrtrichtung</translation>
+    </message>
+    <message>
+        <source>North up</source>
+        <translation>Norden oben</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Fahrstrecke</translation>
+    </message>
+    <message>
+        <source>kPa</source>
+        <translation>kPa</translation>
+    </message>
+    <message>
+        <source>psi</source>
+        <translation>psi</translation>
+    </message>
+    <message>
+        <source>bar</source>
+        <translation>bar</translation>
+    </message>
+    <message>
+        <source>Hectare</source>
+        <translation>Hektar</translation>
+    </message>
+    <message>
+        <source>Acre</source>
+        <translation>Acre</translation>
+    </message>
+    <message>
+        <source>m, mm</source>
+        <translation>m, mm</translation>
+    </message>
+    <message>
+        <source>Inch</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Foot</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <translation>L</translation>
+    </message>
+    <message>
+        <source>kg</source>
+        <translation>kg</translation>
+    </message>
+    <message>
+        <source>m³</source>
+        <translation>m³</translation>
+    </message>
+    <message>
+        <source>US bushel</source>
+        <translation>US-Bushel</translation>
+    </message>
+    <message>
+        <source>UK bushel</source>
+        <translation>UK-Bushel</translation>
+    </message>
+    <message>
+        <source>kg/L</source>
+        <translation>kg/L</translation>
+    </message>
+    <message>
+        <source>kg/m³</source>
+        <translation>kg/m³</translation>
+    </message>
+    <message>
+        <source>kg/US bu</source>
+        <translation>kg/US bu</translation>
+    </message>
+    <message>
+        <source>kg/UK bu</source>
+        <translation>kg/UK bu</translation>
+    </message>
+    <message>
+        <source>t</source>
+        <translation>t</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>Sonnenuntergang</translation>
+    </message>
+    <message>
+        <source>Twilight</source>
+        <translation>Dämmerung</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Nicht gestellt</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Bediener</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfänger</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Area done</source>
+        <translation>Fläche fertig</translation>
+    </message>
+    <message>
+        <source>Area left</source>
+        <translation>Fläche übrig</translation>
+    </message>
+    <message>
+        <source>Productivity</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>Durchfluss</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>Rates</source>
+        <translation>Mengen</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Uhr</translation>
+    </message>
+    <message>
+        <source>Colours of the schemes</source>
+        <translation>Farbschemata</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Selections</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Protokolle</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>%1, by day</source>
+        <translation>%1, bei Tag</translation>
+    </message>
+    <message>
+        <source>%1, by night</source>
+        <translation>%1, bei Nacht</translation>
+    </message>
+    <message>
+        <source>what the sprayer&apos;s rates are related to</source>
+        <translation>worauf sich die Mengen der Spritze beziehen</translation>
+    </message>
+    <message>
+        <source>liquid rates per 100 m or 100 yd of travel, while travel is their basis</source>
+        <translation>Flüssigkeitsmengen je 100 m oder 100 yd, solange sie sich auf die Fahrstrecke beziehen</translation>
+    </message>
+    <message>
+        <source>since when the clock has its time from there</source>
+        <translation>seit wann die Uhr ihre Zeit von dort hat</translation>
+    </message>
+    <message>
+        <source>folder of the internal drive; by default in the data folder</source>
+        <translation>Ordner des internen Laufwerks; sonst im Datenordner</translation>
+    </message>
+    <message>
+        <source>mount point of the removable drive; by default in the data folder</source>
+        <translation>Einhängepunkt des Sticks; sonst im Datenordner</translation>
+    </message>
+    <message>
+        <source>the active job</source>
+        <translation>der aktive Auftrag</translation>
+    </message>
+    <message>
+        <source>the active boundary</source>
+        <translation>die aktive Feldgrenze</translation>
+    </message>
+    <message>
+        <source>the active straight guidance line</source>
+        <translation>die aktive gerade Leitlinie</translation>
+    </message>
+    <message>
+        <source>the active pivot</source>
+        <translation>die aktive Kreisspur</translation>
+    </message>
+    <message>
+        <source>the active guidance curve</source>
+        <translation>die aktive Leitkurve</translation>
+    </message>
+    <message>
+        <source>the active shape file of optimal lines</source>
+        <translation>die aktive Shape-Datei der optimalen Linien</translation>
+    </message>
+    <message>
+        <source>the active shape file of project lines</source>
+        <translation>die aktive Shape-Datei der Projektlinien</translation>
+    </message>
+    <message>
+        <source>the active shape file of zones</source>
+        <translation>die aktive Shape-Datei der Zonen</translation>
+    </message>
+    <message>
+        <source>the active steering profile</source>
+        <translation>das aktive Lenkprofil</translation>
+    </message>
+    <message>
+        <source>the active implement</source>
+        <translation>das aktive Gerät</translation>
+    </message>
+    <message>
+        <source>the active vehicle</source>
+        <translation>das aktive Fahrzeug</translation>
+    </message>
+    <message>
+        <source>the active sprayer</source>
+        <translation>die aktive Spritze</translation>
+    </message>
+    <message>
+        <source>the active boom leveller</source>
+        <translation>die aktive Gestängeführung</translation>
+    </message>
+    <message>
+        <source>the active client</source>
+        <translation>der aktive Kunde</translation>
+    </message>
+    <message>
+        <source>the active farm</source>
+        <translation>der aktive Betrieb</translation>
+    </message>
+    <message>
+        <source>the active field</source>
+        <translation>das aktive Feld</translation>
+    </message>
+    <message>
+        <source>local time less UTC, whole hours</source>
+        <translation>Ortszeit gegen UTC, ganze Stunden</translation>
+    </message>
+    <message>
+        <source>local time less UTC, minutes beyond the hours, with the sign of the hours</source>
+        <translation>Ortszeit gegen UTC, Minuten nach den Stunden, mit deren Vorzeichen</translation>
+    </message>
+    <message>
+        <source>the display&apos;s clock less UTC</source>
+        <translation>die Uhr der Anzeige gegen UTC</translation>
+    </message>
+    <message>
+        <source>the operator has chosen the offset from UTC; GPS time keeps it instead of computing it</source>
+        <translation>der Bediener hat den Abstand zu UTC gewählt; die GPS-Zeit lässt ihn, wie er ist</translation>
+    </message>
+    <message>
+        <source>metric units; otherwise US or English units</source>
+        <translation>metrische Einheiten; sonst US- oder englische</translation>
+    </message>
+    <message>
+        <source>US measures when units are not metric; otherwise English measures</source>
+        <translation>US-Maße, wenn die Einheiten nicht metrisch sind; sonst englische</translation>
+    </message>
+    <message>
+        <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
+        <translation>Positionen in Grad, Minuten und Sekunden; sonst in Dezimalgrad</translation>
+    </message>
+    <message>
+        <source>unit of pressures</source>
+        <translation>Einheit der Drücke</translation>
+    </message>
+    <message>
+        <source>unit of areas, and of rates per area</source>
+        <translation>Einheit der Flächen und der Mengen je Fläche</translation>
+    </message>
+    <message>
+        <source>unit of short distances: widths, offsets</source>
+        <translation>Einheit kurzer Strecken: Breiten, Abstände</translation>
+    </message>
+    <message>
+        <source>unit of granular volumes</source>
+        <translation>Einheit der Granulatvolumen</translation>
+    </message>
+    <message>
+        <source>unit of granular densities</source>
+        <translation>Einheit der Granulatdichten</translation>
+    </message>
+    <message>
+        <source>unit of liquid volumes, flows and rates</source>
+        <translation>Einheit von Volumen, Durchfluss und Menge bei Flüssigkeiten</translation>
+    </message>
+    <message>
+        <source>language of the display&apos;s texts; a change needs a restart</source>
+        <translation>Sprache der Anzeige; eine Änderung braucht einen Neustart</translation>
+    </message>
+    <message>
+        <source>decimal point or comma; a change needs a restart</source>
+        <translation>Dezimalpunkt oder Komma; eine Änderung braucht einen Neustart</translation>
+    </message>
+    <message>
+        <source>24-hour clock; otherwise 12 hours with am and pm</source>
+        <translation>Uhr mit 24 Stunden; sonst 12 Stunden mit am und pm</translation>
+    </message>
+    <message>
+        <source>dates with the month before the day</source>
+        <translation>Datum mit dem Monat vor dem Tag</translation>
+    </message>
+    <message>
+        <source>colours for day; otherwise for night</source>
+        <translation>Farben für den Tag; sonst für die Nacht</translation>
+    </message>
+    <message>
+        <source>the map turns with the vehicle; otherwise north is up</source>
+        <translation>die Karte dreht sich mit dem Fahrzeug; sonst ist Norden oben</translation>
+    </message>
+    <message>
+        <source>brightness of the lightbar at night</source>
+        <translation>Helligkeit des Lichtbalkens bei Nacht</translation>
+    </message>
+    <message>
+        <source>brightness of the screen at night</source>
+        <translation>Helligkeit des Bildschirms bei Nacht</translation>
+    </message>
+    <message>
+        <source>brightness of the button lights at night</source>
+        <translation>Helligkeit der Tastenbeleuchtung bei Nacht</translation>
+    </message>
+    <message>
+        <source>number of the background picture by day</source>
+        <translation>Nummer des Hintergrundbilds bei Tag</translation>
+    </message>
+    <message>
+        <source>number of the background picture by night</source>
+        <translation>Nummer des Hintergrundbilds bei Nacht</translation>
+    </message>
+    <message>
+        <source>4: implements are kept in the folder of their vehicle; other numbers: in their own folder</source>
+        <translation>4: Geräte liegen im Ordner ihres Fahrzeugs; andere Zahlen: in einem eigenen Ordner</translation>
+    </message>
+    <message>
+        <source>number of the next file of the NMEA log</source>
+        <translation>Nummer der nächsten Datei des NMEA-Protokolls</translation>
+    </message>
+    <message>
+        <source>number of the next file of the user log</source>
+        <translation>Nummer der nächsten Datei des Bedienprotokolls</translation>
+    </message>
+    <message>
+        <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
+        <translation>wann die Farben zwischen Tag und Nacht wechseln: nur von Hand, bei Sonnenauf- und -untergang, oder wenn die Sonne 6 Grad unter dem Horizont steht</translation>
+    </message>
+    <message>
+        <source>what set the display&apos;s clock</source>
+        <translation>wonach die Uhr gestellt ist</translation>
+    </message>
+    <message>
+        <source>the newest time of a receiver, as of the last day on which one was seen</source>
+        <translation>die neueste Zeit eines Empfängers, vom letzten Tag mit einem Empfänger</translation>
+    </message>
+    <message>
+        <source>the identity of the terminal, which its profiles carry</source>
+        <translation>die Kennung des Terminals, die in seinen Profilen steht</translation>
+    </message>
+    <message>
+        <source>when the sun switched the colours last</source>
+        <translation>wann die Sonne die Farben zuletzt umgeschaltet hat</translation>
+    </message>
+    <message>
+        <source>where the sentences of the receiver come from</source>
+        <translation>woher die Sätze des Empfängers kommen</translation>
+    </message>
+    <message>
+        <source>the figures beside the map, in this order</source>
+        <translation>die Werte neben der Karte, in dieser Reihenfolge</translation>
+    </message>
+    <message>
+        <source>colour of texts, by day</source>
+        <translation>Farbe der Texte bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of texts, by night</source>
+        <translation>Farbe der Texte bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of buttons, by day</source>
+        <translation>Farbe der Tasten bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of buttons, by night</source>
+        <translation>Farbe der Tasten bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of texts on buttons, by day</source>
+        <translation>Farbe der Texte auf Tasten bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of texts on buttons, by night</source>
+        <translation>Farbe der Texte auf Tasten bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the background, by day</source>
+        <translation>Farbe des Hintergrunds bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the background, by night</source>
+        <translation>Farbe des Hintergrunds bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of titles, by day</source>
+        <translation>Farbe der Titel bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of titles, by night</source>
+        <translation>Farbe der Titel bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the outer boundary of the field, by day</source>
+        <translation>Farbe der Außengrenze des Feldes bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the outer boundary of the field, by night</source>
+        <translation>Farbe der Außengrenze des Feldes bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of boundaries within the field, by day</source>
+        <translation>Farbe der Grenzen im Feld bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of boundaries within the field, by night</source>
+        <translation>Farbe der Grenzen im Feld bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of boundaries that are not active, by day</source>
+        <translation>Farbe der Grenzen, die nicht aktiv sind bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of boundaries that are not active, by night</source>
+        <translation>Farbe der Grenzen, die nicht aktiv sind bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of covered ground, by day</source>
+        <translation>Farbe des bearbeiteten Bodens bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of covered ground, by night</source>
+        <translation>Farbe des bearbeiteten Bodens bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the vehicle, by day</source>
+        <translation>Farbe des Fahrzeugs bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the vehicle, by night</source>
+        <translation>Farbe des Fahrzeugs bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the guidance line, by day</source>
+        <translation>Farbe der Leitlinie bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the guidance line, by night</source>
+        <translation>Farbe der Leitlinie bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the map&apos;s ground, by day</source>
+        <translation>Farbe des Kartengrunds bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the map&apos;s ground, by night</source>
+        <translation>Farbe des Kartengrunds bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of zones to keep out of, by day</source>
+        <translation>Farbe der Zonen, die frei bleiben bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of zones to keep out of, by night</source>
+        <translation>Farbe der Zonen, die frei bleiben bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the map&apos;s grid, by day</source>
+        <translation>Farbe des Kartengitters bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the map&apos;s grid, by night</source>
+        <translation>Farbe des Kartengitters bei Nacht</translation>
+    </message>
+    <message>
+        <source>colour of the cross-hairs, by day</source>
+        <translation>Farbe des Fadenkreuzes bei Tag</translation>
+    </message>
+    <message>
+        <source>colour of the cross-hairs, by night</source>
+        <translation>Farbe des Fadenkreuzes bei Nacht</translation>
+    </message>
+</context>
+<context>
+    <name>Quantities</name>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Productivity</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Small distance</source>
+        <translation>Kleine Strecke</translation>
+    </message>
+    <message>
+        <source>Travelled distance</source>
+        <translation>Fahrstrecke</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Requested rate</source>
+        <translation>Sollmenge</translation>
+    </message>
+    <message>
+        <source>Rate and error</source>
+        <translation>Menge und Abweichung</translation>
+    </message>
+    <message>
+        <source>Small rate</source>
+        <translation>Kleine Menge</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>Durchfluss</translation>
+    </message>
+    <message>
+        <source>Small flow</source>
+        <translation>Kleiner Durchfluss</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>Small volume</source>
+        <translation>Kleines Volumen</translation>
+    </message>
+    <message>
+        <source>Granular volume</source>
+        <translation>Granulatvolumen</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Gewicht</translation>
+    </message>
+    <message>
+        <source>Weight per area</source>
+        <translation>Gewicht je Fläche</translation>
+    </message>
+    <message>
+        <source>Weight per area and error</source>
+        <translation>Gewicht je Fläche und Abweichung</translation>
+    </message>
+    <message>
+        <source>Discharge</source>
+        <translation>Austrag</translation>
+    </message>
+    <message>
+        <source>Nitrogen</source>
+        <translation>Stickstoff</translation>
+    </message>
+    <message>
+        <source>Nitrogen per area</source>
+        <translation>Stickstoff je Fläche</translation>
+    </message>
+    <message>
+        <source>Seeds per area</source>
+        <translation>Körner je Fläche</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>Granular density</source>
+        <translation>Granulatdichte</translation>
+    </message>
+    <message>
+        <source>Volume per revolution</source>
+        <translation>Volumen je Umdrehung</translation>
+    </message>
+    <message>
+        <source>Weight per revolution</source>
+        <translation>Gewicht je Umdrehung</translation>
+    </message>
+    <message>
+        <source>Flow meter</source>
+        <translation>Durchflussmesser</translation>
+    </message>
+    <message>
+        <source>Wheel sensor</source>
+        <translation>Radsensor</translation>
+    </message>
+    <message>
+        <source>Speed sensor</source>
+        <translation>Geschwindigkeitssensor</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Prozent</translation>
+    </message>
+</context>
+<context>
+    <name>TParameter</name>
+    <message>
+        <source>The setting could not be written to the disk yet.</source>
+        <translation>Die Einstellung konnte noch nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>There is no value to set.</source>
+        <translation>Es gibt keinen Wert.</translation>
+    </message>
+</context>
+<context>
+    <name>TRestart</name>
+    <message>
+        <source>The new language is shown after a restart.</source>
+        <translation>Die neue Sprache gilt nach einem Neustart.</translation>
+    </message>
+    <message>
+        <source>The new decimal sign is shown after a restart.</source>
+        <translation>Das neue Dezimalzeichen gilt nach einem Neustart.</translation>
+    </message>
+</context>
 </TS>

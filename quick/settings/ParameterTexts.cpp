@@ -54,8 +54,8 @@ QString Problem(const tagParameter& parameter, const QString& entered)
     if (HasRange(parameter))
         return RangeProblem(parameter, entered);
     if (parameter.mostBytes > 0) {
-        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "The name %1. Accepted is: %2"))
-            .arg(ItemNames::Problem(entered, parameter.mostBytes), ItemNames::Suggestion(entered, parameter.mostBytes));
+        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "This cannot be the name of a file. Possible is: %1"))
+            .arg(ItemNames::Suggestion(entered, parameter.mostBytes));
     }
     return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not accepted. Expected: %1."))
         .arg(Translated(parameter.accepts.toUtf8().constData()));

@@ -124,6 +124,14 @@ constexpr tagSchemeTitle SchemeTitles[] = {
     {PARAM_BACKGROUND_NUMBER_DAY, PARAM_BACKGROUND_NUMBER_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Background picture")},
 };
 
+/// In place of what the catalogue says with the names of other parameters, which only tools use.
+constexpr tagTitle Meanings[] = {
+    {PARAM_SPRAYER_RATE_BASIS, QT_TRANSLATE_NOOP("Parameters", "what the sprayer's rates are related to")},
+    {PARAM_RATE_PER_TRAVEL,
+     QT_TRANSLATE_NOOP("Parameters", "liquid rates per 100 m or 100 yd of travel, while travel is their basis")},
+    {PARAM_TIME_SOURCE_SINCE, QT_TRANSLATE_NOOP("Parameters", "since when the clock has its time from there")},
+};
+
 struct tagChoiceText
 {
     int number;
@@ -257,7 +265,10 @@ QString ParameterTitles::Element(const tagParameter& parameter)
 
 QString ParameterTitles::Meaning(const tagParameter& parameter)
 {
-    QString meaning = Translated(parameter.meaning.toUtf8().constData());
+    const auto* const own = std::find_if(std::begin(Meanings), std::end(Meanings),
+                                         [&parameter](const tagTitle& row) { return row.number == parameter.id; });
+    QString meaning =
+        own == std::end(Meanings) ? Translated(parameter.meaning.toUtf8().constData()) : Translated(own->title);
     meaning[0] = meaning.at(0).toUpper();
     return meaning;
 }

@@ -1,0 +1,92 @@
+#include "TQuickTerminal.h"
+
+#include "region/ELanguage.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTranslator>
+
+/// On a German display, nothing of the settings is left in English.
+class GermanTexts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void everyTextIsTranslated_data();
+    void everyTextIsTranslated();
+    void everyMeaningIsTranslated_data();
+    void everyMeaningIsTranslated();
+    void theDisplayShowsThem();
+
+private:
+    QTranslator m_German;
+};
+
+void GermanTexts::initTestCase() { QVERIFY(m_German.load(QLatin1String(":/translations/cabsettings_de"))); }
+
+void GermanTexts::everyTextIsTranslated_data()
+{
+    QTest::addColumn<QString>("source");
+    for (const char* source : {"settings/ParameterTexts.cpp", "settings/ParameterTitles.cpp", "settings/TParameter.cpp",
+                               "settings/TRestart.cpp", "quantities/Quantities.cpp"})
+        QTest::newRow(source) << QString::fromLatin1(source);
+}
+
+void GermanTexts::everyTextIsTranslated()
+{
+    QFETCH(QString, source);
+    QFile file(QLatin1String(CABSETTINGS_QUICK "/") + source);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString className = source.section(QLatin1Char('/'), 1).section(QLatin1Char('.'), 0, 0);
+    const QRegularExpression marked(
+        QLatin1String("QT_TRANSLATE_NOOP\\(\\s*\"(\\w+)\",\\s*\"([^\"]+)\"|\\btr\\(\\s*\"([^\"]+)\""));
+    QRegularExpressionMatchIterator matches = marked.globalMatch(QString::fromUtf8(file.readAll()));
+    QVERIFY(matches.hasNext());
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const QString context = match.captured(1).isEmpty() ? className : match.captured(1);
+        const QString text = match.captured(2) + match.captured(3);
+        const QString german = m_German.translate(context.toUtf8().constData(), text.toUtf8().constData());
+        QVERIFY2(!german.isEmpty(), qPrintable(text));
+        QCOMPARE(german.count(QLatin1Char('%')), text.count(QLatin1Char('%'))); // places for arguments
+    }
+}
+
+void GermanTexts::everyMeaningIsTranslated_data()
+{
+    QTest::addColumn<QString>("meaning");
+    QTest::addColumn<QString>("accepts");
+    for (const tagParameter& parameter : TParameterCatalogue::Parameters()) {
+        const bool isTyped = parameter.type != PARAMETER_INT && parameter.mostBytes == 0 && parameter.names.isEmpty();
+        QTest::newRow(qPrintable(parameter.name)) << parameter.meaning << (isTyped ? parameter.accepts : QString());
+    }
+}
+
+void GermanTexts::everyMeaningIsTranslated()
+{
+    QFETCH(QString, meaning);
+    QFETCH(QString, accepts);
+    // A meaning that names other parameters is for tools; the display has another one.
+    bool isForTools = false;
+    for (const tagParameter& other : TParameterCatalogue::Parameters())
+        isForTools = isForTools || meaning.contains(other.name);
+    QVERIFY(isForTools || !m_German.translate("Parameters", meaning.toUtf8().constData()).isEmpty());
+    QVERIFY(accepts.isEmpty() || !m_German.translate("ParameterTexts", accepts.toUtf8().constData()).isEmpty());
+}
+
+void GermanTexts::theDisplayShowsThem()
+{
+    const TQuickTerminal terminal({{PARAM_LANGUAGE, int{LANGUAGE_GERMAN}}});
+    const std::unique_ptr<QObject> parameter = terminal.Make("Parameter { name: 'colors.day.coverage' }");
+    QCOMPARE(parameter->property("title").toString(), QString::fromUtf8("Bearbeitet, bei Tag"));
+    QCOMPARE(parameter->property("meaning").toString(), QString::fromUtf8("Farbe des bearbeiteten Bodens bei Tag"));
+    const std::unique_ptr<QObject> area = terminal.Make("Quantity { kind: Quantity.Area }");
+    QCOMPARE(area->property("title").toString(), QString::fromUtf8("Fläche"));
+    const std::unique_ptr<QObject> found = terminal.Make("ParameterModel { search: 'dezimalzeichen' }");
+    QCOMPARE(found->property("count").toInt(), 1);
+}
+
+QTEST_GUILESS_MAIN(GermanTexts)
+#include "GermanTexts.moc"
