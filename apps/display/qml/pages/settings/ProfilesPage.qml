@@ -24,6 +24,7 @@ SettingsPanel {
     Transfer {
         id: transfer
         onStateChanged: page.files = profiles()
+        onProfilesChanged: page.files = profiles()
     }
 
     Connections {
