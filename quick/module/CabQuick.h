@@ -2,8 +2,11 @@
 
 #include "QuickExport.h"
 #include "stores/TSqliteStore.h"
+#include "terminal/Storage.h"
 
 #include <QString>
+
+#include <optional>
 
 class TReceiver;
 
@@ -18,6 +21,15 @@ class TReceiver;
 /// @endcode
 ///
 /// The module works in the thread of the application object.
+/// Drives, memory and load as they are shown; see CabQuick::ShowDrives().
+struct tagShownDrives
+{
+    tagSpace internal;
+    std::optional<tagSpace> stick; ///< empty without a stick
+    tagSpace memory;
+    double load; ///< 0 to 1
+};
+
 namespace CabQuick {
 
 /// Makes `import CabSettings 1.0` work in every QML engine of the program. Call it once, after the start of the
@@ -40,7 +52,12 @@ CABQUICK_EXPORT TReceiver& Receiver();
 CABQUICK_EXPORT void SetProblem(const QString& key, const QString& text);
 CABQUICK_EXPORT void ClearProblem(const QString& key);
 
-/// Adds a part of the program to those that QML knows as About, with its licence. Call it while a terminal is published.
+/// Shows these drives in QML in place of those that are there, from now on: for pictures and tests, which need the same
+/// ones each time. Call it while a terminal is published.
+CABQUICK_EXPORT void ShowDrives(const tagShownDrives& drives);
+
+/// Adds a part of the program to those that QML knows as About, with its licence. Call it while a terminal is
+/// published.
 /// @param name "B612"
 /// @param version empty when it is not known.
 /// @param licence by its SPDX identifier: "OFL-1.1"

@@ -1,5 +1,6 @@
 #include "terminal/TDrives.h"
 
+#include "module/SharedObject.h"
 #include "module/TBackground.h"
 #include "terminal/SizeText.h"
 
@@ -56,7 +57,12 @@ TDrives::tagLook TDrives::LookNow()
 /// The next look begins when this one is taken: a drive that does not answer gets no queue of looks.
 void TDrives::Look()
 {
-    TBackground::Lane("drives").Run(this, LookNow, [this](const tagLook& look) { Take(look); });
+    TBackground::Lane("drives").Run(this, LookNow, [this](const tagLook& look) {
+        if (m_IsShown)
+            return;
+        Take(look);
+        m_Timer.start();
+    });
 }
 
 void TDrives::Take(const tagLook& look)
@@ -88,5 +94,13 @@ void TDrives::Take(const tagLook& look)
         m_Load = look.load;
         emit loadChanged();
     }
-    m_Timer.start();
 }
+
+void TDrives::Show(const tagShownDrives& drives)
+{
+    m_IsShown = true;
+    m_Timer.stop();
+    Take({drives.internal, drives.stick.has_value(), drives.stick, drives.memory, drives.load});
+}
+
+void CabQuick::ShowDrives(const tagShownDrives& drives) { SharedObject<TDrives>()->Show(drives); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "terminal/Storage.h"
+#include "module/CabQuick.h"
 
 #include <QObject>
 #include <QString>
@@ -43,6 +43,9 @@ public:
     /// 0 to 1, of all cores over the last minute.
     double Load() const { return m_Load; }
 
+    /// Shows these in place of those that are there, from now on.
+    void Show(const tagShownDrives& drives);
+
 signals:
     void internalChanged();
     void internalTextChanged();
@@ -75,6 +78,7 @@ private:
     TSpace m_Stick;
     TSpace m_Memory;
     bool m_HasStick = false;
+    bool m_IsShown = false; ///< by Show()
     QString m_InternalText;
     QString m_StickText;
     QString m_MemoryText;

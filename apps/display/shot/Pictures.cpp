@@ -27,6 +27,10 @@
 
 namespace {
 
+/// Room on the drives and in the memory, which would change from one picture to the next.
+const tagShownDrives Drives = {
+    {28000000000, 12300000000}, tagSpace{8000000000, 7400000000}, {2000000000, 1400000000}, 0.2};
+
 const QDateTime Moment(QDate(2024, 5, 1), QTime(12, 5), Qt::UTC);
 constexpr int SecondsFromUtc = 2 * 60 * 60;
 
@@ -153,6 +157,7 @@ bool WritePictures(const tagDisplayOptions& options, QString* error)
         *error = QStringLiteral("cannot write the log of the example");
         return false;
     }
+    CabQuick::ShowDrives(Drives);
     auto* const display = session.Window()->findChild<QQuickItem*>(QStringLiteral("display"));
     const QString ending = QLatin1String(options.isNight ? "-night.png" : ".png");
     for (const tagPage& page : Pages) {

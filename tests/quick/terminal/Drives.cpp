@@ -14,6 +14,7 @@ private slots:
     void withoutAStickThereIsNone();
     void aStickComesAndGoes();
     void whatStaysIsNotTold();
+    void aPictureHasDrivesOfItsOwn();
 };
 
 void Drives::theInternalDriveAndTheMemoryAreMeasured()
@@ -68,6 +69,17 @@ void Drives::whatStaysIsNotTold()
     QTRY_VERIFY_WITH_TIMEOUT(loads.size() >= 2, 60000); // two looks
     QCOMPARE(sticks.size(), 0);
     QCOMPARE(texts.size(), 0);
+}
+
+void Drives::aPictureHasDrivesOfItsOwn()
+{
+    const TQuickTerminal terminal;
+    CabQuick::ShowDrives({{28000000000, 12300000000}, tagSpace{8000000000, 7400000000}, {2000000000, 1400000000}, 0.5});
+    QCOMPARE(terminal.Text("Drives.internalText"), QLatin1String("12.3 GB free of 28.0 GB"));
+    QCOMPARE(terminal.Text("Drives.stickText"), QLatin1String("7.4 GB free of 8.0 GB"));
+    QCOMPARE(terminal.Text("Drives.memoryText"), QLatin1String("1.4 GB free of 2.0 GB"));
+    QVERIFY(terminal.Get("Drives.hasStick").toBool());
+    QCOMPARE(terminal.Get("Drives.load").toDouble(), 0.5);
 }
 
 int main(int argc, char* argv[])
