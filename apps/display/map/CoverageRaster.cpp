@@ -115,7 +115,7 @@ bool TCoverageRaster::Add(const std::array<QPointF, 4>& corners)
         float area = 0;
         for (int x = 0; x < width; ++x) {
             area += change[x];
-            covered[x] = static_cast<unsigned char>(std::min(covered[x] + int(std::abs(area) * 255 + 0.5F), 255));
+            covered[x] = static_cast<unsigned char>(std::min(covered[x] + qRound(std::abs(area) * 255), 255));
         }
     }
     return true;

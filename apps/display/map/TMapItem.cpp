@@ -36,26 +36,26 @@ TMapItem::TMapItem(QQuickItem* parent) : QQuickItem(parent)
     m_Tiles.SetColors(m_Colors);
 }
 
-void TMapItem::SetModel(QObject* object)
+void TMapItem::SetModel(QObject* model)
 {
-    auto* model = qobject_cast<TMapModel*>(object);
-    if (model == m_Model)
+    auto* map = qobject_cast<TMapModel*>(model);
+    if (map == m_Model)
         return;
     if (m_Model != nullptr)
         disconnect(m_Model, nullptr, this, nullptr);
-    m_Model = model;
-    m_Tiles.SetModel(model);
-    if (model != nullptr) {
-        connect(model, &TMapModel::AreasChanged, this, &TMapItem::RedrawTiles);
-        connect(model, &TMapModel::GuidanceChanged, this, &TMapItem::RedrawTiles);
-        connect(model, &TMapModel::FlagsChanged, this, &TMapItem::Redraw);
-        connect(model, &TMapModel::VehicleChanged, this, &TMapItem::Redraw);
-        connect(model, &TMapModel::StripAdded, this, &TMapItem::OnStripAdded);
-        connect(model, &TMapModel::StripsReset, this, [this] {
+    m_Model = map;
+    m_Tiles.SetModel(map);
+    if (map != nullptr) {
+        connect(map, &TMapModel::AreasChanged, this, &TMapItem::RedrawTiles);
+        connect(map, &TMapModel::GuidanceChanged, this, &TMapItem::RedrawTiles);
+        connect(map, &TMapModel::FlagsChanged, this, &TMapItem::Redraw);
+        connect(map, &TMapModel::VehicleChanged, this, &TMapItem::Redraw);
+        connect(map, &TMapModel::StripAdded, this, &TMapItem::OnStripAdded);
+        connect(map, &TMapModel::StripsReset, this, [this] {
             m_Tiles.ResetStrips();
             Redraw();
         });
-        connect(model, &QObject::destroyed, this, [this] {
+        connect(map, &QObject::destroyed, this, [this] {
             m_Tiles.SetModel(nullptr);
             Redraw();
             emit modelChanged();

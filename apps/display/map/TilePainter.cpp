@@ -35,7 +35,7 @@ constexpr double ZoneTint = 0.25;
 constexpr double ActiveLineWidth = 5;
 constexpr double NeighbourWidth = 1.5;
 constexpr double NeighbourStrength = 0.5;
-constexpr double NeighbourPixelsLeast = 6; // nearer ones would be a surface
+constexpr double NeighbourPixelsLeast = 18; // nearer ones would hide the field
 constexpr double MarkRadius = 7;
 
 /// Pixels beyond the tile that a wide line can still reach.
