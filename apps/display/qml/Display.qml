@@ -21,6 +21,12 @@ FocusKeys {
     function open(name, part) {
         section = part === undefined ? "" : part
         page = name
+        passSection()
+    }
+    // Also again, when the operator has gone on from it within the settings.
+    function passSection() {
+        if (page === "settings" && other.item !== null)
+            other.item.section = section
     }
 
     focus: true
@@ -57,12 +63,8 @@ FocusKeys {
                 active: display.page !== "work"
                 source: active ? "pages/" + doors.row(display.page).file : ""
 
-                Binding {
-                    target: other.item
-                    property: "section"
-                    value: display.section
-                    when: other.item !== null && display.page === "settings"
-                }
+                onLoaded: display.passSection()
+
                 Connections {
                     target: other.item
                     ignoreUnknownSignals: true

@@ -20,7 +20,6 @@ inline constexpr std::array Pages = {
     tagPage{"logs", "logs", ""},
     tagPage{"settings-units", "settings", "units"},
     tagPage{"settings-region", "settings", "region"},
-    tagPage{"settings-clock", "settings", "clock"},
     tagPage{"settings-colors", "settings", "colors"},
     tagPage{"settings-display", "settings", "display"},
     tagPage{"settings-tiles", "settings", "tiles"},
