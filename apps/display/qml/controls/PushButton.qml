@@ -35,7 +35,9 @@ Item {
             clicked()
     }
 
-    implicitWidth: Math.max(Sizes.target, content.implicitWidth + 3 * Sizes.margin)
+    // Not of the row: the label there may have shrunk to the button.
+    implicitWidth: Math.max(Sizes.target, label.implicitWidth + 3 * Sizes.margin
+                                          + (icon === "" ? 0 : text === "" ? Sizes.icon : Sizes.icon + content.spacing))
     implicitHeight: Sizes.target
     activeFocusOnTab: enabled && visible
     Accessible.role: Accessible.Button

@@ -62,7 +62,8 @@ FocusScope {
                 anchors.fill: input
                 visible: input.text === "" && input.preeditText === ""
                 text: entry.placeholder
-                muted: true
+                color: Scheme.buttonText
+                font.italic: true
                 verticalAlignment: Text.AlignVCenter
             }
             TextInput {
