@@ -29,13 +29,13 @@ Item {
     FieldTree {
         id: tree
 
-        // What a refusal is about, until it is answered.
+        // What a refusal is about.
         property string removing
 
         onDone: function (ok, error) {
-            if (!ok && removing !== "" && !force.isOpen)
+            if (!ok && refused)
                 force.ask(error)
-            problem.text = ok || removing !== "" ? "" : error
+            problem.text = ok || refused ? "" : error
         }
     }
 
@@ -132,7 +132,6 @@ Item {
         id: force
         action: qsTr("Remove everything")
         onAgreed: tree.remove(tree.removing, true)
-        onClosed: tree.removing = ""
     }
 
     ItemActions {

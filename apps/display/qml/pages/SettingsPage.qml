@@ -20,7 +20,7 @@ FocusScope {
         var entry = innerSections.find(function (row) { return row.name === page.section })
         return entry === undefined ? "" : entry.within
     }
-    readonly property bool isWide: width >= Sizes.target * 13
+    readonly property bool isWide: !Sizes.isNarrow
     readonly property bool hasInner: inner.source.toString() !== ""
 
     readonly property var sections: [

@@ -93,9 +93,11 @@ FocusScope {
             // The last page too begins with a whole row.
             footer: Item { width: 1; height: Math.max(0, list.height - Sizes.target) }
 
-            // Changes when a row is made, and when one grows.
+            // A row is made, or grows. The height of the content may stay: it counts with rows that are not made yet.
+            readonly property int made: contentItem.children.length
             readonly property real extent: contentItem.childrenRect.height
 
+            onMadeChanged: measuring.restart()
             onExtentChanged: measuring.restart()
             onContentYChanged: measuring.restart()
             onContentHeightChanged: measuring.restart()

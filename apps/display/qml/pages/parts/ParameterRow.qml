@@ -17,6 +17,7 @@ SettingRow {
                                         && parameter.type !== "string"
     readonly property alias parameter: parameter
 
+    objectName: "parameter row"
     title: parameter.title
     meaning: parameter.meaning
     error: parameter.error

@@ -87,6 +87,7 @@ SettingsPanel {
 
             PushButton {
                 text: parameter.shownText
+                accessibleName: qsTr("Digits of the colour")
                 onClicked: digits.ask(parameter.text)
             }
         }

@@ -19,6 +19,7 @@ SettingsPanel {
         Facts {
             width: parent.width
             count: 3
+            leastWidth: Sizes.row * 7
 
             Fact { title: qsTr("Date"); text: Clock.date }
             Fact { title: qsTr("Time"); text: Clock.time }
