@@ -44,6 +44,7 @@ FocusScope {
     function open(name, properties) {
         properties.navigator = page
         inner.setSource("settings/" + name + ".qml", properties)
+        inner.forceActiveFocus()
     }
 
     // Closes the page in front, then the page within a section, then the section where it has no list beside it.
