@@ -37,7 +37,7 @@ QColor Panel(const DerivedColors::tagBasis& basis)
     const double most = 0.05;
     const double needed = std::min(ReadableFigures, ContrastRatio(basis.text, basis.background));
     for (double share = most; share > 0; share -= most / 10) {
-        const QColor panel = Mix(basis.background, basis.text, share);
+        QColor panel = Mix(basis.background, basis.text, share);
         if (ContrastRatio(basis.text, panel) >= needed)
             return panel;
     }
@@ -57,7 +57,7 @@ QColor Muted(const QColor& text, const QVector<QColor>& grounds)
 {
     const double most = 0.4;
     for (double share = most; share > 0; share -= most / Steps) {
-        const QColor muted = Mix(text, grounds.first(), share);
+        QColor muted = Mix(text, grounds.first(), share);
         if (LeastRatio(muted, grounds) >= ReadableText)
             return muted;
     }
@@ -101,9 +101,9 @@ double DerivedColors::LeastRatio(const QColor& color, const QVector<QColor>& gro
 
 QColor DerivedColors::Legible(const QColor& color, const QVector<QColor>& grounds, double ratio)
 {
-    const QColor end = LeastRatio(Black, grounds) > LeastRatio(White, grounds) ? Black : White;
+    QColor end = LeastRatio(Black, grounds) > LeastRatio(White, grounds) ? Black : White;
     for (int step = 0; step < Steps; ++step) {
-        const QColor mixed = Mix(color, end, static_cast<double>(step) / Steps);
+        QColor mixed = Mix(color, end, static_cast<double>(step) / Steps);
         if (LeastRatio(mixed, grounds) >= ratio)
             return mixed;
     }

@@ -7,6 +7,7 @@
 #include "parameters/TParameterCatalogue.h"
 
 #include <algorithm>
+#include <cstddef>
 
 struct TScheme::tagElement
 {
@@ -68,7 +69,8 @@ TScheme::tagLook TScheme::LookNow()
     for (const tagElement& row : m_Elements) {
         const QColor stored = (settings.*row.color)();
         const EParamID key = row.keys[look.isDay ? 0 : 1];
-        look.own[row.element] = stored.isValid() ? stored : TParameterCatalogue::Find(key)->firstValue.value<QColor>();
+        look.own[static_cast<std::size_t>(row.element)] =
+            stored.isValid() ? stored : TParameterCatalogue::Find(key)->firstValue.value<QColor>();
     }
     look.derived =
         DerivedColors::Derive({look.isDay, look.own[TEXT], look.own[BACKGROUND], look.own[TITLE], look.own[COVERAGE]});

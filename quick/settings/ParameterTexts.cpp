@@ -37,10 +37,10 @@ QString RangeProblem(const tagParameter& parameter, const QString& entered)
     bool isNumber = false;
     const double number = entered.toDouble(&isNumber);
     const bool isWhole = isNumber && std::trunc(number) == number;
-    const QString problem = !isWhole ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not a whole number."))
-                            : number < parameter.least
-                                ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Below the least value."))
-                                : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Above the greatest value."));
+    QString problem = !isWhole ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not a whole number."))
+                      : number < parameter.least
+                          ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Below the least value."))
+                          : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Above the greatest value."));
     if (!IsBounded(parameter))
         return problem;
     return problem + QLatin1Char(' ') +
@@ -66,7 +66,7 @@ QString Problem(const tagParameter& parameter, const QString& entered)
 QString ParameterTexts::Shown(const tagParameter& parameter, const QVariant& value)
 {
     const bool isChoice = value.userType() == QMetaType::Bool || value.userType() == QMetaType::Int;
-    const QString choice = isChoice ? ParameterTitles::Choice(parameter, value.toInt()) : QString();
+    QString choice = isChoice ? ParameterTitles::Choice(parameter, value.toInt()) : QString();
     if (!choice.isEmpty())
         return choice;
     const QString text = TParameterCatalogue::Text(parameter, value);

@@ -310,7 +310,7 @@ void SchemeColors::contrastsFollowAColor()
     const auto* const model = qobject_cast<QAbstractItemModel*>(object.get());
     const int role = model->roleNames().key("isLegible");
     QCOMPARE(model->index(0, 0).data(role).toBool(), true);
-    QSignalSpy changes(object.get(), SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
+    QSignalSpy changes(model, &QAbstractItemModel::dataChanged);
     Set(Name(true, "text"), FirstColor(true, "background"));
     QTRY_COMPARE(model->index(0, 0).data(role).toBool(), false);
     QCOMPARE(model->index(0, 0).data(model->roleNames().key("ratioText")).toString(), Latin("1.0:1"));
