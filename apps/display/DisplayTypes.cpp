@@ -3,6 +3,7 @@
 #include "display/keys/TFocusKeys.h"
 #include "display/lightbar/TLightBar.h"
 #include "display/map/TMapItem.h"
+#include "display/work/TWork.h"
 
 #include <QtQml>
 
@@ -19,4 +20,5 @@ void RegisterDisplayTypes()
     qmlRegisterType<TFocusKeys>(Module, Major, Minor, "FocusKeys");
     qmlRegisterType<TLightBar>(Module, Major, Minor, "LightBar");
     qmlRegisterType<TMapItem>(Module, Major, Minor, "MapView");
+    TWork::Register(Module, Major, Minor);
 }
