@@ -28,12 +28,12 @@ using DerivedColors::IsLight;
 using DerivedColors::LeastRatio;
 using DerivedColors::Mix;
 
-/// By day a panel is lighter than a light background. A panel on a dark background comes forward by being a little
-/// lighter, but not so much that figures on it are read worse than they need.
+/// By day a panel on a light background is white. Otherwise it has a little of the text in it, but not so much that
+/// figures on it fall below their contrast.
 QColor Panel(const DerivedColors::tagBasis& basis)
 {
     if (basis.isDay && IsLight(basis.background))
-        return Mix(basis.background, White, 1);
+        return White;
     const double most = 0.05;
     const double needed = std::min(ReadableFigures, ContrastRatio(basis.text, basis.background));
     for (double share = most; share > 0; share -= most / 10) {
@@ -44,7 +44,8 @@ QColor Panel(const DerivedColors::tagBasis& basis)
     return basis.background;
 }
 
-/// The lighter or darker of the scheme's own colours where it is read, else one made for it.
+/// The text or the background of the scheme, whichever has more contrast, moved away from the ground where even that is
+/// too little.
 QColor TextOn(const QColor& ground, const DerivedColors::tagBasis& basis)
 {
     const QColor& best =

@@ -9,11 +9,11 @@ namespace DerivedColors {
 /// @p share of @p added in @p color, channel by channel; 0 is @p color. Opaque.
 QColor Mix(const QColor& color, const QColor& added, double share);
 
-/// Whether the ground is lighter than what is drawn on it may be: black is read on it better than white.
+/// Whether black is easier to read on the ground than white.
 bool IsLight(const QColor& ground);
 
-/// The colour that is nearest to @p color and has at least @p ratio against each of @p grounds, towards black or white.
-/// Grounds of which one is light and one is dark may have none; then the best.
+/// @p color, or the first on its way to black or white that has at least @p ratio against each of @p grounds. Black or
+/// white when there is none, as for a light and a dark ground.
 QColor Legible(const QColor& color, const QVector<QColor>& grounds, double ratio);
 
 /// The least of the contrast ratios; see ContrastRatio().
