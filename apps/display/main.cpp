@@ -1,12 +1,17 @@
+#include "display/bench/Bench.h"
 #include "display/options/DisplayOptions.h"
 #include "display/session/TDisplaySession.h"
 #include "display/shot/Pictures.h"
+#include "display/work/DemoField.h"
 
 #include "console/line/QuitOnSignal.h"
 #include "module/CabQuick.h"
+#include "parameters/ParameterRows.h"
 #include "receiver/TReceiver.h"
+#include "stores/TSqliteStore.h"
 
 #include <QGuiApplication>
+#include <QTemporaryDir>
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
 #endif
@@ -57,14 +62,35 @@ void HoldEndingSignals()
     pthread_sigmask(SIG_BLOCK, &ending, nullptr);
 }
 
+/// A first start shows a field to work on: the one that the simulated receiver drives on.
+bool IsFirstLook(TSqliteStore& store)
+{
+    return store.GetParameter(PARAM_CLIENT).toString().isEmpty() &&
+           store.GetParameter(PARAM_RECEIVER_ADDRESS).toString() == QLatin1String(ParameterRows::SimulatorAddress);
+}
+
 int Run(const tagDisplayOptions& options)
 {
     TDisplaySession session;
     QString error;
-    if (!session.Start(options, &error) || !session.OpenWindow(options, &error))
+    if (!session.Start(options, &error) || !session.OpenWindow(options, &error) ||
+        (IsFirstLook(session.Store()) && !MakeDemoField(session.Engine(), &error)))
         return Fail(error, STATUS_FAILED);
     CabQuick::Receiver().SetRunning(true);
     return QGuiApplication::exec();
+}
+
+/// In a data folder of its own: nothing of the operator's is touched.
+int Measure(const tagDisplayOptions& options)
+{
+    const QTemporaryDir folder;
+    tagDisplayOptions own = options;
+    own.dataFolder = folder.path();
+    TDisplaySession session;
+    QString error;
+    if (!session.Start(own, &error) || !session.OpenWindow(own, &error))
+        return Fail(error, STATUS_FAILED);
+    return RunBench(*session.Window(), [] { CabQuick::Receiver().SetRunning(true); });
 }
 
 } // namespace
@@ -79,12 +105,15 @@ int main(int argc, char* argv[])
     const QString problem = ReadDisplayOptions(Arguments(argc, argv), options);
     if (!problem.isEmpty())
         return Fail(problem + QLatin1String(" (see cabdisplay --help)"), STATUS_MISUSE);
-    if (options.wantsHelp || options.wantsVersion) {
-        std::fputs(options.wantsHelp ? qUtf8Printable(DisplayHelp()) : "cabdisplay " CABSETTINGS_VERSION "\n", stdout);
+    if (options.wantsHelp || options.wantsManual || options.wantsVersion) {
+        std::fputs(options.wantsHelp     ? qUtf8Printable(DisplayHelp())
+                   : options.wantsManual ? qUtf8Printable(DisplayManual())
+                                         : "cabdisplay " CABSETTINGS_VERSION "\n",
+                   stdout);
         return STATUS_DONE;
     }
     ChooseRenderer();
-    if (!options.pictureFolder.isEmpty())
+    if (!options.pictureFolder.isEmpty() || (options.isBench && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     HoldEndingSignals();
     const QGuiApplication application(argc, argv);
@@ -94,6 +123,8 @@ int main(int argc, char* argv[])
         QString error;
         return WritePictures(options, &error) ? STATUS_DONE : Fail(error, STATUS_FAILED);
     }
+    if (options.isBench)
+        return Measure(options);
     const int status = Run(options);
     if (status == STATUS_RESTART) {
         execv("/proc/self/exe", argv);

@@ -32,6 +32,9 @@ QString ReadFlag(const QString& /*value*/, tagDisplayOptions& options)
     return {};
 }
 
+constexpr const char* Description =
+    "The display of the cab: map, guidance, coverage, and every setting of the terminal.";
+
 constexpr int LeastWidth = 480;
 constexpr int GreatestWidth = 4096;
 
@@ -74,6 +77,8 @@ constexpr std::array Options = {
     tagOption{"--shot", "DIR", "writes a picture of every page into the folder, of an example field, and ends",
               ReadText<&tagDisplayOptions::pictureFolder>},
     tagOption{"--night", nullptr, "with --shot: the colours of the night", ReadFlag<&tagDisplayOptions::isNight>},
+    tagOption{"--bench", nullptr, "measures the frames, the load and the memory of the display, and ends",
+              ReadFlag<&tagDisplayOptions::isBench>},
     tagOption{"--version", nullptr, "prints the version", ReadFlag<&tagDisplayOptions::wantsVersion>},
     tagOption{"--help", nullptr, "prints this text", ReadFlag<&tagDisplayOptions::wantsHelp>},
 };
@@ -82,6 +87,12 @@ QString Left(const tagOption& option)
 {
     const QString name = QLatin1String(option.name);
     return option.value == nullptr ? name : name + QLatin1Char(' ') + QLatin1String(option.value);
+}
+
+// A minus sign of its own: man would print a hyphen, which cannot be pasted.
+QString Troff(QString text)
+{
+    return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('-'), QLatin1String("\\-"));
 }
 
 QString ReadOption(const QStringList& arguments, int& index, tagDisplayOptions& options)
@@ -109,7 +120,8 @@ QString ReadDisplayOptions(const QStringList& arguments, tagDisplayOptions& opti
 {
     options.dataFolder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/cabsettings");
-    for (int index = 0; index < arguments.size(); ++index) {
+    options.wantsManual = arguments == QStringList{QStringLiteral("--manual")};
+    for (int index = 0; index < arguments.size() && !options.wantsManual; ++index) {
         const QString problem = ReadOption(arguments, index, options);
         if (!problem.isEmpty())
             return problem;
@@ -132,4 +144,17 @@ QString DisplayHelp()
         text += QString::fromLatin1("  %1  %2\n").arg(Left(option), -width).arg(QLatin1String(option.meaning));
     text += QString::fromLatin1("\nPages: %1\n").arg(PageNames().join(QLatin1String(", ")));
     return text;
+}
+
+QString DisplayManual()
+{
+    QString text = QString::fromLatin1(".TH CABDISPLAY 1 \"\" \"cabsettings %1\"\n"
+                                       ".SH NAME\ncabdisplay \\- display of a guidance terminal\n"
+                                       ".SH SYNOPSIS\n.B cabdisplay\n[\\fIOPTION\\fR]...\n"
+                                       ".SH DESCRIPTION\n%2\n.SH OPTIONS\n")
+                       .arg(Troff(QLatin1String(CABSETTINGS_VERSION)), Troff(QLatin1String(Description)));
+    for (const tagOption& option : Options)
+        text += QString::fromLatin1(".TP\n.B %1\n%2\n").arg(Troff(Left(option)), Troff(QLatin1String(option.meaning)));
+    text += QString::fromLatin1(".SH PAGES\n%1\n").arg(Troff(PageNames().join(QLatin1String(", "))));
+    return text + QLatin1String(".SH SEE ALSO\n.BR cabsettings (1)\n");
 }

@@ -15,8 +15,10 @@ struct tagDisplayOptions
     QString pictureFolder; ///< empty: no pictures
     QString page;          ///< the only one to be shown or pictured; empty: the first one, or all pictures
     bool isNight = false;
+    bool isBench = false;
     bool wantsHelp = false;
     bool wantsVersion = false;
+    bool wantsManual = false; ///< the text of the manual page, for the build
 };
 
 /// Reads the arguments behind the program's name. Returns what is wrong and what is expected, or an empty text.
@@ -29,3 +31,6 @@ QString ReadDisplayOptions(const QStringList& arguments, tagDisplayOptions& opti
 
 /// The text of --help.
 QString DisplayHelp();
+
+/// The manual page, as man reads it.
+QString DisplayManual();

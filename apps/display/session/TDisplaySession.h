@@ -42,6 +42,9 @@ public:
 
     TSqliteStore& Store() const { return *m_Store; }
 
+    /// To be called after OpenWindow().
+    QQmlEngine& Engine() const { return *m_Engine; }
+
     /// Null before OpenWindow().
     QQuickWindow* Window() const;
 

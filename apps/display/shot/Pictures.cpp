@@ -1,7 +1,10 @@
 #include "display/shot/Pictures.h"
 
+#include "display/map/TMapItem.h"
 #include "display/session/TDisplaySession.h"
 #include "display/shot/PageTable.h"
+#include "display/work/DemoField.h"
+#include "display/work/TWork.h"
 
 #include "module/CabQuick.h"
 #include "nmea/TFieldSimulator.h"
@@ -23,7 +26,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QtMath>
 #include <QtQml>
+
+#include <cmath>
 
 namespace {
 
@@ -34,8 +40,10 @@ const tagShownDrives Drives = {
 const QDateTime Moment(QDate(2024, 5, 1), QTime(12, 5), Qt::UTC);
 constexpr int SecondsFromUtc = 2 * 60 * 60;
 
-// Five passes and a part of the sixth: both sides of the line can be seen.
-constexpr int EpochsBefore = 10 * 60 * 14;
+// Into the seventh pass: what is covered, the pond and the zone are all on the map.
+constexpr int EpochsBefore = 10335;
+constexpr double GreatestNoise = 0.07; // metres; the light bar has something to show
+constexpr int ZoomSteps = 2;
 constexpr int Attempts = 20;
 constexpr int StepsOfClock = 60;
 constexpr int StepMs = 20;
@@ -48,9 +56,17 @@ void Wait(int milliseconds)
     loop.exec();
 }
 
-/// Drives to the place of the pictures, as the live receiver would.
-void DriveToPlace()
+bool IsAlong(double course, double heading)
 {
+    const double greatestSine = 0.05;
+    return std::abs(std::sin(qDegreesToRadians(course - heading))) < greatestSine;
+}
+
+/// Drives to the place of the pictures, as the live receiver would, and works in the passes.
+void DriveToPlace(TWork& work)
+{
+    while (work.IsLoading())
+        Wait(StepMs);
     tagFieldPlan plan = CabQuick::SimulatedPlan();
     plan.start = Moment.addMSecs(-EpochsBefore * qint64(1000) / plan.rate);
     // The first time of the receiver makes the distance from the clock's time the one from UTC.
@@ -59,9 +75,23 @@ void DriveToPlace()
     const QTime time = local.time();
     TRegionSettingsProxy().SetUserDateTime(date.year(), date.month(), date.day(), time.hour(), time.minute(),
                                            time.second());
+    plan.noise = GreatestNoise;
     TFieldSimulator simulator(plan);
-    for (int epoch = 0; epoch <= EpochsBefore; ++epoch)
+    int along = 0;
+    for (int epoch = 0; epoch <= EpochsBefore; ++epoch) {
         CabQuick::Receiver().Show(simulator.NextEpoch());
+        // In a turn the course is that of a pass for a moment.
+        along = IsAlong(CabQuick::Receiver().Course(), plan.heading) ? along + 1 : 0;
+        work.SetWorking(along > plan.rate);
+    }
+    // The figures follow at most twice a second.
+    bool isTold = false;
+    const QMetaObject::Connection told =
+        QObject::connect(&work, &TWork::figuresChanged, &work, [&isTold] { isTold = true; });
+    CabQuick::Receiver().Show(simulator.NextEpoch());
+    while (!isTold)
+        Wait(StepMs);
+    QObject::disconnect(told);
 }
 
 /// Entries of the user log have the milliseconds at which the machine has written them; in a picture, those of the
@@ -150,9 +180,11 @@ bool WritePictures(const tagDisplayOptions& options, QString* error)
     if (!session.Start(own, error))
         return false;
     session.Store().SetParameter(PARAM_DAY_MODE, !options.isNight, true);
-    if (!session.OpenWindow(own, error))
+    if (!session.OpenWindow(own, error) || !MakeDemoField(session.Engine(), error))
         return false;
-    DriveToPlace();
+    auto* const map = session.Window()->findChild<TMapItem*>();
+    map->SetZoom(map->Zoom() - ZoomSteps);
+    DriveToPlace(*TWork::Of(session.Engine()));
     if (!SetTimesOfLog(own.dataFolder)) {
         *error = QStringLiteral("cannot write the log of the example");
         return false;

@@ -29,14 +29,14 @@ void DisplayOptionsRead::withoutArgumentsAllIsAsStored()
     QVERIFY(options.dataFolder.endsWith(QLatin1String("/cabsettings")));
     QVERIFY(options.receiver.isEmpty() && options.language.isEmpty() && options.pictureFolder.isEmpty());
     QCOMPARE(options.size, QSize(1280, 800));
-    QVERIFY(!options.isFullScreen && !options.isNight && !options.wantsHelp && !options.wantsVersion);
+    QVERIFY(!options.isFullScreen && !options.isNight && !options.isBench && !options.wantsHelp && !options.wantsVersion);
 }
 
 void DisplayOptionsRead::everyOptionIsRead()
 {
     tagDisplayOptions options;
     QCOMPARE(Read("--data /data --receiver tcp://host:1 --language german --size 800x480 --full-screen --page logs "
-                  "--shot out --night --version --help",
+                  "--shot out --night --bench --version --help",
                   options),
              QString());
     QCOMPARE(options.dataFolder, QLatin1String("/data"));
@@ -45,7 +45,7 @@ void DisplayOptionsRead::everyOptionIsRead()
     QCOMPARE(options.size, QSize(800, 480));
     QCOMPARE(options.page, QLatin1String("logs"));
     QCOMPARE(options.pictureFolder, QLatin1String("out"));
-    QVERIFY(options.isFullScreen && options.isNight && options.wantsVersion && options.wantsHelp);
+    QVERIFY(options.isFullScreen && options.isNight && options.isBench && options.wantsVersion && options.wantsHelp);
 }
 
 void DisplayOptionsRead::aValueMayBeJoined()
@@ -87,7 +87,7 @@ void DisplayOptionsRead::helpNamesEveryOption()
 {
     const QString help = DisplayHelp();
     for (const char* const name : {"--data DIR", "--receiver ADDRESS", "--language NAME", "--size WxH", "--full-screen",
-                                   "--page PAGE", "--shot DIR", "--night", "--version", "--help"})
+                                   "--page PAGE", "--shot DIR", "--night", "--bench", "--version", "--help"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
     QVERIFY(help.contains(QLatin1String("Pages: work, fields,")));
     tagDisplayOptions options;
