@@ -40,6 +40,11 @@ if(CABSETTINGS_HOST AND CABSETTINGS_DISPLAY)
     set(_qml_dir ${CMAKE_INSTALL_LIBDIR}/qt${CABSETTINGS_QT}/qml/CabSettings) # where Debian's Qt looks for modules
     install(TARGETS CabQuickPlugin LIBRARY DESTINATION ${_qml_dir})
     install(FILES quick/plugin/qmldir DESTINATION ${_qml_dir})
+    install(TARGETS cabdisplay)
+    install(FILES apps/display/install/cabdisplay.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+    install(FILES apps/display/install/cabdisplay.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+    install(FILES ${PROJECT_BINARY_DIR}/apps/display/cabdisplay.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)
 endif()
 
 configure_package_config_file(cmake/CabSettingsConfig.cmake.in CabSettingsConfig.cmake
