@@ -24,6 +24,9 @@ QString LibarchiveVersion() { return QString::fromLatin1(archive_version_string(
 
 QString LibnovaVersion() { return QLatin1String(ln_get_version()); }
 
+/// Of a library that does not tell its version.
+QString UnknownVersion() { return QString(); }
+
 struct tagLibrary
 {
     const char* name;
@@ -38,6 +41,7 @@ constexpr tagLibrary Libraries[] = {
     {"JsonCpp", JsonCppVersion, "MIT", "Profiles of settings"},
     {"libarchive", LibarchiveVersion, "BSD-2-Clause", "Files for support"},
     {"libnova", LibnovaVersion, "LGPL-2.0-or-later", "Sunrise and sunset"},
+    {"Shapelib", UnknownVersion, "MIT OR LGPL-2.0-or-later", "Boundaries and zones"},
 };
 
 } // namespace

@@ -9,7 +9,8 @@
 struct tagUsedLibrary
 {
     const char* name;
-    QString version;     ///< as the library that is loaded tells it; of JsonCpp, the one that was built with
+    QString version;     ///< as the library that is loaded tells it; of JsonCpp, the one that was built with; empty for
+                         ///< Shapelib
     const char* licence; ///< by its SPDX identifier, or "public domain"
     const char* use;     ///< what it is used for, in English, for translation
 };

@@ -16,6 +16,7 @@ namespace {
     QT_TRANSLATE_NOOP("About", "Profiles of settings"),
     QT_TRANSLATE_NOOP("About", "Files for support"),
     QT_TRANSLATE_NOOP("About", "Sunrise and sunset"),
+    QT_TRANSLATE_NOOP("About", "Boundaries and zones"),
 };
 
 QString Translated(const char* text) { return QCoreApplication::translate("About", text); }

@@ -12,8 +12,8 @@
 class TProblems;
 class TSqliteStore;
 
-/// Looks every second for what goes wrong without anyone who would say it: a drive that is nearly full, logs that lose
-/// lines, settings that are not on the disk. Tries to write these again.
+/// Looks every second for problems that no other class reports: a drive that is nearly full, logs that lose lines,
+/// settings that are not on the disk. Tries to write these again.
 class TProblemWatch : public QObject
 {
     Q_OBJECT

@@ -63,7 +63,7 @@ public:
     Q_INVOKABLE QStringList list(const QString& kind) const;
 
 signals:
-    /// At least one of the names has changed, by whomever.
+    /// At least one of the names has changed, by this or another program.
     void changed();
     void errorChanged();
 
