@@ -1,0 +1,106 @@
+#include "support/TOpenDisplay.h"
+#include "support/VisibleItems.h"
+
+#include <QtTest>
+
+/// What a finger is to hit on any page is large enough, and apart from what is beside it.
+class PageTargets : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void areLargeEnough_data();
+    void areLargeEnough();
+    void areApart_data();
+    void areApart();
+    void allHaveNames();
+};
+
+namespace {
+
+/// On a screen of 160 dots per inch.
+const double LeastSize = 76;
+const double LeastGap = 8;
+
+/// Places are at fractions of a pixel.
+const double Tolerance = 0.51;
+
+void AddSizes()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1024x768") << QSize(1024, 768);
+    QTest::newRow("1280x800") << QSize(1280, 800);
+    QTest::newRow("1920x1200") << QSize(1920, 1200);
+}
+
+/// How far two places are from each other; 0 when they overlap.
+double Gap(const QRectF& first, const QRectF& second)
+{
+    const double across = std::max(first.left() - second.right(), second.left() - first.right());
+    const double along = std::max(first.top() - second.bottom(), second.top() - first.bottom());
+    return std::max(0.0, std::max(across, along));
+}
+
+} // namespace
+
+void PageTargets::areLargeEnough_data() { AddSizes(); }
+
+void PageTargets::areLargeEnough()
+{
+    QFETCH(QSize, size);
+    TOpenDisplay display(size);
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    QStringList found;
+    for (const QString& page : TOpenDisplay::Pages()) {
+        display.ShowPage(page);
+        const QList<QQuickItem*> targets = VisibleItems::Targets(display.Content());
+        QVERIFY(!targets.isEmpty());
+        for (const QQuickItem* target : targets) {
+            const QRectF whole = VisibleItems::WholePart(*target);
+            if (std::min(whole.width(), whole.height()) < LeastSize - Tolerance)
+                found.append(page + QLatin1String(": ") + VisibleItems::Describe(*target));
+        }
+    }
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void PageTargets::areApart_data() { AddSizes(); }
+
+void PageTargets::areApart()
+{
+    QFETCH(QSize, size);
+    TOpenDisplay display(size);
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    QStringList found;
+    for (const QString& page : TOpenDisplay::Pages()) {
+        display.ShowPage(page);
+        const QList<QQuickItem*> targets = VisibleItems::Targets(display.Content());
+        for (int first = 0; first < targets.size(); ++first) {
+            for (int second = first + 1; second < targets.size(); ++second) {
+                const QRectF one = VisibleItems::SeenPart(*targets.at(first));
+                const QRectF other = VisibleItems::SeenPart(*targets.at(second));
+                // A button that lies on a larger target, such as the map, is hit first.
+                const bool isOnTop = one.contains(other);
+                if (!isOnTop && Gap(one, other) < LeastGap - Tolerance)
+                    found.append(page + QLatin1String(": ") + VisibleItems::Describe(*targets.at(first)) +
+                                 QLatin1String(" and ") + VisibleItems::Describe(*targets.at(second)));
+            }
+        }
+    }
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void PageTargets::allHaveNames()
+{
+    TOpenDisplay display(QSize(1280, 800));
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    for (const QString& page : TOpenDisplay::Pages()) {
+        display.ShowPage(page);
+        for (const QQuickItem* target : VisibleItems::Targets(display.Content()))
+            QVERIFY2(!VisibleItems::NameOf(*target).isEmpty(),
+                     qPrintable(page + QLatin1String(": ") + VisibleItems::Describe(*target)));
+    }
+}
+
+QTEST_MAIN(PageTargets)
+#include "PageTargets.moc"

@@ -1,0 +1,110 @@
+#include "support/TOpenDisplay.h"
+#include "support/VisibleItems.h"
+
+#include <QGuiApplication>
+#include <QTranslator>
+#include <QtTest>
+
+/// All texts of all pages can be read: none is elided, cut off or small.
+class PageTexts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noneIsCutOff_data();
+    void noneIsCutOff();
+    void longerWordsAreNotCutOff_data();
+    void longerWordsAreNotCutOff();
+    void allAreLargeEnough();
+};
+
+namespace {
+
+const QSize Sizes[] = {QSize(800, 480), QSize(1280, 800), QSize(1920, 1200), QSize(800, 1280)};
+
+/// The smallest text of a screen from 1024 pixels on.
+const int LeastText = 24;
+
+void AddSizes()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize& size : Sizes)
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
+}
+
+/// A language whose words are longer by a third.
+class TLongerWords : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        const QString word = QString::fromUtf8(text);
+        const int share = 3;
+        // Places of values stay; so do signs and abbreviations, which no language writes longer.
+        const int shortest = 4;
+        return word.size() < shortest ? word : word + QString(word.size() / share, QLatin1Char('n'));
+    }
+};
+
+QStringList CutOff(TOpenDisplay& display)
+{
+    QStringList found;
+    for (const QString& page : TOpenDisplay::Pages()) {
+        display.ShowPage(page);
+        const QList<QQuickItem*> texts = VisibleItems::Texts(display.Content());
+        if (texts.isEmpty())
+            found.append(page + QLatin1String(": no text at all"));
+        for (const QQuickItem* text : texts) {
+            const QString problem = VisibleItems::WhatIsCutOff(*text);
+            if (!problem.isEmpty())
+                found.append(page + QLatin1String(": ") + VisibleItems::Describe(*text) + QLatin1String(" is ") +
+                             problem);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+void PageTexts::noneIsCutOff_data() { AddSizes(); }
+
+void PageTexts::noneIsCutOff()
+{
+    QFETCH(QSize, size);
+    TOpenDisplay display(size);
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    const QStringList found = CutOff(display);
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void PageTexts::longerWordsAreNotCutOff_data() { AddSizes(); }
+
+void PageTexts::longerWordsAreNotCutOff()
+{
+    QFETCH(QSize, size);
+    TLongerWords longer;
+    QVERIFY(QCoreApplication::installTranslator(&longer));
+    TOpenDisplay display(size);
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    const QStringList found = CutOff(display);
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+void PageTexts::allAreLargeEnough()
+{
+    TOpenDisplay display(QSize(1280, 800));
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    for (const QString& page : TOpenDisplay::Pages()) {
+        display.ShowPage(page);
+        for (const QQuickItem* text : VisibleItems::Texts(display.Content())) {
+            const int size = VisibleItems::ShownSize(*text);
+            QVERIFY2(size >= LeastText, qPrintable(page + QLatin1String(": ") + VisibleItems::Describe(*text) +
+                                                   QString::fromLatin1(" has letters of %1").arg(size)));
+        }
+    }
+}
+
+QTEST_MAIN(PageTexts)
+#include "PageTexts.moc"

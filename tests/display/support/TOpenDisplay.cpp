@@ -1,0 +1,195 @@
+#include "TOpenDisplay.h"
+
+#include "TTemporaryFolder.h"
+#include "VisibleItems.h"
+
+#include "display/session/TDisplaySession.h"
+#include "display/shot/PageTable.h"
+#include "parameters/TParameterCatalogue.h"
+#include "stores/TSqliteStore.h"
+
+#include <QGuiApplication>
+#include <QQuickItemGrabResult>
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+
+QStringList& Complaints()
+{
+    static QStringList complaints;
+    return complaints;
+}
+
+QtMessageHandler BeforeComplaints = nullptr;
+
+void Complain(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    // Of the platform without a screen, not of the display.
+    const bool isOfPlatform = text.startsWith(QLatin1String("This plugin does not support"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isOfPlatform)
+        Complaints().append(text);
+    BeforeComplaints(type, context, text);
+}
+
+/// The rows of lists belong to their list as items only, not as objects.
+void AddQuantities(const QQuickItem& item, QStringList& texts)
+{
+    for (const QObject* object : item.findChildren<QObject*>()) {
+        if (object->inherits("TQuantity"))
+            texts << object->property("text").toString() << object->property("unit").toString();
+    }
+    for (const QQuickItem* child : item.childItems())
+        AddQuantities(*child, texts);
+}
+
+} // namespace
+
+struct TOpenDisplay::tagState
+{
+    explicit tagState(const QSize& itsSize) : size(itsSize) {}
+
+    TTemporaryFolder folder;
+    QSize size;
+    QString problem;
+    std::unique_ptr<TDisplaySession> session;
+
+    QQuickWindow* Window() const { return session ? session->Window() : nullptr; }
+};
+
+TOpenDisplay::TOpenDisplay(const QSize& size) : m_State(std::make_unique<tagState>(size))
+{
+    Complaints().clear();
+    BeforeComplaints = qInstallMessageHandler(Complain);
+    Start();
+}
+
+TOpenDisplay::~TOpenDisplay()
+{
+    Stop();
+    qInstallMessageHandler(BeforeComplaints);
+}
+
+bool TOpenDisplay::Start()
+{
+    tagState& state = *m_State;
+    static const bool isSoftware = [] {
+        QQuickWindow::setSceneGraphBackend(QLatin1String("software"));
+        return true;
+    }();
+    Q_UNUSED(isSoftware)
+    tagDisplayOptions options;
+    options.dataFolder = state.folder.Path();
+    options.size = state.size;
+    state.session = std::make_unique<TDisplaySession>();
+    if (!state.session->Start(options, &state.problem) || !state.session->OpenWindow(options, &state.problem))
+        return false;
+    QQuickWindow& window = *state.Window();
+    window.show();
+    return QTest::qWaitForWindowExposed(&window);
+}
+
+void TOpenDisplay::Stop() { m_State->session.reset(); }
+
+void TOpenDisplay::Restart()
+{
+    Stop();
+    Start();
+}
+
+bool TOpenDisplay::IsOpen() const { return m_State->Window(); }
+QString TOpenDisplay::Problem() const { return m_State->problem; }
+QString TOpenDisplay::DataFolder() const { return m_State->folder.Path(); }
+QQuickWindow& TOpenDisplay::Window() const { return *m_State->Window(); }
+QQuickItem& TOpenDisplay::Content() const { return *m_State->Window()->contentItem(); }
+QStringList TOpenDisplay::Warnings() const { return Complaints(); }
+
+QStringList TOpenDisplay::Pages() { return PageNames(); }
+
+void TOpenDisplay::ShowPage(const QString& page)
+{
+    const tagPage* const row = FindPage(page);
+    QVERIFY(row);
+    QObject* const display = m_State->Window()->findChild<QObject*>(QLatin1String("display"));
+    QMetaObject::invokeMethod(display, "open", Q_ARG(QVariant, QString::fromLatin1(row->door)),
+                              Q_ARG(QVariant, QString::fromLatin1(row->section)));
+    Settle();
+}
+
+void TOpenDisplay::Settle() const
+{
+    // A frame makes the rows of lists, which then find their places for the next one.
+    const int frames = 2;
+    const int patience = 2000;
+    for (int frame = 0; frame < frames; ++frame) {
+        QSignalSpy drawn(m_State->Window(), &QQuickWindow::frameSwapped);
+        m_State->Window()->update();
+        drawn.wait(patience);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+}
+
+QStringList TOpenDisplay::QuantityTexts() const
+{
+    QStringList texts;
+    AddQuantities(Content(), texts);
+    return texts;
+}
+
+void TOpenDisplay::Resize(const QSize& size)
+{
+    m_State->size = size;
+    m_State->Window()->resize(size);
+    Settle();
+}
+
+QVariant TOpenDisplay::Parameter(const QString& name) const
+{
+    return m_State->session->Store().GetParameter(TParameterCatalogue::Find(name)->id);
+}
+
+void TOpenDisplay::SetParameter(const QString& name, const QVariant& value)
+{
+    m_State->session->Store().SetParameter(TParameterCatalogue::Find(name)->id, value, true);
+    Settle();
+}
+
+QImage TOpenDisplay::Picture()
+{
+    Settle();
+    const QSharedPointer<QQuickItemGrabResult> grab = Content().grabToImage();
+    if (!grab)
+        return QImage();
+    QSignalSpy ready(grab.data(), &QQuickItemGrabResult::ready);
+    const int patience = 10000;
+    return ready.wait(patience) || !grab->image().isNull() ? grab->image() : QImage();
+}
+
+bool TOpenDisplay::Tap(const QString& name)
+{
+    const QQuickItem* const target = VisibleItems::Target(Content(), name);
+    if (!target)
+        return false;
+    Tap(VisibleItems::SeenPart(*target).center());
+    return true;
+}
+
+void TOpenDisplay::Tap(const QPointF& place)
+{
+    QTest::mouseClick(m_State->Window(), Qt::LeftButton, Qt::NoModifier, place.toPoint());
+    Settle();
+}
+
+void TOpenDisplay::Type(const QString& text)
+{
+    for (const QChar letter : text)
+        QTest::sendKeyEvent(QTest::Click, m_State->Window(), Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    Settle();
+}
+
+void TOpenDisplay::Press(Qt::Key key)
+{
+    QTest::keyClick(m_State->Window(), key);
+    Settle();
+}

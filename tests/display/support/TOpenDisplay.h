@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QImage>
+#include <QPointF>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <memory>
+
+/// The real display in a window of a test: a terminal of its own in a folder that is removed at the end, and the pages
+/// of the program. Works offscreen, on the software renderer.
+///
+/// @code
+/// TOpenDisplay display(QSize(1280, 800));
+/// QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+/// display.ShowPage(QLatin1String("settings-units"));
+/// QVERIFY(display.Tap(QLatin1String("Acre")));
+/// @endcode
+///
+/// One at a time.
+class TOpenDisplay
+{
+public:
+    explicit TOpenDisplay(const QSize& size);
+    ~TOpenDisplay();
+
+    TOpenDisplay(const TOpenDisplay&) = delete;
+    TOpenDisplay& operator=(const TOpenDisplay&) = delete;
+
+    bool IsOpen() const;
+    QString Problem() const;
+
+    /// All pages by the names of the command line: "work", "settings-units"...
+    static QStringList Pages();
+    void ShowPage(const QString& page);
+
+    void Resize(const QSize& size);
+
+    /// Ends the terminal and starts it again in the same folder, with the same pages.
+    void Restart();
+
+    QVariant Parameter(const QString& name) const;
+    void SetParameter(const QString& name, const QVariant& value);
+
+    /// The texts and units of all quantities of the pages that exist now.
+    QStringList QuantityTexts() const;
+
+    QString DataFolder() const;
+    QQuickWindow& Window() const;
+
+    /// What holds everything that is drawn.
+    QQuickItem& Content() const;
+
+    /// What is drawn now, in the pixels of the window.
+    QImage Picture();
+
+    /// Taps the target with this name, or a place of the window. False when there is no such target.
+    bool Tap(const QString& name);
+    void Tap(const QPointF& place);
+
+    /// Presses and releases keys.
+    void Type(const QString& text);
+    void Press(Qt::Key key);
+
+    /// Everything that Qt and QML have complained of since the start, and what was said to be expected taken out.
+    QStringList Warnings() const;
+
+private:
+    struct tagState;
+
+    bool Start();
+    void Settle() const;
+    void Stop();
+
+    std::unique_ptr<tagState> m_State;
+};
