@@ -34,7 +34,7 @@ public:
     TCoverageTally(const TCoverageTally&) = delete;
     TCoverageTally& operator=(const TCoverageTally&) = delete;
 
-    /// Takes about a microsecond for ten square metres. Does nothing when a corner is not a number, or farther from the
+    /// Takes some microseconds for a strip of 12 m. Does nothing when a corner is not a number, or farther from the
     /// origin than 1000 km, or from another corner than 1 km.
     void Add(const tagCoverageStrip& strip);
 

@@ -119,5 +119,5 @@ void ImplementStrips::theFrontStaysInFrontWhenDrivingBack()
     QCOMPARE(HeadingAfter(300, 125), 305.0);
 }
 
-QTEST_APPLESS_MAIN(ImplementStrips)
+QTEST_GUILESS_MAIN(ImplementStrips)
 #include "ImplementStrips.moc"

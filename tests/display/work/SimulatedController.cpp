@@ -105,5 +105,5 @@ void SimulatedController::theSameDriveGivesTheSameValues()
         QCOMPARE(one.Advance(Step, 2.8, Width, true).rate, other.Advance(Step, 2.8, Width, true).rate);
 }
 
-QTEST_APPLESS_MAIN(SimulatedController)
+QTEST_GUILESS_MAIN(SimulatedController)
 #include "SimulatedController.moc"

@@ -291,7 +291,7 @@ void WorkOnField::figuresFollowAtTheirOwnPace()
     room.Drive(100);
     QCOMPARE(moved.count(), 100);
     QVERIFY(figures.count() < 50);
-    const int before = figures.count();
+    const auto before = figures.count();
     QTRY_VERIFY(figures.count() > before); // what came last is told too
 }
 

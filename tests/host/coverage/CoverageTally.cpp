@@ -152,5 +152,5 @@ void CoverageTally::clearForgetsAll()
     Compare(tally.Area(), 24 * 28, 0.001);
 }
 
-QTEST_APPLESS_MAIN(CoverageTally)
+QTEST_GUILESS_MAIN(CoverageTally)
 #include "CoverageTally.moc"

@@ -95,5 +95,5 @@ void LineOffsets::farPlacesHaveALine()
     QCOMPARE(offset.line, std::numeric_limits<int>::max());
 }
 
-QTEST_APPLESS_MAIN(LineOffsets)
+QTEST_GUILESS_MAIN(LineOffsets)
 #include "LineOffsets.moc"

@@ -65,5 +65,5 @@ void LocalPlane::distancesAreThoseOfTheEllipsoid()
     QVERIFY(std::abs(north.east) < 1e-6);
 }
 
-QTEST_APPLESS_MAIN(LocalPlane)
+QTEST_GUILESS_MAIN(LocalPlane)
 #include "LocalPlane.moc"
