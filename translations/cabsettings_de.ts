@@ -1699,4 +1699,283 @@
         <translation>Das neue Dezimalzeichen gilt nach einem Neustart.</translation>
     </message>
 </context>
+<context>
+    <name>Receiver</name>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbindet</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Empfängt</translation>
+    </message>
+    <message>
+        <source>Silent</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Verloren</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Beendet</translation>
+    </message>
+    <message>
+        <source>No fix</source>
+        <translation>Keine Position</translation>
+    </message>
+    <message>
+        <source>RTK float</source>
+        <translation>RTK Float</translation>
+    </message>
+    <message>
+        <source>Estimated</source>
+        <translation>Geschätzt</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>Simulated</source>
+        <translation>Simuliert</translation>
+    </message>
+    <message>
+        <source>The receiver sends nothing.</source>
+        <translation>Der Empfänger sendet nichts.</translation>
+    </message>
+    <message>
+        <source>The receiver is lost and is being looked for: %1.</source>
+        <translation>Der Empfänger ist verloren und wird gesucht: %1.</translation>
+    </message>
+    <message>
+        <source>The receiver cannot be read: %1.</source>
+        <translation>Der Empfänger kann nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>The simulated field is done.</source>
+        <translation>Das simulierte Feld ist fertig.</translation>
+    </message>
+    <message>
+        <source>The recording of the receiver is over.</source>
+        <translation>Die Aufzeichnung des Empfängers ist zu Ende.</translation>
+    </message>
+</context>
+<context>
+    <name>Clock</name>
+    <message>
+        <source>The clock of the machine; nothing has set it.</source>
+        <translation>Die Uhr des Geräts; sie wurde nicht gestellt.</translation>
+    </message>
+    <message>
+        <source>The clock was set by hand.</source>
+        <translation>Die Uhr wurde von Hand gestellt.</translation>
+    </message>
+    <message>
+        <source>The receiver sets the clock.</source>
+        <translation>Der Empfänger stellt die Uhr.</translation>
+    </message>
+    <message>
+        <source>There is no such date or time.</source>
+        <translation>Dieses Datum oder diese Zeit gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The date is more than 68 years from the clock of the machine.</source>
+        <translation>Das Datum liegt mehr als 68 Jahre von der Uhr des Geräts entfernt.</translation>
+    </message>
+    <message>
+        <source>The clock could not be stored.</source>
+        <translation>Die Uhrzeit konnte nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Drives</name>
+    <message>
+        <source>%1 free of %2</source>
+        <translation>%1 frei von %2</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>No stick</source>
+        <translation>Kein Stick</translation>
+    </message>
+</context>
+<context>
+    <name>Problems</name>
+    <message>
+        <source>Recording is off, because there is too little room.</source>
+        <translation>Die Aufzeichnung ist aus, weil zu wenig Platz ist.</translation>
+    </message>
+    <message>
+        <source>Changes of settings are not stored yet: %1.</source>
+        <translation>Änderungen der Einstellungen sind noch nicht gespeichert: %1.</translation>
+    </message>
+    <message>
+        <source>The drive of the terminal is nearly full: %1 are free.</source>
+        <translation>Das Laufwerk des Terminals ist fast voll: %1 sind frei.</translation>
+    </message>
+    <message>
+        <source>The logs lose lines: their drive is full or cannot be written.</source>
+        <translation>Die Protokolle verlieren Zeilen: ihr Laufwerk ist voll oder kann nicht beschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Transfer</name>
+    <message>
+        <source>No stick is plugged in.</source>
+        <translation>Es steckt kein Stick.</translation>
+    </message>
+    <message>
+        <source>The stick was removed before everything was on it.</source>
+        <translation>Der Stick wurde entfernt, bevor alles darauf war.</translation>
+    </message>
+    <message>
+        <source>The stick could not be written to the end.</source>
+        <translation>Der Stick konnte nicht zu Ende beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The logs are on the stick (files: %1).</source>
+        <translation>Die Protokolle sind auf dem Stick (Dateien: %1).</translation>
+    </message>
+    <message>
+        <source>The profile cannot be used: %1.</source>
+        <translation>Das Profil kann nicht verwendet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported: %1.</source>
+        <translation>Nichts wurde übernommen: %1.</translation>
+    </message>
+    <message>
+        <source>This display</source>
+        <translation>Dieses Terminal</translation>
+    </message>
+    <message>
+        <source>Another display</source>
+        <translation>Ein anderes Terminal</translation>
+    </message>
+    <message>
+        <source>The profile is not on the stick: %1.</source>
+        <translation>Das Profil ist nicht auf dem Stick: %1.</translation>
+    </message>
+    <message>
+        <source>The profile is on the stick: %1.</source>
+        <translation>Das Profil ist auf dem Stick: %1.</translation>
+    </message>
+    <message>
+        <source>The file for support is not on the stick: %1.</source>
+        <translation>Die Datei für den Kundendienst ist nicht auf dem Stick: %1.</translation>
+    </message>
+    <message>
+        <source>The file for support is on the stick: %1.</source>
+        <translation>Die Datei für den Kundendienst ist auf dem Stick: %1.</translation>
+    </message>
+    <message>
+        <source>The profile is imported (settings changed: %1).</source>
+        <translation>Das Profil ist übernommen (geänderte Einstellungen: %1).</translation>
+    </message>
+    <message>
+        <source>Nothing is imported: some settings were changed here and in the profile.</source>
+        <translation>Nichts wurde übernommen: einige Einstellungen wurden hier und im Profil geändert.</translation>
+    </message>
+    <message>
+        <source>It cannot be used.</source>
+        <translation>Es kann nicht verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>About</name>
+    <message>
+        <source>Windows, files and connections</source>
+        <translation>Fenster, Dateien und Verbindungen</translation>
+    </message>
+    <message>
+        <source>The file of the settings</source>
+        <translation>Die Datei der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Profiles of settings</source>
+        <translation>Profile der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Files for support</source>
+        <translation>Dateien für den Kundendienst</translation>
+    </message>
+    <message>
+        <source>Sunrise and sunset</source>
+        <translation>Sonnenauf- und -untergang</translation>
+    </message>
+    <message>
+        <source>Boundaries and zones</source>
+        <translation>Grenzen und Zonen</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>The software of this display</source>
+        <translation>Die Software dieses Terminals</translation>
+    </message>
+    <message>
+        <source>Settings, units and logs</source>
+        <translation>Einstellungen, Einheiten und Protokolle</translation>
+    </message>
+</context>
+<context>
+    <name>TFieldTreeModel</name>
+    <message>
+        <source>The selection could not be stored.</source>
+        <translation>Die Auswahl konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>A job holds no items.</source>
+        <translation>Ein Auftrag enthält nichts weiter.</translation>
+    </message>
+    <message>
+        <source>There is one with this name already.</source>
+        <translation>Diesen Namen gibt es schon.</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 Datei, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 Dateien, %2</translation>
+    </message>
+</context>
+<context>
+    <name>TTransfer</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+    <message>
+        <source>The name %1.</source>
+        <translation>Der Name geht nicht: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>TSelections</name>
+    <message>
+        <source>The selection could not be stored.</source>
+        <translation>Die Auswahl konnte nicht gespeichert werden.</translation>
+    </message>
+</context>
 </TS>

@@ -27,6 +27,9 @@ const int HysteresisPart = 10;
 /// A loss of lines is said until so many looks have found no further one.
 const int LooksOfLoss = 5;
 
+const char* const LogsText =
+    QT_TRANSLATE_NOOP("Problems", "The logs lose lines: their drive is full or cannot be written.");
+
 QString Translated(const char* text) { return QCoreApplication::translate("Problems", text); }
 
 } // namespace
@@ -95,7 +98,5 @@ void TProblemWatch::TakeLogs(const tagLook& look)
 {
     m_LooksSinceLoss = look.lostLines > m_LostLines ? 0 : m_LooksSinceLoss + 1;
     m_LostLines = look.lostLines;
-    m_Problems.Keep(QLatin1String("logs"), look.hasFailedLog || m_LooksSinceLoss < LooksOfLoss,
-                    Translated(QT_TRANSLATE_NOOP("Problems", "The logs lose lines: their drive is full or cannot be "
-                                                             "written.")));
+    m_Problems.Keep(QLatin1String("logs"), look.hasFailedLog || m_LooksSinceLoss < LooksOfLoss, Translated(LogsText));
 }

@@ -28,6 +28,9 @@ namespace {
 
 const QLatin1String ProfileExtension(".profile");
 
+const char* const ConflictText =
+    QT_TRANSLATE_NOOP("Transfer", "Nothing is imported: some settings were changed here and in the profile.");
+
 QString Translated(const char* text) { return QCoreApplication::translate("Transfer", text); }
 
 tagTransferResult Failed(const QString& text) { return {false, text, {}, {}}; }
@@ -216,8 +219,7 @@ tagTransferResult TransferJobs::ImportProfile(TSqliteStore& store, const QString
     result.text = result.isDone
                       ? Translated(QT_TRANSLATE_NOOP("Transfer", "The profile is imported (settings changed: %1)."))
                             .arg(QString::number(result.changes.size()))
-                      : Translated(QT_TRANSLATE_NOOP("Transfer", "Nothing is imported: some settings were changed here "
-                                                                 "and in the profile."));
+                      : Translated(ConflictText);
     return result;
 }
 

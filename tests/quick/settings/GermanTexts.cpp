@@ -6,7 +6,7 @@
 #include <QRegularExpression>
 #include <QTranslator>
 
-/// On a German display, nothing of the settings is left in English.
+/// On a German display, nothing of the module is left in English.
 class GermanTexts : public QObject
 {
     Q_OBJECT
@@ -29,8 +29,11 @@ void GermanTexts::initTestCase() { QVERIFY(m_German.load(QLatin1String(":/transl
 void GermanTexts::everyTextIsTranslated_data()
 {
     QTest::addColumn<QString>("source");
-    for (const char* source : {"settings/ParameterTexts.cpp", "settings/ParameterTitles.cpp", "settings/TParameter.cpp",
-                               "settings/TRestart.cpp", "quantities/Quantities.cpp"})
+    for (const char* source :
+         {"settings/ParameterTexts.cpp", "settings/ParameterTitles.cpp", "settings/TParameter.cpp",
+          "settings/TRestart.cpp", "quantities/Quantities.cpp", "receiver/ReceiverTexts.cpp", "terminal/TAbout.cpp",
+          "terminal/TClock.cpp", "terminal/TDrives.cpp", "terminal/TProblemWatch.cpp", "terminal/TSelections.cpp",
+          "fields/TFieldTreeModel.cpp", "transfer/TTransfer.cpp", "transfer/TransferJobs.cpp"})
         QTest::newRow(source) << QString::fromLatin1(source);
 }
 
