@@ -21,6 +21,7 @@ Item {
     MapView {
         id: map
 
+        objectName: "map"
         anchors.fill: parent
         model: Work.map
         free: page.free

@@ -1,0 +1,239 @@
+#include "TTemporaryFolder.h"
+
+#include "display/map/TMapModel.h"
+#include "display/session/TDisplaySession.h"
+#include "display/work/DemoField.h"
+#include "display/work/TWork.h"
+
+#include "module/CabQuick.h"
+#include "nmea/TFieldSimulator.h"
+#include "parameters/HostParameters.h"
+#include "platform/EParamID.h"
+#include "receiver/SimulatedField.h"
+#include "receiver/TReceiver.h"
+#include "stores/TSqliteStore.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest>
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+/// What a Repeater or a Loader has made is a child for the eye alone. Hidden items are not found.
+QQuickItem* Below(QQuickItem* item, const QString& name)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    for (QQuickItem* const child : item->childItems()) {
+        if (QQuickItem* const found = Below(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// The work page: one tap each for what is done while driving, and a screen that can be locked.
+class WorkPageTaps : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void dayAndNightChangeByOneTap();
+    void theMapZoomsAndTurns();
+    void aLineIsSetAndFollowed();
+    void aFlagIsSet();
+    void workingIsSwitched();
+    void aTileOpensTheChoiceOfTiles();
+    void theTilesAreTheOperators();
+    void aLockedScreenTakesNoTaps();
+    void everySizeShowsWhatIsNeeded_data();
+    void everySizeShowsWhatIsNeeded();
+
+private:
+    QQuickItem* Find(const char* name) const { return Below(m_Session->Window()->contentItem(), QLatin1String(name)); }
+    void Tap(const char* name) const;
+    void Drive(int epochs);
+    QQuickItem* Display() const { return Find("display"); }
+
+    std::unique_ptr<TTemporaryFolder> m_Folder;
+    std::unique_ptr<TDisplaySession> m_Session;
+    std::unique_ptr<TFieldSimulator> m_Simulator;
+    TWork* m_Work = nullptr;
+};
+
+void WorkPageTaps::initTestCase()
+{
+    qputenv("QT_QUICK_BACKEND", "software");
+    m_Folder = std::make_unique<TTemporaryFolder>();
+    tagDisplayOptions options;
+    options.dataFolder = m_Folder->Path();
+    m_Session = std::make_unique<TDisplaySession>();
+    QString error;
+    QVERIFY2(m_Session->Start(options, &error), qPrintable(error));
+    QVERIFY2(m_Session->OpenWindow(options, &error), qPrintable(error));
+    QVERIFY2(MakeDemoField(m_Session->Engine(), &error), qPrintable(error));
+    QVERIFY(QTest::qWaitForWindowExposed(m_Session->Window()));
+    m_Work = TWork::Of(m_Session->Engine());
+    QTRY_VERIFY(!m_Work->IsLoading());
+    m_Simulator = std::make_unique<TFieldSimulator>(CabQuick::SimulatedPlan());
+    Drive(100);
+    QVERIFY(m_Work->HasPosition());
+}
+
+void WorkPageTaps::Drive(int epochs)
+{
+    for (int epoch = 0; epoch < epochs; ++epoch)
+        CabQuick::Receiver().Show(m_Simulator->NextEpoch());
+}
+
+void WorkPageTaps::Tap(const char* name) const
+{
+    const QQuickItem* const item = Find(name);
+    QVERIFY2(item, name);
+    const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(m_Session->Window(), Qt::LeftButton, Qt::NoModifier, middle.toPoint());
+}
+
+void WorkPageTaps::dayAndNightChangeByOneTap()
+{
+    const bool wasDay = m_Session->Store().GetParameter(PARAM_DAY_MODE).toBool();
+    Tap("dayNight");
+    QTRY_COMPARE(m_Session->Store().GetParameter(PARAM_DAY_MODE).toBool(), !wasDay);
+    Tap("dayNight");
+    QTRY_COMPARE(m_Session->Store().GetParameter(PARAM_DAY_MODE).toBool(), wasDay);
+}
+
+void WorkPageTaps::theMapZoomsAndTurns()
+{
+    QQuickItem* const map = Find("map");
+    QVERIFY(map);
+    const int zoom = map->property("zoom").toInt();
+    Tap("zoomIn");
+    QCOMPARE(map->property("zoom").toInt(), zoom + 1);
+    Tap("zoomOut");
+    QCOMPARE(map->property("zoom").toInt(), zoom);
+    Tap("turn");
+    QTRY_COMPARE(map->property("headingUp").toBool(), false);
+    QCOMPARE(m_Session->Store().GetParameter(PARAM_HEADING_UP).toBool(), false);
+    Tap("turn");
+    QTRY_COMPARE(map->property("headingUp").toBool(), true);
+    QMetaObject::invokeMethod(map, "pan", Q_ARG(double, 80.0), Q_ARG(double, 40.0));
+    QCOMPARE(map->property("follow").toBool(), false);
+    Tap("recentre");
+    QCOMPARE(map->property("follow").toBool(), true);
+}
+
+void WorkPageTaps::aLineIsSetAndFollowed()
+{
+    m_Work->clearLine();
+    QVERIFY(!m_Work->HasLine());
+    QVERIFY(!Find("lightBar"));
+    Tap("setA");
+    QVERIFY(m_Work->HasA());
+    Drive(200);
+    Tap("setB");
+    QVERIFY(m_Work->HasLine());
+    QVERIFY(Find("lightBar"));
+    QVERIFY(qAbs(m_Work->OffLine()) < 0.05);
+}
+
+void WorkPageTaps::aFlagIsSet()
+{
+    auto* const model = static_cast<TMapModel*>(m_Work->Map());
+    const auto before = model->Flags().size();
+    Tap("mark");
+    QCOMPARE(model->Flags().size(), before + 1);
+}
+
+void WorkPageTaps::workingIsSwitched()
+{
+    QVERIFY(!m_Work->IsWorking());
+    Tap("working");
+    QVERIFY(m_Work->IsWorking());
+    auto* const model = static_cast<TMapModel*>(m_Work->Map());
+    const auto before = model->Strips().size();
+    Drive(50);
+    QVERIFY(model->Strips().size() > before);
+    Tap("working");
+    QVERIFY(!m_Work->IsWorking());
+}
+
+void WorkPageTaps::aTileOpensTheChoiceOfTiles()
+{
+    Tap("tile.speed");
+    QCOMPARE(Display()->property("page").toString(), QLatin1String("settings"));
+    QCOMPARE(Display()->property("section").toString(), QLatin1String("tiles"));
+    Tap("door.work");
+    QCOMPARE(Display()->property("page").toString(), QLatin1String("work"));
+}
+
+void WorkPageTaps::theTilesAreTheOperators()
+{
+    QVERIFY(Find("tile.rate") && Find("tile.left") && !Find("tile.position"));
+    m_Session->Store().SetParameter(PARAM_TILES, QLatin1String("position,time,speed"), true);
+    QTRY_VERIFY(Find("tile.position"));
+    QVERIFY(Find("tile.time") && Find("tile.speed") && !Find("tile.rate") && !Find("tile.left"));
+    QVERIFY(Find("tile.position")->y() <= Find("tile.time")->y());
+    m_Session->Store().SetParameter(PARAM_TILES, QLatin1String("rate,speed,area,productivity,flow,pressure,left"),
+                                    true);
+    QTRY_VERIFY(Find("tile.left"));
+}
+
+void WorkPageTaps::aLockedScreenTakesNoTaps()
+{
+    Tap("lock");
+    QVERIFY(Find("unlock"));
+    Tap("working");
+    Tap("door.logs");
+    QVERIFY(!m_Work->IsWorking());
+    QCOMPARE(Display()->property("page").toString(), QLatin1String("work"));
+    Tap("unlock"); // too short
+    QVERIFY(Find("unlock"));
+    const QQuickItem* const button = Find("unlock");
+    const QPoint place = button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint();
+    QTest::mousePress(m_Session->Window(), Qt::LeftButton, Qt::NoModifier, place);
+    QTRY_VERIFY(!Find("unlock"));
+    QTest::mouseRelease(m_Session->Window(), Qt::LeftButton, Qt::NoModifier, place);
+    Tap("door.logs");
+    QCOMPARE(Display()->property("page").toString(), QLatin1String("logs"));
+    Tap("door.work");
+}
+
+void WorkPageTaps::everySizeShowsWhatIsNeeded_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize& size : {QSize(800, 480), QSize(1024, 600), QSize(800, 1280), QSize(1280, 800), QSize(1920, 1200)})
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
+}
+
+/// Nothing of what is tapped while driving lies outside of the window, over something else, or is too small.
+void WorkPageTaps::everySizeShowsWhatIsNeeded()
+{
+    QFETCH(const QSize, size);
+    m_Session->Window()->resize(size);
+    QTRY_COMPARE(Display()->width(), double(size.width()));
+    QCoreApplication::processEvents();
+    const double least = size.width() >= 1024 ? 76 : 60;
+    QVector<QRectF> places;
+    for (const char* const name : {"zoomIn", "zoomOut", "turn", "recentre", "setA", "setB", "mark", "working",
+                                   "tile.rate", "tile.speed", "door.work", "door.settings"}) {
+        const QQuickItem* const item = Find(name);
+        QVERIFY2(item, name);
+        const QRectF place = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        QVERIFY2(QRectF(QPointF(0, 0), QSizeF(size)).contains(place), name);
+        QVERIFY2(place.width() >= least && place.height() >= least, name);
+        for (const QRectF& other : std::as_const(places))
+            QVERIFY2(!place.adjusted(-7, -7, 7, 7).intersects(other), name);
+        places.append(place);
+    }
+}
+
+QTEST_MAIN(WorkPageTaps)
+#include "WorkPageTaps.moc"
