@@ -1978,4 +1978,287 @@
         <translation>Die Auswahl konnte nicht gespeichert werden.</translation>
     </message>
 </context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Cab display</source>
+        <translation>Kabinenanzeige</translation>
+    </message>
+</context>
+<context>
+    <name>Display</name>
+    <message>
+        <source>Restart</source>
+        <translation>Neu starten</translation>
+    </message>
+</context>
+<context>
+    <name>DoorBand</name>
+    <message>
+        <source>Work</source>
+        <translation>Arbeit</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>Receiver</source>
+        <translation>Empfang</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>LockLayer</name>
+    <message>
+        <source>The screen is locked. Hold the button to unlock it.</source>
+        <translation>Der Bildschirm ist gesperrt. Zum Entsperren die Taste halten.</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
+    </message>
+</context>
+<context>
+    <name>StateBand</name>
+    <message>
+        <source>No job</source>
+        <translation>Kein Auftrag</translation>
+    </message>
+    <message>
+        <source>Receiver: %1</source>
+        <translation>Empfänger: %1</translation>
+    </message>
+    <message>
+        <source>The stick is plugged in</source>
+        <translation>Der Stick steckt</translation>
+    </message>
+    <message>
+        <source>Lock the screen</source>
+        <translation>Bildschirm sperren</translation>
+    </message>
+    <message>
+        <source>Colours of the night</source>
+        <translation>Farben der Nacht</translation>
+    </message>
+    <message>
+        <source>Colours of the day</source>
+        <translation>Farben des Tages</translation>
+    </message>
+</context>
+<context>
+    <name>RateTile</name>
+    <message>
+        <source>set %1</source>
+        <comment>the rate that is set</comment>
+        <translation>Soll %1</translation>
+    </message>
+</context>
+<context>
+    <name>WorkingButton</name>
+    <message>
+        <source>Working</source>
+        <translation>Arbeitet</translation>
+    </message>
+    <message>
+        <source>Not working</source>
+        <translation>Arbeitet nicht</translation>
+    </message>
+    <message>
+        <source>Working. Switch the implement off</source>
+        <translation>Arbeitet. Gerät ausschalten</translation>
+    </message>
+    <message>
+        <source>Not working. Switch the implement on</source>
+        <translation>Arbeitet nicht. Gerät einschalten</translation>
+    </message>
+</context>
+<context>
+    <name>LinePanel</name>
+    <message>
+        <source>%1 to the left</source>
+        <translation>%1 nach links</translation>
+    </message>
+    <message>
+        <source>%1 to the right</source>
+        <translation>%1 nach rechts</translation>
+    </message>
+</context>
+<context>
+    <name>MapButtons</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>The heading is up. Turn north up</source>
+        <translation>Fahrtrichtung oben. Norden nach oben drehen</translation>
+    </message>
+    <message>
+        <source>North is up. Turn the heading up</source>
+        <translation>Norden oben. Fahrtrichtung nach oben drehen</translation>
+    </message>
+    <message>
+        <source>Centre the vehicle</source>
+        <translation>Fahrzeug in die Mitte</translation>
+    </message>
+</context>
+<context>
+    <name>LineButtons</name>
+    <message>
+        <source>A</source>
+        <comment>one end of the guidance line</comment>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Set A, the first end of the line, here</source>
+        <translation>A, das erste Ende der Linie, hier setzen</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <comment>the other end of the guidance line</comment>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Set B, the other end of the line, here</source>
+        <translation>B, das andere Ende der Linie, hier setzen</translation>
+    </message>
+    <message>
+        <source>Set a flag here</source>
+        <translation>Hier eine Fahne setzen</translation>
+    </message>
+</context>
+<context>
+    <name>WorkPage</name>
+    <message>
+        <source>Waiting for a position</source>
+        <translation>Warten auf eine Position</translation>
+    </message>
+</context>
+<context>
+    <name>Keypad</name>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 bis %2 %3</translation>
+    </message>
+    <message>
+        <source>At least %1 %2</source>
+        <translation>Mindestens %1 %2</translation>
+    </message>
+    <message>
+        <source>At most %1 %2</source>
+        <translation>Höchstens %1 %2</translation>
+    </message>
+    <message>
+        <source>This is not a number yet.</source>
+        <translation>Das ist noch keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Too large.
+%1</source>
+        <translation>Zu groß.
+%1</translation>
+    </message>
+    <message>
+        <source>Too small.
+%1</source>
+        <translation>Zu klein.
+%1</translation>
+    </message>
+    <message>
+        <source>now %1</source>
+        <translation>jetzt %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Setzen</translation>
+    </message>
+    <message>
+        <source>Decimal sign</source>
+        <translation>Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>Plus or minus</source>
+        <translation>Plus oder minus</translation>
+    </message>
+    <message>
+        <source>Remove the last sign</source>
+        <translation>Letztes Zeichen löschen</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <comment>key that clears the entry</comment>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>Tiles</name>
+    <message>
+        <source>Rate</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <comment>area that is left to work</comment>
+        <translation>Rest</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <comment>area per hour</comment>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Flow</source>
+        <translation>Fluss</translation>
+    </message>
+    <message>
+        <source>Press.</source>
+        <comment>pressure</comment>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Temp.</source>
+        <comment>temperature</comment>
+        <translation>Temp.</translation>
+    </message>
+    <message>
+        <source>Driven</source>
+        <translation>Weg</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+</context>
 </TS>

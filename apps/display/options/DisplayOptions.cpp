@@ -69,7 +69,7 @@ constexpr std::array Options = {
               ReadText<&tagDisplayOptions::dataFolder>},
     tagOption{"--receiver", "ADDRESS", "simulator, a file, tcp://HOST:PORT, or serial:///DEVICE; it is kept",
               ReadText<&tagDisplayOptions::receiver>},
-    tagOption{"--language", "NAME", "language of the texts, such as german; it is kept",
+    tagOption{"--language", "NAME", "language of the texts, such as de; it is kept",
               ReadText<&tagDisplayOptions::language>},
     tagOption{"--size", "WxH", "size of the window in pixels, by default 1280x800", ReadSize},
     tagOption{"--full-screen", nullptr, "fills the screen", ReadFlag<&tagDisplayOptions::isFullScreen>},
