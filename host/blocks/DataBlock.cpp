@@ -26,12 +26,13 @@ constexpr std::array<quint32, 256> ChecksumTable()
     return table;
 }
 
+constexpr std::array<quint32, 256> Table = ChecksumTable();
+
 unsigned Checksum(const char* bytes, qint64 count)
 {
-    static constexpr std::array<quint32, 256> table = ChecksumTable();
     quint32 sum = 0xFFFFFFFF;
     for (qint64 i = 0; i < count; ++i)
-        sum = (sum >> 8) ^ table[(sum ^ static_cast<unsigned char>(bytes[i])) & 0xFF];
+        sum = (sum >> 8) ^ Table[(sum ^ static_cast<unsigned char>(bytes[i])) & 0xFF];
     return sum ^ 0xFFFFFFFF;
 }
 

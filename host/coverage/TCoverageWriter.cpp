@@ -21,6 +21,7 @@ using namespace CoverageBlocks;
 
 const mode_t ReadableByAll = 0644;
 constexpr int BytesOfStrip = 16;
+constexpr qint64 MillisecondsBeforeWrite = TCoverageFile::WriteSeconds * qint64(1000);
 constexpr int StripsBeforeWrite = TCoverageFile::BytesBeforeWrite / BytesOfStrip;
 
 bool WriteAt(int descriptor, const QByteArray& bytes, qint64 at)
@@ -92,7 +93,7 @@ void TCoverageWriter::Add(const tagCoverageStrip& strip)
     ++m_StagedStrips;
     ++m_State.waiting;
     if (m_State.waiting == 1)
-        m_Due.setRemainingTime(TCoverageFile::WriteSeconds * 1000);
+        m_Due.setRemainingTime(MillisecondsBeforeWrite);
     if (m_State.waiting == 1 || m_StagedStrips == StripsBeforeWrite)
         m_Changed.wakeAll();
 }
@@ -168,7 +169,7 @@ void TCoverageWriter::run()
         m_State.waiting -= written;
         m_State.written += written;
         m_State.problem = reason;
-        m_Due.setRemainingTime(TCoverageFile::WriteSeconds * 1000);
+        m_Due.setRemainingTime(MillisecondsBeforeWrite);
         ++m_Tries;
         m_Tried.wakeAll();
     }

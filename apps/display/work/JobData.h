@@ -54,7 +54,7 @@ struct tagJob
     QStringList errors;       ///< one line each
 };
 
-/// Reads the files; what cannot be read is left out, with an error. Takes as long as the disk does, and a second for
+/// Reads the files; what cannot be read is left out, with an error. Takes as long as the disk does, and two seconds for
 /// ten hours of coverage. May be called from any thread.
 void LoadJob(const tagJobPlaces& places, tagJob* job);
 

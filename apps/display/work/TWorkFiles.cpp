@@ -243,7 +243,7 @@ QString TWork::FreeLineName()
 {
     m_Disk.waitForDone(); // a line may be about to be written
     const TSystemSettingsProxy system;
-    const QString active = system.GetActiveABLine();
+    QString active = system.GetActiveABLine();
     if (!active.isEmpty() && !QFileInfo::exists(ActiveLinePath()))
         return active;
     QStringList names;
@@ -262,7 +262,7 @@ QString TWork::saveLine(const QString& name)
         return tr("There is no line.");
     if (name.isEmpty())
         return tr("The line has no name.");
-    const QString problem = SelectLine(name);
+    QString problem = SelectLine(name);
     if (!problem.isEmpty())
         return problem;
     const QString path = m_Places.line;
@@ -273,7 +273,7 @@ QString TWork::saveLine(const QString& name)
 
 QString TWork::loadLine(const QString& name)
 {
-    const QString problem = SelectLine(name);
+    QString problem = SelectLine(name);
     if (problem.isEmpty())
         LoadLine();
     return problem;
