@@ -23,6 +23,7 @@ constexpr QRectF RightWheel(0.28, 0.0, 0.16, 0.42);
 constexpr QRectF Vehicle(-0.44, -0.55, 0.88, 0.97);
 
 constexpr double BarPixels = 9;
+constexpr double GapPixels = 4; // between the tractor and the implement
 constexpr double CasingPixels = 1.5;
 constexpr double MarginPixels = 3;
 
@@ -39,7 +40,7 @@ QImage Blank(const QSizeF& size)
 double Bounded(double metres, double metresPerPixel)
 {
     const double pixels = metres / metresPerPixel;
-    return pixels > 0 ? std::min(pixels, WidestPixels) : 0; // 0 also where the width is not a number
+    return std::isnan(pixels) ? 0 : std::clamp(pixels, -WidestPixels, WidestPixels);
 }
 
 } // namespace
@@ -49,14 +50,19 @@ tagMapPicture VehiclePicture(const tagMapVehicle& vehicle, const tagMapColors& c
 {
     const double length = std::clamp(VehicleMetres / metresPerPixel, VehiclePixelsLeast, VehiclePixelsMost) * detail;
     const double pixelMetres = metresPerPixel / detail;
-    const double width = Bounded(vehicle.implementWidth, pixelMetres);
+    const double width = std::max(Bounded(vehicle.implementWidth, pixelMetres), 0.0);
     const double behind = Bounded(vehicle.implementBehind, pixelMetres);
     const double bar = BarPixels * detail;
     const double margin = MarginPixels * detail;
 
+    // The implement is where it is; the tractor is larger than it is, and makes room for it.
+    const double room = bar / 2 + GapPixels * detail;
+    const double shift = behind < 0 ? std::max(behind + room - length * Vehicle.top(), 0.0)
+                                    : std::min(behind - room - length * Vehicle.bottom(), 0.0);
+
     const double halfWidth = std::ceil(std::max(length * Vehicle.right(), width / 2) + margin);
-    const double front = std::ceil(-length * Vehicle.top() + margin);
-    const double rear = std::max(length * Vehicle.bottom(), behind + bar / 2) + margin;
+    const double front = std::ceil(std::max(-length * Vehicle.top() - shift, bar / 2 - behind) + margin);
+    const double rear = std::max(length * Vehicle.bottom() + shift, behind + bar / 2) + margin;
     tagMapPicture picture = {Blank({2 * halfWidth, front + rear}), QPointF(halfWidth, front)};
 
     QPainter painter(&picture.image);
@@ -64,15 +70,15 @@ tagMapPicture VehiclePicture(const tagMapVehicle& vehicle, const tagMapColors& c
     painter.translate(picture.foot);
     const QPen casing(colors.ground, CasingPixels * detail);
     painter.setPen(QPen(colors.vehicle, bar / 2));
-    painter.drawLine(QPointF(0, 0), QPointF(0, behind));
+    painter.drawLine(QPointF(0, shift), QPointF(0, behind));
     for (const QRectF& wheel : {LeftWheel, RightWheel}) {
         painter.setPen(casing);
         painter.setBrush(DetailOn(colors.ground));
-        painter.drawRect(QRectF(wheel.topLeft() * length, wheel.size() * length));
+        painter.drawRect(QRectF(wheel.topLeft() * length + QPointF(0, shift), wheel.size() * length));
     }
     QPolygonF body;
     for (const QPointF& corner : Body)
-        body << corner * length;
+        body << corner * length + QPointF(0, shift);
     painter.setBrush(colors.vehicle);
     painter.drawPolygon(body);
 

@@ -13,8 +13,8 @@ struct tagMapPicture
 };
 
 /// The vehicle, its front up, and the implement where it is and as wide as it is: filled while it works, an outline
-/// while it is lifted. The vehicle itself keeps a size that can be seen. detail: pixels of the picture for one of the
-/// item.
+/// while it is lifted. The tractor keeps a size that can be seen, and stands clear of the implement. detail: pixels of
+/// the picture for one of the item.
 tagMapPicture VehiclePicture(const tagMapVehicle& vehicle, const tagMapColors& colors, double metresPerPixel,
                              double detail);
 

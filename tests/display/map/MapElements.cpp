@@ -251,6 +251,30 @@ private slots:
         }
     }
 
+    /// The tractor is drawn larger than it is.
+    void TheTractorDoesNotHideTheImplement_data()
+    {
+        QTest::addColumn<double>("behind");
+        for (const double behind : {-5.0, -1.0, 0.0, 3.0, 20.0})
+            QTest::addRow("%g m", behind) << behind;
+    }
+    void TheTractorDoesNotHideTheImplement()
+    {
+        QFETCH(double, behind);
+        tagMapWindow shown;
+        shown.map->SetGridColor(shown.map->MapColor());
+        shown.model.SetVehicle({{0, 0}, 0, 8, behind, true});
+        const QImage picture = shown.Picture();
+        const QPoint bar = shown.Pixel({0, -behind});
+        const QColor color = shown.map->VehicleColor();
+        const int toTractor = behind < 0 ? 1 : -1;
+        for (const int side : {-1, 1}) { // beside the drawbar
+            QVERIFY(IsNear(picture.pixelColor(bar + QPoint(side * 14, 0)), color));
+            QVERIFY(IsNear(picture.pixelColor(bar + QPoint(side * 6, toTractor * 6)), shown.map->MapColor(), 60));
+            QVERIFY(IsNear(picture.pixelColor(bar + QPoint(side * 6, -toTractor * 6)), shown.map->MapColor()));
+        }
+    }
+
     void ALiftedImplementIsAnOutline()
     {
         tagMapWindow shown;
