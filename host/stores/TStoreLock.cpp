@@ -93,8 +93,7 @@ void TStoreLock::MarkChanged()
 {
     // Every holder writes the same bytes to the same place. Without the mark, the good copy is older than it could be.
     const int place = static_cast<int>(Note().indexOf(End)) + 1;
-    if (place > 0)
-        static_cast<void>(pwrite(m_File, Mark, sizeof Mark - 1, place));
+    [[maybe_unused]] const ssize_t written = place > 0 ? pwrite(m_File, Mark, sizeof Mark - 1, place) : 0;
 }
 
 bool TStoreLock::IsMarkedChanged() const { return Note().endsWith(Mark); }
