@@ -12,7 +12,7 @@ namespace {
 const int LookMs = 500;
 
 /// Enough for the newest lines: a sentence has at most 82 bytes, an entry of the user log seldom more than 200.
-const qint64 FirstBytes = 200 * TLogModel::MostLines;
+const qint64 FirstBytes = qint64{200} * TLogModel::MostLines;
 
 QString Printed(QString text)
 {

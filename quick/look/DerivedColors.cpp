@@ -35,9 +35,10 @@ QColor Panel(const DerivedColors::tagBasis& basis)
     if (basis.isDay && IsLight(basis.background))
         return White;
     const double most = 0.05;
+    const int steps = 10;
     const double needed = std::min(ReadableFigures, ContrastRatio(basis.text, basis.background));
-    for (double share = most; share > 0; share -= most / 10) {
-        QColor panel = Mix(basis.background, basis.text, share);
+    for (int step = steps; step > 0; --step) {
+        QColor panel = Mix(basis.background, basis.text, most * step / steps);
         if (ContrastRatio(basis.text, panel) >= needed)
             return panel;
     }
@@ -57,8 +58,8 @@ QColor TextOn(const QColor& ground, const DerivedColors::tagBasis& basis)
 QColor Muted(const QColor& text, const QVector<QColor>& grounds)
 {
     const double most = 0.4;
-    for (double share = most; share > 0; share -= most / Steps) {
-        QColor muted = Mix(text, grounds.first(), share);
+    for (int step = Steps; step > 0; --step) {
+        QColor muted = Mix(text, grounds.first(), most * step / Steps);
         if (LeastRatio(muted, grounds) >= ReadableText)
             return muted;
     }

@@ -17,7 +17,7 @@ struct TScheme::tagElement
 };
 
 /// In the order of EElement.
-const std::array<TScheme::tagElement, TScheme::ELEMENT_COUNT> TScheme::m_Elements = {{
+const std::array<TScheme::tagElement, TScheme::ELEMENT_COUNT> TScheme::Elements = {{
     {TEXT, &TColorSettingsProxy::GetTextColor, TColorSettings::TextColorKey},
     {BUTTON, &TColorSettingsProxy::GetButtonColor, TColorSettings::ButtonColorKey},
     {BUTTON_TEXT, &TColorSettingsProxy::GetButtonTextColor, TColorSettings::ButtonTextColorKey},
@@ -66,7 +66,7 @@ TScheme::tagLook TScheme::LookNow()
     const TColorSettingsProxy settings;
     tagLook look;
     look.isDay = settings.IsDayMode();
-    for (const tagElement& row : m_Elements) {
+    for (const tagElement& row : Elements) {
         const QColor stored = (settings.*row.color)();
         const EParamID key = row.keys[look.isDay ? 0 : 1];
         look.own[static_cast<std::size_t>(row.element)] =
@@ -85,6 +85,6 @@ bool TScheme::IsOfScheme(int number)
     if (number == PARAM_DAY_MODE || number == PARAM_LIGHTBAR_NIGHT_LEVEL || number == PARAM_BACKLIGHT_NIGHT_LEVEL ||
         number == PARAM_BUTTON_LED_NIGHT_LEVEL)
         return true;
-    return std::any_of(m_Elements.begin(), m_Elements.end(),
+    return std::any_of(Elements.begin(), Elements.end(),
                        [number](const tagElement& row) { return row.keys[0] == number || row.keys[1] == number; });
 }

@@ -128,7 +128,7 @@ private:
     };
 
     struct tagElement;
-    static const std::array<tagElement, ELEMENT_COUNT> m_Elements;
+    static const std::array<tagElement, ELEMENT_COUNT> Elements;
 
     struct tagLook
     {

@@ -20,7 +20,7 @@
 namespace {
 
 const int MillisecondsPerSecond = 1000;
-const qint64 SecondsPerDay = 24 * 60 * 60;
+const qint64 SecondsPerDay = qint64{24} * 60 * 60;
 
 /// The store holds the distance from the machine's clock in seconds; a day is left for the offset from UTC.
 const qint64 GreatestDistance = std::numeric_limits<int>::max() - SecondsPerDay;

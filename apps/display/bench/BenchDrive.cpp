@@ -68,14 +68,21 @@ QPolygonF Ring(const QPointF& centre, double radius, int points)
 QPolygonF RecordedBoundary()
 {
     constexpr double Step = 10;
+    constexpr double South = -20;
     const double east = Passes * Width;
+    const double north = PassMetres + 20;
+    const int across = static_cast<int>(std::ceil((east + Width) / Step));
+    const int along = static_cast<int>(std::ceil((north - South) / Step));
+    const auto southOrNorth = [](double x, double y, double bend) { return QPointF(x, y + std::sin(x / bend)); };
     QPolygonF boundary;
-    for (double x = -Width; x < east; x += Step)
-        boundary << QPointF(x, -20 + std::sin(x / 40));
-    for (double y = -20; y < PassMetres + 20; y += Step)
+    for (int point = 0; point < across; ++point)
+        boundary << southOrNorth(-Width + point * Step, South, 40);
+    for (int point = 0; point < along; ++point) {
+        const double y = South + point * Step;
         boundary << QPointF(east + std::sin(y / 30), y);
-    for (double x = east; x > -Width; x -= Step)
-        boundary << QPointF(x, PassMetres + 20 + std::sin(x / 50));
+    }
+    for (int point = 0; point < across; ++point)
+        boundary << southOrNorth(east - point * Step, north, 50);
     return boundary;
 }
 

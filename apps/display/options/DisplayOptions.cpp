@@ -97,7 +97,7 @@ QString Troff(QString text)
 
 QString ReadOption(const QStringList& arguments, int& index, tagDisplayOptions& options)
 {
-    const QString argument = arguments.at(index);
+    const QString& argument = arguments.at(index);
     const QString name = argument.section(QLatin1Char('='), 0, 0);
     const auto* const option = std::find_if(Options.begin(), Options.end(),
                                             [&name](const tagOption& row) { return name == QLatin1String(row.name); });
@@ -122,7 +122,7 @@ QString ReadDisplayOptions(const QStringList& arguments, tagDisplayOptions& opti
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1String("/cabsettings");
     options.wantsManual = arguments == QStringList{QStringLiteral("--manual")};
     for (int index = 0; index < arguments.size() && !options.wantsManual; ++index) {
-        const QString problem = ReadOption(arguments, index, options);
+        QString problem = ReadOption(arguments, index, options);
         if (!problem.isEmpty())
             return problem;
     }

@@ -146,7 +146,7 @@ QImage GrabAtMoment(QQuickItem& item)
         const QString expected = region.GetTimeString();
         for (int step = 0; step < StepsOfClock && ShownTime(engine) != expected; ++step)
             Wait(StepMs);
-        const QImage image = Grab(item);
+        QImage image = Grab(item);
         if (ShownTime(engine) == expected)
             return image;
     }
