@@ -29,6 +29,8 @@ FocusKeys {
             other.item.section = section
     }
 
+    onSectionChanged: passSection()
+
     focus: true
     Keys.onEscapePressed: open("work")
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TestSeed.h"
 #include "display/map/TMapModel.h"
 
 #include <QtMath>
@@ -10,9 +11,10 @@
 inline QPolygonF Outline(std::initializer_list<QPointF> points) { return QVector<QPointF>(points); }
 
 /// The strips of an implement that is drawn along a crooked way, lifted now and then, as a receiver gives them.
-inline QVector<tagMapStrip> CrookedTrack(int fixes, double width, unsigned seed)
+/// @param which one of the tracks of this run.
+inline QVector<tagMapStrip> CrookedTrack(int fixes, double width, unsigned which)
 {
-    std::mt19937 random(seed);
+    std::mt19937 random(TestSeed() + which);
     const auto at = [](const QPointF& place) { return tagMapStrip::tagPlace{float(place.x()), float(place.y())}; };
     QVector<tagMapStrip> strips;
     QPointF place(-40, 25);

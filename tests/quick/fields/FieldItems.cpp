@@ -82,7 +82,7 @@ void FieldItems::everyLevelIsListed()
     MakeTree(terminal);
     terminal.Load("FieldTree { path: " + path + " }");
     QVERIFY(terminal.Get("self.busy").toBool());
-    QTRY_VERIFY(!terminal.Get("self.busy").toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(!terminal.Get("self.busy").toBool(), Patience);
     QCOMPARE(Names(terminal), names);
     QCOMPARE(terminal.Get("self.count").toInt(), static_cast<int>(names.size()));
     QTEST(terminal.Text("self.level"), "level");
@@ -95,7 +95,7 @@ void FieldItems::anItemIsAdded()
     MakeTree(terminal);
     terminal.Load("FieldTree { path: ['Smith', 'North'] }");
     QCOMPARE(Done(terminal, "self.add('F3')"), (QVariantList{true, QString()}));
-    QTRY_COMPARE(Names(terminal), Words("F1 F2 F3"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("F1 F2 F3"), Patience);
     QVERIFY(terminal.folder.Exists(QLatin1String("internal/Clients/Smith/North/F3")));
     const QVariantList again = Done(terminal, "self.add('F3')");
     QCOMPARE(again.value(0), QVariant(false));
@@ -103,7 +103,7 @@ void FieldItems::anItemIsAdded()
     QCOMPARE(terminal.Text("self.error"), again.value(1).toString());
     QCOMPARE(Done(terminal, "self.add('a/b')").value(0), QVariant(false));
     QCOMPARE(Done(terminal, "self.add('')").value(0), QVariant(false));
-    QTRY_COMPARE(Names(terminal), Words("F1 F2 F3"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("F1 F2 F3"), Patience);
 }
 
 void FieldItems::aNameIsChecked_data()
@@ -124,7 +124,7 @@ void FieldItems::aNameIsChecked()
     TQuickTerminal terminal;
     MakeTree(terminal);
     terminal.Load("FieldTree {}");
-    QTRY_COMPARE(Names(terminal), Words("Jäger Smith"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("Jäger Smith"), Patience);
     const QString problem = terminal.Text(qPrintable(QString::fromUtf8("self.checkName('%1')").arg(name)));
     QCOMPARE(problem.isEmpty(), isAccepted);
 }
@@ -136,8 +136,8 @@ void FieldItems::anItemIsRenamed()
     terminal.Load("FieldTree { path: ['Smith', 'North', 'F1'] }");
     QCOMPARE(Done(terminal, "self.choose('J_1')").value(0), QVariant(true));
     QCOMPARE(Done(terminal, "self.rename('J_1', 'Spring')").value(0), QVariant(true));
-    QTRY_COMPARE(Names(terminal), Words("J_2 Spring*"));
-    QTRY_COMPARE(terminal.Text("Selections.job"), QLatin1String("Spring"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("J_2 Spring*"), Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Selections.job"), QLatin1String("Spring"), Patience);
     QVERIFY(terminal.folder.Exists(QLatin1String("internal/Clients/Smith/North/F1/Jobs/Spring/Spring.cov")));
     QCOMPARE(Done(terminal, "self.rename('Spring', 'J_2')").value(0), QVariant(false));
 }
@@ -148,7 +148,7 @@ void FieldItems::anItemIsRemoved()
     MakeTree(terminal);
     terminal.Load("FieldTree { path: ['Smith', 'North'] }");
     QCOMPARE(Done(terminal, "self.remove('F2', false)").value(0), QVariant(true));
-    QTRY_COMPARE(Names(terminal), Words("F1"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("F1"), Patience);
     QVERIFY(!terminal.folder.Exists(QLatin1String("internal/Clients/Smith/North/F2")));
 }
 
@@ -162,7 +162,7 @@ void FieldItems::whatHoldsFilesIsRemovedOnlyWithForce()
     QVERIFY(terminal.folder.Exists(QLatin1String("internal/Clients/Smith/North/F1/Jobs/J_1/J_1.cov")));
     QCOMPARE(Done(terminal, "self.remove('J_1', true)").value(0), QVariant(true));
     QVERIFY(!terminal.Get("self.refused").toBool());
-    QTRY_COMPARE(Names(terminal), Words("J_2"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("J_2"), Patience);
 }
 
 void FieldItems::aJobIsChosen()
@@ -171,7 +171,7 @@ void FieldItems::aJobIsChosen()
     MakeTree(terminal);
     terminal.Load("FieldTree { path: ['Smith', 'North', 'F1'] }");
     QCOMPARE(Done(terminal, "self.choose('J_2')").value(0), QVariant(true));
-    QTRY_COMPARE(Names(terminal), Words("J_1 J_2*"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("J_1 J_2*"), Patience);
     QCOMPARE(terminal.Text("[Selections.client, Selections.farm, Selections.field, Selections.job].join('/')"),
              QLatin1String("Smith/North/F1/J_2"));
 }
@@ -207,9 +207,9 @@ void FieldItems::theSelectionIsShown()
     TQuickTerminal terminal;
     MakeTree(terminal);
     terminal.Load("FieldTree {}");
-    QTRY_COMPARE(Names(terminal), Words("Jäger Smith"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("Jäger Smith"), Patience);
     terminal.Get("Selections.client = 'Smith'");
-    QTRY_COMPARE(Names(terminal), Words("Jäger Smith*"));
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal), Words("Jäger Smith*"), Patience);
     const auto* const model = qobject_cast<QAbstractItemModel*>(terminal.Object());
     const QModelIndex smith = model->index(1, 0);
     QCOMPARE(smith.data(model->roleNames().key("files")).toInt(), 2);
@@ -226,7 +226,7 @@ void FieldItems::anObjectMayGoWhileItsWorkRuns()
         terminal.Get(qPrintable(QString::fromLatin1("self.add('New %1')").arg(round)));
     }
     terminal.Load("FieldTree { path: ['Smith'] }");
-    QTRY_COMPARE(Names(terminal).size(), 52); // all were done, one after the other
+    QTRY_COMPARE_WITH_TIMEOUT(Names(terminal).size(), 52, Patience); // all were done, one after the other
     terminal.Get("self.add('the last')");
 }
 

@@ -41,10 +41,10 @@ void LogLines::newLinesComeAtTheEnd()
     TQuickTerminal terminal;
     Say("first");
     terminal.Load("Log { kind: Log.User }");
-    QTRY_VERIFY(Last(terminal).contains(QLatin1String("first")));
+    QTRY_VERIFY_WITH_TIMEOUT(Last(terminal).contains(QLatin1String("first")), Patience);
     QSignalSpy resets(terminal.Object(), SIGNAL(modelReset()));
     Say("second");
-    QTRY_VERIFY(Last(terminal).contains(QLatin1String("second")));
+    QTRY_VERIFY_WITH_TIMEOUT(Last(terminal).contains(QLatin1String("second")), Patience);
     QCOMPARE(resets.size(), 0);
     QCOMPARE(terminal.Text("self.error"), QString());
 }
@@ -55,11 +55,12 @@ void LogLines::theKindChoosesTheLog()
     Say("an entry");
     terminal.Load("Log { kind: Log.Nmea }");
     WriteNmeaLine("$GPGLL,,,,,,V,N*64\r\n");
-    QTRY_COMPARE(Last(terminal), QLatin1String("$GPGLL,,,,,,V,N*64")); // staged in memory, and shown
+    QTRY_COMPARE_WITH_TIMEOUT(Last(terminal), QLatin1String("$GPGLL,,,,,,V,N*64"),
+                              Patience); // staged in memory, and shown
     terminal.Get("self.kind = Log.User");
-    QTRY_VERIFY(Last(terminal).contains(QLatin1String("an entry")));
+    QTRY_VERIFY_WITH_TIMEOUT(Last(terminal).contains(QLatin1String("an entry")), Patience);
     terminal.Get("self.kind = Log.Nmea");
-    QTRY_COMPARE(terminal.Get("self.count").toInt(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Get("self.count").toInt(), 1, Patience);
     QCOMPARE(Last(terminal), QLatin1String("$GPGLL,,,,,,V,N*64"));
 }
 
@@ -69,16 +70,16 @@ void LogLines::theNewestStay()
     for (int line = 0; line < 1200; ++line)
         WriteNmeaLine("line " + QByteArray::number(line) + "\r\n");
     terminal.Load("Log { kind: Log.Nmea }");
-    QTRY_COMPARE(terminal.Get("self.count").toInt(), 500);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Get("self.count").toInt(), 500, Patience);
     QCOMPARE(Line(terminal, 0), QLatin1String("line 700"));
     for (int line = 1200; line < 1300; ++line)
         WriteNmeaLine("line " + QByteArray::number(line) + "\r\n");
-    QTRY_COMPARE(Last(terminal), QLatin1String("line 1299"));
+    QTRY_COMPARE_WITH_TIMEOUT(Last(terminal), QLatin1String("line 1299"), Patience);
     QCOMPARE(terminal.Get("self.count").toInt(), 500);
     QCOMPARE(Line(terminal, 0), QLatin1String("line 800"));
     for (int line = 1300; line < 2300; ++line)
         WriteNmeaLine("line " + QByteArray::number(line) + "\r\n");
-    QTRY_COMPARE(Last(terminal), QLatin1String("line 2299"));
+    QTRY_COMPARE_WITH_TIMEOUT(Last(terminal), QLatin1String("line 2299"), Patience);
     QCOMPARE(terminal.Get("self.count").toInt(), 500);
     QCOMPARE(Line(terminal, 0), QLatin1String("line 1800"));
 }
@@ -88,7 +89,7 @@ void LogLines::aPausedListStands()
     TQuickTerminal terminal;
     Say("before");
     terminal.Load("Log {}");
-    QTRY_VERIFY(Last(terminal).contains(QLatin1String("before")));
+    QTRY_VERIFY_WITH_TIMEOUT(Last(terminal).contains(QLatin1String("before")), Patience);
     terminal.Get("self.paused = true");
     Say("meanwhile");
     // A second list shows it while the first one stands.
@@ -98,10 +99,10 @@ void LogLines::aPausedListStands()
     const auto newest = [live] {
         return live->index(live->rowCount() - 1, 0).data(live->roleNames().key("line")).toString();
     };
-    QTRY_VERIFY(newest().contains(QLatin1String("meanwhile")));
+    QTRY_VERIFY_WITH_TIMEOUT(newest().contains(QLatin1String("meanwhile")), Patience);
     QVERIFY(Last(terminal).contains(QLatin1String("before")));
     terminal.Get("self.paused = false");
-    QTRY_VERIFY(Last(terminal).contains(QLatin1String("meanwhile")));
+    QTRY_VERIFY_WITH_TIMEOUT(Last(terminal).contains(QLatin1String("meanwhile")), Patience);
 }
 
 void LogLines::whatIsNotPrintedIsABlank()
@@ -109,7 +110,7 @@ void LogLines::whatIsNotPrintedIsABlank()
     TQuickTerminal terminal;
     terminal.Load("Log { kind: Log.Nmea }");
     WriteNmeaLine(QByteArray("a\0b\x1b[31m\x7f c\r\n", 13));
-    QTRY_COMPARE(Last(terminal), QLatin1String("a b [31m  c"));
+    QTRY_COMPARE_WITH_TIMEOUT(Last(terminal), QLatin1String("a b [31m  c"), Patience);
 }
 
 QTEST_GUILESS_MAIN(LogLines)

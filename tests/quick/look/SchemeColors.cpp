@@ -115,7 +115,7 @@ void SchemeColors::Set(const QString& name, const QVariant& value) const
 void SchemeColors::Night() const
 {
     Set(Latin("display.day"), false);
-    QTRY_COMPARE(Scheme()->property("isDay").toBool(), false);
+    QTRY_COMPARE_WITH_TIMEOUT(Scheme()->property("isDay").toBool(), false, Patience);
 }
 
 void SchemeColors::everyElementIsOfTheScheme_data()
@@ -132,11 +132,11 @@ void SchemeColors::everyElementIsOfTheScheme()
     QFETCH(QByteArray, element);
     QCOMPARE(Color(property), FirstColor(true, element));
     Set(Name(true, element), QColor(1, 2, 3));
-    QTRY_COMPARE(Color(property), QColor(1, 2, 3));
+    QTRY_COMPARE_WITH_TIMEOUT(Color(property), QColor(1, 2, 3), Patience);
     Night();
     QCOMPARE(Color(property), FirstColor(false, element));
     Set(Name(false, element), QColor(4, 5, 6));
-    QTRY_COMPARE(Color(property), QColor(4, 5, 6));
+    QTRY_COMPARE_WITH_TIMEOUT(Color(property), QColor(4, 5, 6), Patience);
 }
 
 void SchemeColors::anInvalidColorIsTheFirstOne()
@@ -157,14 +157,14 @@ void SchemeColors::oneTapSwitches()
 {
     QSignalSpy changes(Scheme(), SIGNAL(changed()));
     QVERIFY(QMetaObject::invokeMethod(Scheme(), "toggle"));
-    QTRY_COMPARE(Scheme()->property("isDay").toBool(), false);
+    QTRY_COMPARE_WITH_TIMEOUT(Scheme()->property("isDay").toBool(), false, Patience);
     QCOMPARE(static_cast<int>(changes.size()), 1);
     QCOMPARE(m_Terminal->Store().GetParameter(PARAM_DAY_MODE), QVariant(false));
     for (int taps = 0; taps < 3; ++taps) // faster than they arrive
         QVERIFY(QMetaObject::invokeMethod(Scheme(), "toggle"));
-    QTRY_COMPARE(Scheme()->property("isDay").toBool(), true);
+    QTRY_COMPARE_WITH_TIMEOUT(Scheme()->property("isDay").toBool(), true, Patience);
     Scheme()->setProperty("isDay", false);
-    QTRY_COMPARE(Scheme()->property("isDay").toBool(), false);
+    QTRY_COMPARE_WITH_TIMEOUT(Scheme()->property("isDay").toBool(), false, Patience);
     m_Terminal.reset();
 }
 
@@ -179,9 +179,9 @@ void SchemeColors::levelsAreThoseOfTheNight()
     QCOMPARE(level("backlightLevel"), 0.2);
     QCOMPARE(level("buttonLevel"), 0.1);
     Set(Latin("display.night-lightbar"), 75);
-    QTRY_COMPARE(level("lightbarLevel"), 0.75);
+    QTRY_COMPARE_WITH_TIMEOUT(level("lightbarLevel"), 0.75, Patience);
     Set(Latin("display.night-lightbar"), 1000); // what a library of another version may have left
-    QTRY_COMPARE(level("lightbarLevel"), 1.0);
+    QTRY_COMPARE_WITH_TIMEOUT(level("lightbarLevel"), 1.0, Patience);
 }
 
 void SchemeColors::CheckLegibility() const
@@ -256,7 +256,7 @@ void SchemeColors::anOwnSchemeCarriesTheDisplay()
     Set(Name(isDay, "text"), text);
     Set(Name(isDay, "background"), background);
     Set(Name(isDay, "title"), title);
-    QTRY_COMPARE(Color("title"), title);
+    QTRY_COMPARE_WITH_TIMEOUT(Color("title"), title, Patience);
     QCOMPARE(Color("text"), text);
     QCOMPARE(Color("background"), background);
     CheckLegibility();
@@ -312,7 +312,7 @@ void SchemeColors::contrastsFollowAColor()
     QCOMPARE(model->index(0, 0).data(role).toBool(), true);
     QSignalSpy changes(model, &QAbstractItemModel::dataChanged);
     Set(Name(true, "text"), FirstColor(true, "background"));
-    QTRY_COMPARE(model->index(0, 0).data(role).toBool(), false);
+    QTRY_COMPARE_WITH_TIMEOUT(model->index(0, 0).data(role).toBool(), false, Patience);
     QCOMPARE(model->index(0, 0).data(model->roleNames().key("ratioText")).toString(), Latin("1.0:1"));
     QCOMPARE(static_cast<int>(changes.size()), 2); // on the background and on the map
 }

@@ -410,7 +410,7 @@ void QuantityTexts::textsFollowEveryChoiceOfUnits()
         const double stored = 2.5;
         const tagCase now = {stored, 0, m_Terminal->Store().GetParameter(PARAM_METRIC).toBool(),
                              m_Terminal->Store().GetParameter(PARAM_US_MEASURES).toBool()};
-        QTRY_COMPARE(Text(quantity.get(), "text"), Kind(kind).text(now));
+        QTRY_COMPARE_WITH_TIMEOUT(Text(quantity.get(), "text"), Kind(kind).text(now), Patience);
     }
 }
 
@@ -453,10 +453,10 @@ void QuantityTexts::theListShowsEveryKind()
     };
     QCOMPARE(model->rowCount(), static_cast<int>(std::size(Kinds)));
     m_Terminal->Store().SetParameter(PARAM_AREA_UNIT, 0, false);
-    QTRY_COMPARE(cell(0, "unit").toString(), Latin("ha"));
+    QTRY_COMPARE_WITH_TIMEOUT(cell(0, "unit").toString(), Latin("ha"), Patience);
     QSignalSpy changes(model, &QAbstractItemModel::dataChanged);
     m_Terminal->Store().SetParameter(PARAM_AREA_UNIT, 1, false);
-    QTRY_COMPARE(cell(0, "unit").toString(), Latin("ac"));
+    QTRY_COMPARE_WITH_TIMEOUT(cell(0, "unit").toString(), Latin("ac"), Patience);
     QVERIFY(!changes.isEmpty());
     for (int row = 0; row < model->rowCount(); ++row) {
         QCOMPARE(cell(row, "kind").toInt(), row);

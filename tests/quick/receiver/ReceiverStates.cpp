@@ -70,7 +70,7 @@ void ReceiverStates::theSimulatorDrives()
     QSignalSpy positions(terminal.Named("Receiver"), SIGNAL(positionChanged()));
     terminal.Get("Receiver.running = true");
     QCOMPARE(terminal.Text("Receiver.state"), QLatin1String("connecting"));
-    QTRY_VERIFY(positions.size() >= 20);
+    QTRY_VERIFY_WITH_TIMEOUT(positions.size() >= 20, Patience);
     QCOMPARE(terminal.Text("Receiver.state"), QLatin1String("receiving"));
     QVERIFY(terminal.Get("Receiver.hasFix").toBool());
     QCOMPARE(terminal.Get("Receiver.quality").toInt(), 4);
@@ -82,7 +82,7 @@ void ReceiverStates::theSimulatorDrives()
     QVERIFY(terminal.Get("Receiver.speed").toDouble() > 0);
     const qint64 behind = CabQuick::Receiver().Status().utc.secsTo(QDateTime::currentDateTimeUtc());
     QVERIFY2(std::abs(behind) <= Deadline / 1000, qPrintable(QString::number(behind)));
-    QTRY_VERIFY(terminal.Get("Receiver.lines").toDouble() >= 80);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Receiver.lines").toDouble() >= 80, Patience);
     QCOMPARE(terminal.Get("Receiver.badChecksums").toDouble(), 0.0);
     QCOMPARE(terminal.Store().GetParameter(PARAM_NEWEST_TIME), QVariant()); // a real receiver is checked without it
 }
@@ -102,7 +102,7 @@ void ReceiverStates::aPositionIsToldOnceForEachEpoch()
     for (int tenth = 0; tenth < 10; ++tenth)
         stream += Epoch(tenth);
     QVERIFY(TReceiverServer::Send(*client, stream)); // all at once, as after a stall
-    QTRY_COMPARE(latitudes.size(), 10);
+    QTRY_COMPARE_WITH_TIMEOUT(latitudes.size(), 10, Patience);
     for (int tenth = 0; tenth < 10; ++tenth)
         QVERIFY(std::abs(latitudes.at(tenth) - (52 + tenth * 0.00001 / 60)) < 1e-9);
     QCOMPARE(terminal.Get("Receiver.satellites").toInt(), 14);
@@ -119,10 +119,10 @@ void ReceiverStates::aServerIsLostAndComesBack()
     auto client = server.Accept();
     QVERIFY(client);
     QVERIFY(TReceiverServer::Send(*client, Epoch(1) + Epoch(2)));
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("receiving"));
-    QTRY_VERIFY(terminal.Get("Receiver.hasFix").toBool());
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("receiving"), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Receiver.hasFix").toBool(), Patience);
     client.reset();
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("lost"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("lost"), Patience);
     QVERIFY(!terminal.Text("Receiver.reason").isEmpty());
     QCOMPARE(terminal.Text("Problems.first"), terminal.Text("Receiver.reason"));
     QVERIFY(!terminal.Get("Receiver.hasFix").toBool());
@@ -130,8 +130,8 @@ void ReceiverStates::aServerIsLostAndComesBack()
     client = server.Accept();
     QVERIFY(client);
     QVERIFY(TReceiverServer::Send(*client, Epoch(30) + Epoch(31)));
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("receiving"));
-    QTRY_VERIFY(terminal.Get("Receiver.hasFix").toBool());
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("receiving"), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Receiver.hasFix").toBool(), Patience);
     QCOMPARE(terminal.Get("Problems.count").toInt(), 0);
 }
 
@@ -144,14 +144,14 @@ void ReceiverStates::silenceIsSaid()
     const auto client = server.Accept();
     QVERIFY(client);
     QVERIFY(TReceiverServer::Send(*client, Epoch(1) + Epoch(2)));
-    QTRY_VERIFY(terminal.Get("Receiver.hasFix").toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Receiver.hasFix").toBool(), Patience);
     QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("silent"), Deadline);
     QVERIFY(!terminal.Get("Receiver.hasFix").toBool());
     QCOMPARE(terminal.Text("Problems.first"), terminal.Text("Receiver.reason"));
     QVERIFY(terminal.Get("Receiver.age").toDouble() >= 2);
     QVERIFY(TReceiverServer::Send(*client, Epoch(51) + Epoch(52)));
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("receiving"));
-    QTRY_VERIFY(terminal.Get("Receiver.hasFix").toBool());
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("receiving"), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Receiver.hasFix").toBool(), Patience);
     QCOMPARE(terminal.Get("Problems.count").toInt(), 0);
 }
 
@@ -166,7 +166,7 @@ void ReceiverStates::aRecordingIsPlayedToItsEnd()
     const TQuickTerminal terminal(At(folder.Path(QLatin1String("field.nmea"))));
     QSignalSpy positions(terminal.Named("Receiver"), SIGNAL(positionChanged()));
     terminal.Get("Receiver.running = true");
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("ended"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("ended"), Patience);
     QCOMPARE(positions.size(), 12);
     QCOMPARE(terminal.Text("Receiver.utc"), QLatin1String("2026-05-01 12:00:01"));
     QCOMPARE(terminal.Get("Receiver.lines").toDouble(), 26.0);
@@ -187,11 +187,11 @@ void ReceiverStates::aRecordingOfTheDisplayIsItsTime()
     folder.MakeFile(QLatin1String("field.nmea"), Epoch(0) + Epoch(1));
     const TQuickTerminal terminal(At(folder.Path(QLatin1String("field.nmea"))));
     terminal.Get("Receiver.running = true");
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("ended"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("ended"), Patience);
     const QDateTime local = QDateTime(QDate(2026, 5, 1), QTime(12, 0), Qt::UTC).toLocalTime();
     QCOMPARE(TRegionSettingsProxy().GetDate(), local.date());
     QCOMPARE(TRegionSettingsProxy().GetTime().hour(), local.time().hour());
-    QTRY_COMPARE(terminal.Text("Clock.source"), QLatin1String("receiver"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.source"), QLatin1String("receiver"), Patience);
 }
 
 void ReceiverStates::anAddressThatCannotBeReadIsSaid_data()
@@ -207,7 +207,7 @@ void ReceiverStates::anAddressThatCannotBeReadIsSaid()
     QFETCH(QString, address);
     const TQuickTerminal terminal(At(address));
     terminal.Get("Receiver.running = true");
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("lost"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("lost"), Patience);
     QVERIFY(!terminal.Text("Receiver.reason").isEmpty());
     QCOMPARE(terminal.Text("Problems.first"), terminal.Text("Receiver.reason"));
 }
@@ -216,10 +216,10 @@ void ReceiverStates::aNewAddressIsUsedAtOnce()
 {
     const TQuickTerminal terminal(At(QLatin1String("/nowhere/field.nmea")));
     terminal.Get("Receiver.running = true");
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("lost"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("lost"), Patience);
     terminal.Store().SetParameter(PARAM_RECEIVER_ADDRESS, QLatin1String("simulator"), true);
-    QTRY_COMPARE(terminal.Text("Receiver.address"), QLatin1String("simulator"));
-    QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("receiving"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.address"), QLatin1String("simulator"), Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("receiving"), Patience);
     QCOMPARE(terminal.Get("Problems.count").toInt(), 0);
 }
 
@@ -232,13 +232,13 @@ void ReceiverStates::aLostFixIsSaid()
     const auto client = server.Accept();
     QVERIFY(client);
     QVERIFY(TReceiverServer::Send(*client, Epoch(1, "A", 5) + Epoch(2, "A", 5)));
-    QTRY_COMPARE(terminal.Get("Receiver.quality").toInt(), 5);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Get("Receiver.quality").toInt(), 5, Patience);
     const QString floating = terminal.Text("Receiver.fixText");
     QSignalSpy positions(terminal.Named("Receiver"), SIGNAL(positionChanged()));
     QVERIFY(TReceiverServer::Send(*client, Line("GNRMC,120000.30,V,,,,,,,010526,,,N") +
                                                Line("GNGGA,120000.30,,,,,0,03,,,M,,M,,")));
-    QTRY_VERIFY(!terminal.Get("Receiver.hasFix").toBool());
-    QTRY_COMPARE(terminal.Get("Receiver.satellites").toInt(), 3);
+    QTRY_VERIFY_WITH_TIMEOUT(!terminal.Get("Receiver.hasFix").toBool(), Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Get("Receiver.satellites").toInt(), 3, Patience);
     QCOMPARE(terminal.Get("Receiver.quality").toInt(), 0);
     QVERIFY(terminal.Text("Receiver.fixText") != floating);
     QVERIFY(positions.size() <= 1); // of the second epoch
@@ -251,7 +251,7 @@ void ReceiverStates::itMayBeStoppedAtAnyTime()
     for (int round = 0; round < 20; ++round) {
         terminal.Get("Receiver.running = true");
         if (round % 3 == 0)
-            QTRY_COMPARE(terminal.Text("Receiver.state"), QLatin1String("receiving"));
+            QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Receiver.state"), QLatin1String("receiving"), Patience);
         terminal.Get("Receiver.running = false");
         QCOMPARE(terminal.Text("Receiver.state"), QLatin1String("off"));
     }

@@ -171,7 +171,7 @@ void ParameterObjects::everyParameterIsSet()
     QCOMPARE(parameter->property("error").toString(), QString());
     QCOMPARE(parameter->property("value"), value);
     QCOMPARE(m_Terminal->Store().GetParameter(row.id), value);
-    QTRY_COMPARE(static_cast<int>(changes.size()), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(static_cast<int>(changes.size()), 1, Patience);
 }
 
 void ParameterObjects::everyParameterThatIsSetSurvivesARestart()
@@ -371,7 +371,7 @@ void ParameterObjects::theChangeOfAnotherProgramArrives()
     QSignalSpy areaChanges(area.get(), SIGNAL(valueChanged()));
     QSignalSpy pressureChanges(pressure.get(), SIGNAL(valueChanged()));
     QVERIFY(other->SetParameter(PARAM_AREA_UNIT, int{AREA_UNIT_ACRE}, true));
-    QTRY_COMPARE(static_cast<int>(areaChanges.size()), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(static_cast<int>(areaChanges.size()), 1, Patience);
     QCOMPARE(area->property("shownText").toString(), Latin("Acre"));
     QCOMPARE(static_cast<int>(pressureChanges.size()), 0);
 }

@@ -39,10 +39,10 @@ void RestartNeeds::aChangeThatTakesARestartIsSaid()
     parameter->setProperty("name", name);
     QCOMPARE(parameter->property("needsRestart").toBool(), true);
     parameter->setProperty("value", after);
-    QTRY_COMPARE(restart->property("needed").toBool(), true);
+    QTRY_COMPARE_WITH_TIMEOUT(restart->property("needed").toBool(), true, Patience);
     QVERIFY(restart->property("reason").toString().endsWith(QLatin1Char('.')));
     parameter->setProperty("value", before);
-    QTRY_COMPARE(restart->property("needed").toBool(), false);
+    QTRY_COMPARE_WITH_TIMEOUT(restart->property("needed").toBool(), false, Patience);
 }
 
 void RestartNeeds::theLanguageOfTheStartNeedsNone()

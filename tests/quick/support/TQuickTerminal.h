@@ -15,6 +15,9 @@
 
 #include <memory>
 
+/// How long a condition is waited for, in milliseconds. It is seldom needed; a loaded machine is no fault of a test.
+inline constexpr int Patience = 30000;
+
 /// A terminal in a folder of its own, and a QML object that imports the module. Tests read and write properties through
 /// QML, as a display does.
 ///

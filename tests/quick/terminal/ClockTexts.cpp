@@ -51,9 +51,9 @@ void ClockTexts::theTextsAreTheFacades()
     terminal.Store().SetParameter(PARAM_MONTH_FIRST, isMonthFirst, true);
     QFETCH(QString, time);
     QFETCH(QString, date);
-    QTRY_COMPARE(terminal.Text("Clock.shortTime"), time);
-    QTRY_COMPARE(terminal.Text("Clock.date"), date);
-    QTRY_COMPARE(terminal.Text("Clock.time"), TRegionSettingsProxy().GetTimeString());
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.shortTime"), time, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.date"), date, Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.time"), TRegionSettingsProxy().GetTimeString(), Patience);
     QCOMPARE(terminal.Text("Clock.date + ' ' + Clock.time"), terminal.Text("Clock.dateTime"));
     QCOMPARE(terminal.Get("[Clock.year, Clock.month, Clock.day, Clock.hour, Clock.minute].join()").toString(),
              QLatin1String("2026,3,5,14,5"));
@@ -63,7 +63,7 @@ void ClockTexts::theClockGoes()
 {
     const TQuickTerminal terminal;
     QVERIFY(terminal.Get("Clock.setDateTime(2026, 3, 5, 23, 59, 58)").toBool());
-    QTRY_COMPARE(terminal.Text("Clock.shortTime"), QLatin1String("00:00"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.shortTime"), QLatin1String("00:00"), Patience);
     QCOMPARE(terminal.Text("Clock.date"), QLatin1String("6 Mar, 2026"));
 }
 
@@ -112,8 +112,8 @@ void ClockTexts::aReceiverTakesTheDateOver()
     const TQuickTerminal terminal;
     QVERIFY(terminal.Get("Clock.setDateTime(2026, 3, 5, 14, 5, 9)").toBool());
     SetFromReceiver(QDateTime(QDate(2026, 3, 5), QTime(13, 5, 9), Qt::UTC));
-    QTRY_VERIFY(!terminal.Get("Clock.canSetDate").toBool());
-    QTRY_COMPARE(terminal.Text("Clock.offsetText"), QLatin1String("UTC +01:00"));
+    QTRY_VERIFY_WITH_TIMEOUT(!terminal.Get("Clock.canSetDate").toBool(), Patience);
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.offsetText"), QLatin1String("UTC +01:00"), Patience);
     QVERIFY(terminal.Get("Clock.setTime(16, 35, 0)").toBool());
     QCOMPARE(terminal.Text("Clock.offsetText"), QLatin1String("UTC +03:30"));
     QCOMPARE(terminal.Text("Clock.shortTime"), QLatin1String("16:35"));
@@ -125,7 +125,7 @@ void ClockTexts::theOffsetFollowsItsParameters()
     QSignalSpy changes(terminal.Named("Clock"), SIGNAL(offsetChanged()));
     terminal.Store().SetParameter(PARAM_UTC_OFFSET_HOURS, -9, true);
     terminal.Store().SetParameter(PARAM_UTC_OFFSET_MINUTES, -30, true);
-    QTRY_COMPARE(terminal.Text("Clock.offsetText"), QLatin1String("UTC -09:30"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Clock.offsetText"), QLatin1String("UTC -09:30"), Patience);
     QVERIFY(changes.size() <= 2);
 }
 
@@ -137,7 +137,7 @@ void ClockTexts::textsNotifyOnlyWhenTheyChange()
     QSignalSpy shortTimes(terminal.Named("Clock"), SIGNAL(shortTimeChanged()));
     QSignalSpy dates(terminal.Named("Clock"), SIGNAL(dateChanged()));
     QSignalSpy sources(terminal.Named("Clock"), SIGNAL(sourceChanged()));
-    QTRY_COMPARE(times.size(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(times.size(), 2, Patience);
     QCOMPARE(shortTimes.size(), 0);
     QCOMPARE(dates.size(), 0);
     QCOMPARE(sources.size(), 0);

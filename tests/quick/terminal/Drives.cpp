@@ -20,7 +20,7 @@ private slots:
 void Drives::theInternalDriveAndTheMemoryAreMeasured()
 {
     const TQuickTerminal terminal;
-    QTRY_VERIFY(terminal.Get("Drives.internalTotal").toDouble() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Drives.internalTotal").toDouble() > 0, Patience);
     QVERIFY(terminal.Get("Drives.internalFree <= Drives.internalTotal").toBool());
     QVERIFY(terminal.Get("Drives.memoryTotal > 0 && Drives.memoryFree <= Drives.memoryTotal").toBool());
     QVERIFY(terminal.Get("Drives.load >= 0 && Drives.load <= 1").toBool());
@@ -33,7 +33,7 @@ void Drives::theInternalDriveAndTheMemoryAreMeasured()
 void Drives::withoutAStickThereIsNone()
 {
     const TQuickTerminal terminal;
-    QTRY_VERIFY(terminal.Get("Drives.internalTotal").toDouble() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Drives.internalTotal").toDouble() > 0, Patience);
     QVERIFY(!terminal.Get("Drives.hasStick").toBool());
     QVERIFY(terminal.Get("isNaN(Drives.stickFree) && isNaN(Drives.stickTotal)").toBool());
     QCOMPARE(terminal.Text("Drives.stickText"), QLatin1String("No stick"));
@@ -45,24 +45,24 @@ void Drives::aStickComesAndGoes()
         QSKIP("Mounting is not permitted here.");
     const TQuickTerminal terminal;
     terminal.folder.MakeFolder(QLatin1String("usb"));
-    QTRY_COMPARE(terminal.Text("Drives.stickText"), QLatin1String("No stick"));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Drives.stickText"), QLatin1String("No stick"), Patience);
     {
         const TMemoryDrive stick(terminal.folder.Path(QLatin1String("usb")), "size=2000k,mode=0777");
         QVERIFY(stick.IsMounted());
-        QTRY_VERIFY(terminal.Get("Drives.hasStick").toBool());
+        QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Drives.hasStick").toBool(), Patience);
         QCOMPARE(terminal.Get("Drives.stickTotal").toDouble(), 2048000.0);
         QCOMPARE(terminal.Text("Drives.stickText"), QLatin1String("2.0 MB free of 2.0 MB"));
         terminal.folder.MakeFile(QLatin1String("usb/full"), QByteArray(1024000, 'x'));
-        QTRY_COMPARE(terminal.Text("Drives.stickText"), QLatin1String("1.0 MB free of 2.0 MB"));
+        QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Drives.stickText"), QLatin1String("1.0 MB free of 2.0 MB"), Patience);
     }
-    QTRY_VERIFY(!terminal.Get("Drives.hasStick").toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(!terminal.Get("Drives.hasStick").toBool(), Patience);
     QCOMPARE(terminal.Text("Drives.stickText"), QLatin1String("No stick"));
 }
 
 void Drives::whatStaysIsNotTold()
 {
     const TQuickTerminal terminal;
-    QTRY_VERIFY(terminal.Get("Drives.internalTotal").toDouble() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(terminal.Get("Drives.internalTotal").toDouble() > 0, Patience);
     QSignalSpy sticks(terminal.Named("Drives"), SIGNAL(stickChanged()));
     QSignalSpy texts(terminal.Named("Drives"), SIGNAL(stickTextChanged()));
     QSignalSpy loads(terminal.Named("Drives"), SIGNAL(memoryChanged()));

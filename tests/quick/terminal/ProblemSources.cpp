@@ -47,11 +47,11 @@ void ProblemSources::aStoreThatAnotherProgramHolds()
         TOtherProgram other(terminal.Store().Path());
         other.Run(QLatin1String("BEGIN IMMEDIATE"));
         QVERIFY(!terminal.Store().SetParameter(PARAM_METRIC, false, true));
-        QTRY_COMPARE(Keys(terminal), Words("store"));
+        QTRY_COMPARE_WITH_TIMEOUT(Keys(terminal), Words("store"), Patience);
         QVERIFY(terminal.Text("Problems.first").contains(QLatin1String("another program")));
         other.Run(QLatin1String("ROLLBACK"));
     }
-    QTRY_COMPARE(Keys(terminal), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(Keys(terminal), QStringList(), Patience);
     QCOMPARE(OpenStore(terminal.Store().Path())->GetParameter(PARAM_METRIC), QVariant(false)); // written by then
 }
 
@@ -64,9 +64,9 @@ void ProblemSources::aDriveThatIsNearlyFull()
     QVERIFY(drive.IsMounted());
     const TQuickTerminal terminal({{PARAM_INTERNAL_DRIVE, folder.Path() + QLatin1Char('/')}});
     QVERIFY(Fill(folder));
-    QTRY_VERIFY(Keys(terminal).contains(QLatin1String("drive")));
+    QTRY_VERIFY_WITH_TIMEOUT(Keys(terminal).contains(QLatin1String("drive")), Patience);
     QVERIFY(QFile::remove(folder.Path(QLatin1String("full"))));
-    QTRY_COMPARE(Keys(terminal), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(Keys(terminal), QStringList(), Patience);
 }
 
 void ProblemSources::logsThatLoseLines()
@@ -82,7 +82,7 @@ void ProblemSources::logsThatLoseLines()
     for (int line = 0; line < 1000; ++line)
         AddUserLogEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_EVENT, 0, QLatin1String("a long text to fill a page"),
                         QString());
-    QTRY_VERIFY(Keys(terminal).contains(QLatin1String("logs")));
+    QTRY_VERIFY_WITH_TIMEOUT(Keys(terminal).contains(QLatin1String("logs")), Patience);
     QVERIFY(QFile::remove(folder.Path(QLatin1String("full"))));
     QTRY_COMPARE_WITH_TIMEOUT(Keys(terminal), QStringList(), 60000);
 }
@@ -91,9 +91,9 @@ void ProblemSources::recordingThatIsOff()
 {
     const TQuickTerminal terminal;
     TSystemSettingsProxy().UpdateLowFlashRecordingOff(true);
-    QTRY_COMPARE(Keys(terminal), Words("recording"));
+    QTRY_COMPARE_WITH_TIMEOUT(Keys(terminal), Words("recording"), Patience);
     TSystemSettingsProxy().UpdateLowFlashRecordingOff(false);
-    QTRY_COMPARE(Keys(terminal), QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(Keys(terminal), QStringList(), Patience);
 }
 
 int main(int argc, char* argv[])

@@ -75,7 +75,7 @@ void Problems::anyThreadMayTell()
         TCallThread thread([] { CabQuick::SetProblem(Word("a"), Word("One.")); });
         thread.wait();
     }
-    QTRY_COMPARE(terminal.Text("Problems.first"), Word("One."));
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Problems.first"), Word("One."), Patience);
 }
 
 void Problems::withoutATerminalNothingHappens()

@@ -40,10 +40,10 @@ void Selections::everyKindIsReadAndWritten()
     QCOMPARE(terminal.Text(property.constData()), QString::fromUtf8("Süd 1"));
     QCOMPARE(terminal.Store().GetParameter(static_cast<EParamID>(parameter)).toString(), QString::fromUtf8("Süd 1"));
     QCOMPARE(terminal.Text("Selections.error"), QString());
-    QTRY_COMPARE(changes.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.size(), 1, Patience);
     terminal.Get((property + " = ''").constData());
     QCOMPARE(terminal.Text(property.constData()), QString());
-    QTRY_COMPARE(changes.size(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.size(), 2, Patience);
 }
 
 void Selections::aChangeByAnotherProgramArrives()
@@ -54,8 +54,8 @@ void Selections::aChangeByAnotherProgramArrives()
     const auto other = TSqliteStore::Open(terminal.Store().Path(), &error);
     QVERIFY2(other, qPrintable(error));
     QVERIFY(other->SetParameter(PARAM_ACTIVE_VEHICLE, QLatin1String("Tractor 2"), true));
-    QTRY_COMPARE(terminal.Text("Selections.vehicle"), QLatin1String("Tractor 2"));
-    QTRY_VERIFY(!changes.isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Text("Selections.vehicle"), QLatin1String("Tractor 2"), Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!changes.isEmpty(), Patience);
 }
 
 void Selections::aNameThatIsNotAcceptedIsSaid()

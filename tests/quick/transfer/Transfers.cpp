@@ -259,11 +259,12 @@ void Transfers::withoutAStickNothingIsDone()
 {
     for (const char* const call : {"self.exportLogs()", "self.exportProfile('a', [])", "self.writeSupport(false)"}) {
         QVERIFY(HasFailed(call));
-        QTRY_COMPARE(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"));
+        QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"), Patience);
         QCOMPARE(QDir(OnStick("")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
     }
     MountStick();
-    QTRY_COMPARE(m_Terminal->Get("Problems.count").toInt(), 0); // a stick is there, and the operator tries again
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 0,
+                              Patience); // a stick is there, and the operator tries again
     QVERIFY(IsDone("self.exportLogs()"));
 }
 
@@ -272,16 +273,16 @@ void Transfers::aFullStickIsSaid()
     MountStick("size=64k,mode=0777");
     MakeLargeLog(10000000);
     QVERIFY(HasFailed("self.exportLogs()"));
-    QTRY_COMPARE(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"), Patience);
     QVERIFY(!m_Terminal->Text("self.error").contains(QLatin1String("/proc/"))); // as people know the path
     QVERIFY(m_Terminal->Text("self.error").contains(OnStick("Diagnostics")));
     QVERIFY(IsDone("self.exportProfile('small', ['units'])"));
-    QTRY_COMPARE(m_Terminal->Get("Problems.count").toInt(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 0, Patience);
     QVERIFY(HasFailed("self.exportLogs()"));
-    QTRY_COMPARE(m_Terminal->Get("Problems.count").toInt(), 1);
-    QTRY_VERIFY(m_Terminal->Get("Drives.hasStick").toBool());
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 1, Patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_Terminal->Get("Drives.hasStick").toBool(), Patience);
     m_Stick->Pull();
-    QTRY_COMPARE(m_Terminal->Get("Problems.count").toInt(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 0, Patience);
 }
 
 void Transfers::aPulledStickIsSaid()
@@ -292,9 +293,9 @@ void Transfers::aPulledStickIsSaid()
     while (!QFileInfo::exists(OnStick("Diagnostics")) && State() == QLatin1String("running"))
         ; // the copy has begun, and takes longer than the next line
     m_Stick->Pull();
-    QTRY_COMPARE(State(), QLatin1String("failed"));
+    QTRY_COMPARE_WITH_TIMEOUT(State(), QLatin1String("failed"), Patience);
     QVERIFY(!m_Terminal->Text("self.error").isEmpty());
-    QTRY_COMPARE(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"), Patience);
     QCOMPARE(QDir(OnStick("")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
 }
 
@@ -315,7 +316,7 @@ void Transfers::aSecondTransferWaits()
     MountStick();
     m_Terminal->Get("self.exportLogs()");
     m_Terminal->Get("self.exportProfile('ignored', [])"); // while one of the object is running
-    QTRY_COMPARE(State(), QLatin1String("done"));
+    QTRY_COMPARE_WITH_TIMEOUT(State(), QLatin1String("done"), Patience);
     QVERIFY(!QFileInfo::exists(OnStick("ignored.profile")));
 }
 
