@@ -24,7 +24,7 @@ int LitSegments(double offLine)
     return offLine > 0 ? -count : count;
 }
 
-qreal Mix(qreal from, qreal to, double share) { return from + (to - from) * static_cast<qreal>(share); }
+int Mix(int from, int to, double share) { return qRound(from + (to - from) * share); }
 
 } // namespace
 
@@ -67,9 +67,8 @@ void TLightBar::SetDarkColor(const QColor& color) { Assign(m_DarkColor, color); 
 QColor TLightBar::LitColor(const QColor& color) const
 {
     const double share = DimmestLevel + (1 - DimmestLevel) * m_Level;
-    return QColor::fromRgbF(Mix(m_DarkColor.redF(), color.redF(), share),
-                            Mix(m_DarkColor.greenF(), color.greenF(), share),
-                            Mix(m_DarkColor.blueF(), color.blueF(), share));
+    return {Mix(m_DarkColor.red(), color.red(), share), Mix(m_DarkColor.green(), color.green(), share),
+            Mix(m_DarkColor.blue(), color.blue(), share)};
 }
 
 void TLightBar::paint(QPainter* painter)
