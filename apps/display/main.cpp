@@ -1,4 +1,5 @@
 #include "display/bench/Bench.h"
+#include "display/bench/BenchWork.h"
 #include "display/options/DisplayOptions.h"
 #include "display/session/TDisplaySession.h"
 #include "display/shot/Pictures.h"
@@ -90,7 +91,7 @@ int Measure(const tagDisplayOptions& options)
     QString error;
     if (!session.Start(own, &error) || !session.OpenWindow(own, &error))
         return Fail(error, STATUS_FAILED);
-    return RunBench(*session.Window(), [] { CabQuick::Receiver().SetRunning(true); });
+    return RunBench(*session.Window(), [&] { return StartBenchWork(session.Engine(), &error) ? QString() : error; });
 }
 
 } // namespace

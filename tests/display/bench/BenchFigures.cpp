@@ -1,12 +1,42 @@
 #include "display/bench/Bench.h"
 #include "display/bench/BenchDrive.h"
+#include "display/bench/BenchWork.h"
 #include "display/map/TMapItem.h"
+#include "display/session/TDisplaySession.h"
+#include "display/work/DemoField.h"
+#include "display/work/TWork.h"
 
 #include <QQuickWindow>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
+
+namespace {
+
+/// A window with a map alone, and a short plan that prints into a file.
+struct TBenchWindow
+{
+    TBenchWindow() : map(window.contentItem()), file(std::tmpfile(), std::fclose)
+    {
+        window.resize(400, 300);
+        map.setSize({400, 300});
+        map.SetModel(&model);
+        window.show();
+        plan.frames = 5;
+        plan.warmUpFrames = 1;
+        plan.liveSeconds = 1;
+        plan.output = file.get();
+    }
+
+    QQuickWindow window;
+    TMapModel model;
+    TMapItem map;
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file;
+    tagBenchPlan plan;
+};
+
+} // namespace
 
 class BenchFigures : public QObject
 {
@@ -68,34 +98,54 @@ private slots:
 
     void TheBenchPrintsItsFigures()
     {
-        QQuickWindow window;
-        window.resize(400, 300);
-        TMapModel model;
-        TMapItem map(window.contentItem());
-        map.setSize({400, 300});
-        map.SetModel(&model);
-        window.show();
-        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::tmpfile(), std::fclose);
-        QVERIFY(file);
-        tagBenchPlan plan;
-        plan.frames = 5;
-        plan.warmUpFrames = 1;
-        plan.liveSeconds = 1;
-        plan.output = file.get();
-        bool isStarted = false;
-        QCOMPARE(RunBench(
-                     window, [&] { isStarted = true; }, plan),
-                 0);
-        QVERIFY(isStarted);
+        TBenchWindow bench;
+        QVERIFY(bench.file);
+        QCOMPARE(RunBench(bench.window, {}, bench.plan), 0);
 
-        std::rewind(file.get());
+        std::rewind(bench.file.get());
         std::array<char, 4096> text = {};
-        const QByteArray output(text.data(), int(std::fread(text.data(), 1, text.size(), file.get())));
+        const QByteArray output(text.data(), int(std::fread(text.data(), 1, text.size(), bench.file.get())));
         for (const char* figure :
              {"400 x 300", "software renderer", "start to first frame: ", "\n1 h of coverage",
               "elapsed:", "worked:", "10 h of coverage", "median", "slowest frame of a zoom", "live: ", "memory: "})
             QVERIFY2(output.contains(figure), output.constData());
         QVERIFY(!output.contains("nan"));
+        QVERIFY(!output.contains(" 0.0 strips"));
+    }
+
+    void LiveWorkThatFailsOrCoversNothingIsNotMeasured_data()
+    {
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("fails") << QStringLiteral("no field");
+        QTest::newRow("covers nothing") << QString();
+    }
+    void LiveWorkThatFailsOrCoversNothingIsNotMeasured()
+    {
+        QFETCH(QString, problem);
+        TBenchWindow bench;
+        bool isStarted = false;
+        const auto startWork = [&] {
+            isStarted = true;
+            return problem;
+        };
+        QCOMPARE(RunBench(bench.window, startWork, bench.plan), 1);
+        QVERIFY(isStarted);
+    }
+
+    /// As the program starts it: ground of the job is covered.
+    void TheWorkOfTheBenchCoversGround()
+    {
+        const QTemporaryDir folder;
+        tagDisplayOptions options;
+        options.dataFolder = folder.path();
+        TDisplaySession session;
+        QString error;
+        QVERIFY2(session.Start(options, &error) && session.OpenWindow(options, &error), qPrintable(error));
+        QVERIFY2(StartBenchWork(session.Engine(), &error), qPrintable(error));
+        TWork& work = *TWork::Of(session.Engine());
+        QVERIFY(work.IsWorking() && !work.IsLoading());
+        QVERIFY(work.JobText().contains(QLatin1String(DemoField::Job)));
+        QTRY_VERIFY(work.Map()->Strips().size() > 5);
     }
 
     void AWindowWithoutAMapIsNotMeasured()
