@@ -24,7 +24,7 @@ Item {
     implicitWidth: 2 * Sizes.margin + heading.implicitWidth + (icon !== "" ? Sizes.icon + Sizes.margin : 0)
                    + (opens ? Sizes.icon + Sizes.margin : 0)
     implicitHeight: Math.max(Sizes.target, words.implicitHeight + 2 * Sizes.gap)
-    activeFocusOnTab: enabled
+    activeFocusOnTab: true
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: detail

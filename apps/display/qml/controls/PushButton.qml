@@ -39,7 +39,7 @@ Item {
     implicitWidth: Math.max(Sizes.target, label.implicitWidth + 3 * Sizes.margin
                                           + (icon === "" ? 0 : text === "" ? Sizes.icon : Sizes.icon + content.spacing))
     implicitHeight: Sizes.target
-    activeFocusOnTab: enabled && visible
+    activeFocusOnTab: true
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
     Accessible.onPressAction: press()

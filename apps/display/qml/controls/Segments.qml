@@ -63,7 +63,7 @@ FocusScope {
                 width: segments.isStacked ? segments.width
                                           : naturalWidth * Math.max(1, segments.width / Math.max(1, row.naturalWidth))
                 height: segments.isStacked ? Sizes.target + Sizes.gap : Sizes.target
-                activeFocusOnTab: segments.enabled
+                activeFocusOnTab: true
                 Accessible.role: Accessible.RadioButton
                 Accessible.name: modelData.text
                 Accessible.checkable: true
