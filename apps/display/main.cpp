@@ -21,6 +21,7 @@
 #include <csignal>
 #include <cstdio>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -68,6 +69,19 @@ bool IsFirstLook(TSqliteStore& store)
 {
     return store.GetParameter(PARAM_CLIENT).toString().isEmpty() &&
            store.GetParameter(PARAM_RECEIVER_ADDRESS).toString() == QLatin1String(ParameterRows::SimulatorAddress);
+}
+
+/// Starts the program again, in the place of this one. Returns only when that fails.
+void StartAgain(const char* name, const QStringList& arguments)
+{
+    QList<QByteArray> texts{name};
+    for (const QString& argument : RestartArguments(arguments))
+        texts.append(argument.toLocal8Bit());
+    std::vector<char*> pointers;
+    for (QByteArray& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    execv("/proc/self/exe", pointers.data());
 }
 
 int Run(const tagDisplayOptions& options)
@@ -128,7 +142,7 @@ int main(int argc, char* argv[])
         return Measure(options);
     const int status = Run(options);
     if (status == STATUS_RESTART) {
-        execv("/proc/self/exe", argv);
+        StartAgain(argv[0], Arguments(argc, argv));
         return Fail(QStringLiteral("cannot start again"), STATUS_FAILED);
     }
     return status;

@@ -16,6 +16,7 @@ struct tagOption
     const char* value; ///< what follows; null for an option that stands alone
     const char* meaning;
     QString (*read)(const QString& value, tagDisplayOptions& options); ///< returns what is wrong with the value
+    bool isStored = false; ///< the display stores it: it is not an option of a restart
 };
 
 template <QString tagDisplayOptions::*Member>
@@ -68,9 +69,9 @@ constexpr std::array Options = {
     tagOption{"--data", "DIR", "the data folder; by default that of the command-line tool",
               ReadText<&tagDisplayOptions::dataFolder>},
     tagOption{"--receiver", "ADDRESS", "simulator, a file, tcp://HOST:PORT, or serial:///DEVICE; it is kept",
-              ReadText<&tagDisplayOptions::receiver>},
+              ReadText<&tagDisplayOptions::receiver>, true},
     tagOption{"--language", "NAME", "language of the texts, such as de; it is kept",
-              ReadText<&tagDisplayOptions::language>},
+              ReadText<&tagDisplayOptions::language>, true},
     tagOption{"--size", "WxH", "size of the window in pixels, by default 1280x800", ReadSize},
     tagOption{"--full-screen", nullptr, "fills the screen", ReadFlag<&tagDisplayOptions::isFullScreen>},
     tagOption{"--page", "PAGE", "the page to begin with, or the only one to picture", ReadPage},
@@ -95,17 +96,24 @@ QString Troff(QString text)
     return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('-'), QLatin1String("\\-"));
 }
 
-QString ReadOption(const QStringList& arguments, int& index, tagDisplayOptions& options)
+const tagOption* FindOption(const QString& argument)
 {
-    const QString& argument = arguments.at(index);
     const QString name = argument.section(QLatin1Char('='), 0, 0);
     const auto* const option = std::find_if(Options.begin(), Options.end(),
                                             [&name](const tagOption& row) { return name == QLatin1String(row.name); });
-    if (option == Options.end())
+    return option == Options.end() ? nullptr : &*option;
+}
+
+QString ReadOption(const QStringList& arguments, int& index, tagDisplayOptions& options)
+{
+    const QString& argument = arguments.at(index);
+    const tagOption* const option = FindOption(argument);
+    if (option == nullptr)
         return QString::fromLatin1("unknown option \"%1\"").arg(argument);
     const bool isJoined = argument.contains(QLatin1Char('='));
     if (option->value == nullptr && isJoined)
-        return QString::fromLatin1("unexpected value in \"%1\"; expected %2").arg(argument, name);
+        return QString::fromLatin1("unexpected value in \"%1\"; expected %2")
+            .arg(argument, QLatin1String(option->name));
     QString value = argument.section(QLatin1Char('='), 1);
     if (option->value != nullptr && !isJoined)
         value = arguments.value(++index);
@@ -129,6 +137,21 @@ QString ReadDisplayOptions(const QStringList& arguments, tagDisplayOptions& opti
     if (options.isNight && options.pictureFolder.isEmpty())
         return QStringLiteral("--night needs --shot DIR");
     return {};
+}
+
+QStringList RestartArguments(const QStringList& arguments)
+{
+    QStringList kept;
+    for (int index = 0; index < arguments.size(); ++index) {
+        const QString& argument = arguments.at(index);
+        const tagOption* const option = FindOption(argument);
+        const bool hasNext = option != nullptr && option->value != nullptr && !argument.contains(QLatin1Char('='));
+        const int count = hasNext ? 2 : 1;
+        if (option == nullptr || !option->isStored)
+            kept += arguments.mid(index, count);
+        index += count - 1;
+    }
+    return kept;
 }
 
 QString DisplayHelp()

@@ -13,6 +13,8 @@ private slots:
     void aValueMayBeJoined();
     void whatIsWrongIsSaid_data();
     void whatIsWrongIsSaid();
+    void aRestartLeavesOutWhatIsStored_data();
+    void aRestartLeavesOutWhatIsStored();
     void helpNamesEveryOption();
 
 private:
@@ -29,7 +31,8 @@ void DisplayOptionsRead::withoutArgumentsAllIsAsStored()
     QVERIFY(options.dataFolder.endsWith(QLatin1String("/cabsettings")));
     QVERIFY(options.receiver.isEmpty() && options.language.isEmpty() && options.pictureFolder.isEmpty());
     QCOMPARE(options.size, QSize(1280, 800));
-    QVERIFY(!options.isFullScreen && !options.isNight && !options.isBench && !options.wantsHelp && !options.wantsVersion);
+    QVERIFY(!options.isFullScreen && !options.isNight && !options.isBench && !options.wantsHelp &&
+            !options.wantsVersion);
 }
 
 void DisplayOptionsRead::everyOptionIsRead()
@@ -81,6 +84,26 @@ void DisplayOptionsRead::whatIsWrongIsSaid()
     QFETCH(const QString, problem);
     tagDisplayOptions options;
     QCOMPARE(Read(qPrintable(line), options), problem);
+}
+
+void DisplayOptionsRead::aRestartLeavesOutWhatIsStored_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("again");
+    const auto row = [](const char* line, const char* again) {
+        QTest::newRow(line) << QString::fromLatin1(line) << QString::fromLatin1(again);
+    };
+    row("--language de", "");
+    row("--language=de --full-screen", "--full-screen");
+    row("--data /data --receiver tcp://host:1 --size 800x480", "--data /data --size 800x480");
+    row("--data --language --page logs", "--data --language --page logs"); // a folder of that name
+}
+
+void DisplayOptionsRead::aRestartLeavesOutWhatIsStored()
+{
+    QFETCH(const QString, line);
+    QFETCH(const QString, again);
+    QCOMPARE(RestartArguments(line.split(QLatin1Char(' '))).join(QLatin1Char(' ')), again);
 }
 
 void DisplayOptionsRead::helpNamesEveryOption()
