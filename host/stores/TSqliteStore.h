@@ -39,7 +39,8 @@ struct tagContent;
 /// opening fails; both are said.
 ///
 /// The store keeps these files beside the file `name`:
-/// - `name.good`, the last good copy. It is made by the last program that closes the file when the file was changed, and
+/// - `name.good`, the last good copy. It is made by the last program that closes the file when the file was changed,
+/// and
 ///   by the first one that opens it on a day or after a program that was killed.
 /// - `name.copies/`, a copy for each of the last seven days and the newest of each of the last four weeks on which the
 ///   store was open, by the terminal's clock. They are made with the good copy, and when the day changes. See

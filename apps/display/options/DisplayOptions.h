@@ -29,8 +29,8 @@ struct tagDisplayOptions
 /// @endcode
 QString ReadDisplayOptions(const QStringList& arguments, tagDisplayOptions& options);
 
-/// The arguments with which the display starts itself again: without those that it has stored, which the operator may have
-/// changed since.
+/// The arguments with which the display starts itself again: without those that it has stored, which the operator may
+/// have changed since.
 QStringList RestartArguments(const QStringList& arguments);
 
 /// The text of --help.
