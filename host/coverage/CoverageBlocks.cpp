@@ -79,7 +79,7 @@ bool CoverageBlocks::ReadRun(const QByteArray& payload, std::vector<tagCoverageS
 
 qint64 CoverageBlocks::StripsOfBytes(qint64 bytes)
 {
-    return std::max<qint64>((bytes - BytesOfNumber) / (BytesOfNumber * NumbersOfEdge) - 1, 0);
+    return std::max<qint64>((bytes - BytesOfNumber) / (qint64{BytesOfNumber} * NumbersOfEdge) - 1, 0);
 }
 
 bool CoverageBlocks::Edges(const tagCoverageStrip& strip, TEdge* before, TEdge* after)

@@ -140,7 +140,7 @@ QString MeasureLiveWork(TMapItem& map, TMapModel& model, const std::function<QSt
         DriveBenchField(model, fix, fix + 1);
         ++fix;
     });
-    const QString problem = startWork ? startWork() : QString();
+    QString problem = startWork ? startWork() : QString();
     if (!problem.isEmpty())
         return problem;
     // Work that has just selected its job has replaced what the map showed.
