@@ -1,5 +1,6 @@
-/// Qt's offscreen platform does not end what it makes at its start, and keeps alive with it what the scene graph has drawn
-/// for the last windows. The leak sanitizer reads this function; what this project allocates itself is still looked at.
+/// Qt's offscreen platform does not end what it makes at its start, and keeps alive with it what the scene graph has
+/// drawn for the last windows. The leak sanitizer reads this function; what this project allocates itself is still
+/// looked at.
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions()
 {
