@@ -6,9 +6,11 @@
 #include <QDateTime>
 #include <QtTest>
 
+#include <atomic>
+
 namespace {
 
-qint64 MachineSeconds = 0; // since 1970
+std::atomic<qint64> MachineSeconds{0}; // since 1970; the store asks for the time from a thread too
 
 void SetMachineTime(const char* utc)
 {
