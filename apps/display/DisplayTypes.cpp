@@ -1,9 +1,9 @@
 #include "display/DisplayTypes.h"
 
+#include "display/fieldwork/TWork.h"
 #include "display/keys/TFocusKeys.h"
 #include "display/lightbar/TLightBar.h"
 #include "display/map/TMapItem.h"
-#include "display/work/TWork.h"
 
 #include <QtQml>
 

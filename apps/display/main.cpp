@@ -1,9 +1,9 @@
 #include "display/bench/Bench.h"
 #include "display/bench/BenchWork.h"
+#include "display/fieldwork/DemoField.h"
 #include "display/options/DisplayOptions.h"
 #include "display/session/TDisplaySession.h"
 #include "display/shot/Pictures.h"
-#include "display/work/DemoField.h"
 
 #include "console/line/QuitOnSignal.h"
 #include "module/CabQuick.h"

@@ -2,7 +2,7 @@
 #include "support/TOpenDisplay.h"
 #include "support/VisibleItems.h"
 
-#include "display/work/TWork.h"
+#include "display/fieldwork/TWork.h"
 #include "module/CabQuick.h"
 #include "receiver/TReceiver.h"
 

@@ -1,7 +1,7 @@
 #include "display/bench/BenchWork.h"
 
-#include "display/work/DemoField.h"
-#include "display/work/TWork.h"
+#include "display/fieldwork/DemoField.h"
+#include "display/fieldwork/TWork.h"
 
 #include "module/CabQuick.h"
 #include "receiver/TReceiver.h"

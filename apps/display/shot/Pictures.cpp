@@ -1,10 +1,10 @@
 #include "display/shot/Pictures.h"
 
+#include "display/fieldwork/DemoField.h"
+#include "display/fieldwork/TWork.h"
 #include "display/map/TMapItem.h"
 #include "display/session/TDisplaySession.h"
 #include "display/shot/PageTable.h"
-#include "display/work/DemoField.h"
-#include "display/work/TWork.h"
 
 #include "module/CabQuick.h"
 #include "nmea/TFieldSimulator.h"

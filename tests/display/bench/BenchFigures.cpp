@@ -1,10 +1,10 @@
 #include "display/bench/Bench.h"
 #include "display/bench/BenchDrive.h"
 #include "display/bench/BenchWork.h"
+#include "display/fieldwork/DemoField.h"
+#include "display/fieldwork/TWork.h"
 #include "display/map/TMapItem.h"
 #include "display/session/TDisplaySession.h"
-#include "display/work/DemoField.h"
-#include "display/work/TWork.h"
 
 #include <QQuickWindow>
 #include <QTemporaryDir>

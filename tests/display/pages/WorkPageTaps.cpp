@@ -1,9 +1,9 @@
 #include "TTemporaryFolder.h"
 
+#include "display/fieldwork/DemoField.h"
+#include "display/fieldwork/TWork.h"
 #include "display/map/TMapModel.h"
 #include "display/session/TDisplaySession.h"
-#include "display/work/DemoField.h"
-#include "display/work/TWork.h"
 
 #include "module/CabQuick.h"
 #include "nmea/TFieldSimulator.h"

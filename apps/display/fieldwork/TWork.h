@@ -1,9 +1,9 @@
 #pragma once
 
-#include "display/work/JobData.h"
-#include "display/work/TGuidance.h"
-#include "display/work/TSimulatedController.h"
-#include "display/work/TStripMaker.h"
+#include "display/fieldwork/JobData.h"
+#include "display/fieldwork/TGuidance.h"
+#include "display/fieldwork/TSimulatedController.h"
+#include "display/fieldwork/TStripMaker.h"
 
 #include <QObject>
 #include <QString>

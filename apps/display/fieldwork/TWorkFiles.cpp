@@ -1,6 +1,6 @@
 // What TWork reads and writes.
 
-#include "display/work/TWork.h"
+#include "display/fieldwork/TWork.h"
 
 #include "guidance/FlagPoints.h"
 #include "module/CabQuick.h"

@@ -1,4 +1,4 @@
-#include "display/work/TStripMaker.h"
+#include "display/fieldwork/TStripMaker.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "display/work/TGuidance.h"
+#include "display/fieldwork/TGuidance.h"
 
 #include <cmath>
 

@@ -2,8 +2,8 @@
 
 #include "TQuickTerminal.h"
 
-#include "display/work/DemoField.h"
-#include "display/work/TWork.h"
+#include "display/fieldwork/DemoField.h"
+#include "display/fieldwork/TWork.h"
 #include "nmea/TFieldSimulator.h"
 #include "receiver/SimulatedField.h"
 #include "receiver/TReceiver.h"

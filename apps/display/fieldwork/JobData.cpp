@@ -1,4 +1,4 @@
-#include "display/work/JobData.h"
+#include "display/fieldwork/JobData.h"
 
 #include "boundaries/ExclusionZones.h"
 #include "boundaries/NeighbourBoundaries.h"

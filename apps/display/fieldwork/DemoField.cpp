@@ -1,4 +1,4 @@
-#include "display/work/DemoField.h"
+#include "display/fieldwork/DemoField.h"
 
 #include "boundaries/Boundary.h"
 #include "boundaries/ExclusionZones.h"

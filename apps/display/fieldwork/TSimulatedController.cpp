@@ -1,4 +1,4 @@
-#include "display/work/TSimulatedController.h"
+#include "display/fieldwork/TSimulatedController.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "display/work/TWork.h"
+#include "display/fieldwork/TWork.h"
 
 #include "module/CabQuick.h"
 #include "receiver/TReceiver.h"
