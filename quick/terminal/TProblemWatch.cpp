@@ -63,17 +63,16 @@ TProblemWatch::tagLook TProblemWatch::LookNow(TSqliteStore& store)
 void TProblemWatch::Look()
 {
     TSqliteStore& store = TParameterHub::Instance().Store();
+    const tagStickProblems before = {m_Problems.Coming(StickProblem), m_Problems.Coming(NoStickProblem)};
     TBackground::Lane("problems")
         .Run(
-            this, [&store] { return LookNow(store); }, [this](const tagLook& look) { Take(look); });
+            this, [&store] { return LookNow(store); }, [this, before](const tagLook& look) { Take(look, before); });
 }
 
-void TProblemWatch::Take(const tagLook& look)
+void TProblemWatch::Take(const tagLook& look, const tagStickProblems& before)
 {
     TakeDrive(look.drive);
-    if (look.hasStick != m_HadStick) // not by what is there now: it may be older than the problem
-        m_Problems.Clear(look.hasStick ? NoStickProblem : StickProblem);
-    m_HadStick = look.hasStick;
+    TakeStick(look.hasStick, before);
     TakeLogs(look);
     m_Problems.Keep(QLatin1String("recording"), look.isRecordingOff,
                     Translated(QT_TRANSLATE_NOOP("Problems", "Recording is off, because there is too little room.")));
@@ -81,6 +80,15 @@ void TProblemWatch::Take(const tagLook& look)
                     Translated(QT_TRANSLATE_NOOP("Problems", "Changes of settings are not stored yet: %1."))
                         .arg(look.writeFailure));
     m_Timer.start();
+}
+
+/// A look that began before the problem came says nothing of it: the stick may have come or gone since.
+void TProblemWatch::TakeStick(bool hasStick, const tagStickProblems& before)
+{
+    const QLatin1String over = hasStick ? NoStickProblem : StickProblem;
+    const int coming = m_Problems.Coming(over);
+    if (coming != 0 && coming == (hasStick ? before.withoutStick : before.withStick))
+        m_Problems.Clear(over);
 }
 
 void TProblemWatch::TakeDrive(const std::optional<tagSpace>& drive)

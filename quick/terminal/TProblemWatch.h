@@ -33,15 +33,22 @@ private:
         QString writeFailure;
     };
 
+    /// The comings of the problems of the stick when a look began.
+    struct tagStickProblems
+    {
+        int withStick;
+        int withoutStick;
+    };
+
     static tagLook LookNow(TSqliteStore& store);
     void Look();
-    void Take(const tagLook& look);
+    void Take(const tagLook& look, const tagStickProblems& before);
+    void TakeStick(bool hasStick, const tagStickProblems& before);
     void TakeDrive(const std::optional<tagSpace>& drive);
     void TakeLogs(const tagLook& look);
 
     TProblems& m_Problems;
     bool m_IsNearlyFull = false;
-    bool m_HadStick = false;
     qint64 m_LostLines = 0;
     int m_LooksSinceLoss;
     QTimer m_Timer; ///< until the next look

@@ -32,6 +32,10 @@ public:
     /// Sets the problem while @p isThere, else clears it.
     void Keep(const QString& key, bool isThere, const QString& text);
 
+    /// Which time the problem has come, counted over all problems; 0 when there is no such problem. Whoever looks
+    /// whether a problem is over asks before and after the look: it may have come again meanwhile.
+    int Coming(const QString& key) const;
+
     int Count() const { return static_cast<int>(m_Problems.size()); }
 
     /// The text of the newest problem; empty without one.
@@ -51,10 +55,12 @@ private:
         QString key;
         QString text;
         QString since;
+        int coming;
     };
 
     int RowOf(const QString& key) const;
     void TellFirst(const QString& before);
 
     QList<tagProblem> m_Problems;
+    int m_Comings = 0;
 };

@@ -31,6 +31,7 @@ private slots:
     void aBundleForSupportIsWritten();
     void withoutAStickNothingIsDone();
     void aFullStickIsSaid();
+    void theProblemOfAStickEndsWithIt();
     void aPulledStickIsSaid();
     void anObjectMayGoWhileItsTransferRuns();
     void aSecondTransferWaits();
@@ -283,6 +284,19 @@ void Transfers::aFullStickIsSaid()
     QTRY_VERIFY_WITH_TIMEOUT(m_Terminal->Get("Drives.hasStick").toBool(), Patience);
     m_Stick->Pull();
     QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 0, Patience);
+}
+
+/// However briefly it was there: no look at the drives need have seen it.
+void Transfers::theProblemOfAStickEndsWithIt()
+{
+    MakeLargeLog(10000000);
+    for (int i = 0; i < 3; ++i) {
+        MountStick("size=64k,mode=0777");
+        QVERIFY(HasFailed("self.exportLogs()"));
+        QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 1, Patience);
+        m_Stick->Pull();
+        QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 0, Patience);
+    }
 }
 
 void Transfers::aPulledStickIsSaid()
