@@ -31,7 +31,10 @@ void DeleteChildren(QSGNode& node)
 } // namespace
 
 TMapNode::TMapNode(QQuickWindow& window)
-    : m_Window(window), m_TilesNode(new QSGTransformNode), m_FlagsNode(new QSGNode), m_VehicleNode(new QSGTransformNode)
+    : m_Window(window)
+    , m_TilesNode(new QSGTransformNode)
+    , m_FlagsNode(new QSGTransformNode)
+    , m_VehicleNode(new QSGTransformNode)
 {
     appendChildNode(m_TilesNode);
     appendChildNode(m_FlagsNode);

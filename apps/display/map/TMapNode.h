@@ -16,7 +16,10 @@ class QQuickWindow;
 
 /// The map in the scene graph: image nodes alone. A texture is made when what it shows was painted again. Belongs to
 /// the thread that renders.
-class TMapNode : public QSGNode
+///
+/// All nodes that hold others are transform nodes: when one below them is moved or added, the software renderer of Qt
+/// finds where they are on the window, and what clips them, with transform nodes only.
+class TMapNode : public QSGTransformNode
 {
 public:
     explicit TMapNode(QQuickWindow& window);
@@ -40,7 +43,7 @@ private:
 
     QQuickWindow& m_Window;
     QSGTransformNode* m_TilesNode;
-    QSGNode* m_FlagsNode;
+    QSGTransformNode* m_FlagsNode;
     QSGTransformNode* m_VehicleNode;
     QSGImageNode* m_CrossHairsNode = nullptr;
     std::map<TMapTiles::Place, tagTileNode> m_Tiles;
