@@ -35,7 +35,13 @@ constexpr double ZoneTint = 0.25;
 constexpr double ActiveLineWidth = 5;
 constexpr double NeighbourWidth = 1.5;
 constexpr double NeighbourStrength = 0.5;
-constexpr double NeighbourPixelsLeast = 18; // nearer ones would hide the field
+
+/// The lines next to the active one are shown from this spacing on, in pixels; nearer ones would hide it.
+constexpr double NextPixelsLeast = 18;
+constexpr int NextLines = 2; // on each side
+/// All lines are shown from this spacing on; nearer ones, all together, look like a hatch over the field.
+constexpr double AllPixelsLeast = 70;
+
 constexpr double MarkRadius = 7;
 
 /// Pixels beyond the tile that a wide line can still reach.
@@ -190,11 +196,17 @@ void PaintGuidance(QPainter& painter, const tagTilePlace& place, const QColor& c
         const QPointF foot = middle + right * (aside - across);
         painter.drawLine(foot - along * half * 2, foot + along * half * 2);
     };
-    if (spacing >= NeighbourPixelsLeast * place.detail) {
+    if (spacing >= NextPixelsLeast * place.detail) {
         QColor pale = color;
         pale.setAlphaF(NeighbourStrength);
         painter.setPen(QPen(pale, NeighbourWidth * place.detail, Qt::SolidLine, Qt::FlatCap));
-        for (double line = std::ceil((across - half) / spacing); line * spacing <= across + half; ++line)
+        double line = std::ceil((across - half) / spacing);
+        double last = std::floor((across + half) / spacing);
+        if (spacing < AllPixelsLeast * place.detail) {
+            line = std::max(line, double(guidance.activeLine) - NextLines);
+            last = std::min(last, double(guidance.activeLine) + NextLines);
+        }
+        for (; line <= last; ++line)
             if (line != guidance.activeLine)
                 draw(line);
     }

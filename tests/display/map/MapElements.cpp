@@ -171,12 +171,14 @@ private slots:
         shown.map->SetGridColor(shown.map->MapColor());
         shown.map->SetCrossHairsColor(shown.map->MapColor());
         shown.model.SetVehicle({{0, 0}, heading, 2, 2, true});
-        shown.model.SetGuidance({{-30, -100}, {-30, 50}, 12, 2, true}); // northwards: the second to the right is at -6
+        constexpr double Spacing = 24;
+        shown.model.SetGuidance(
+            {{-30, -100}, {-30, 50}, Spacing, 2, true}); // northwards: the second to the right is at 18
         const QImage picture = shown.Picture();
         const QColor active = shown.map->TrackColor();
         for (const double north : {-22.0, 25.0, 33.0}) {
             for (int line = -2; line <= 6; ++line) {
-                const QPointF place(-30 + 12 * line, north);
+                const QPointF place(-30 + Spacing * line, north);
                 if (!picture.rect().adjusted(2, 2, -2, -2).contains(shown.Pixel(place)))
                     continue;
                 const QColor color = picture.pixelColor(shown.Pixel(place));
@@ -188,9 +190,44 @@ private slots:
                     QVERIFY(!IsNear(color, active, 40));
                     QVERIFY(!IsNear(color, shown.map->MapColor(), 6));
                 }
-                const QColor between = picture.pixelColor(shown.Pixel(place + QPointF(6, 0)));
-                QVERIFY(IsNear(between, shown.map->MapColor()));
+                const QPointF between = place + QPointF(Spacing / 2, 0);
+                if (picture.rect().contains(shown.Pixel(between)))
+                    QVERIFY(IsNear(picture.pixelColor(shown.Pixel(between)), shown.map->MapColor()));
             }
+        }
+    }
+
+    /// All of them, near each other, would be a hatch in which the line to drive is lost.
+    void NearGuidanceLinesAreShownNextToTheActiveOneOnly_data()
+    {
+        QTest::addColumn<double>("pixels");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        QTest::newRow("too near") << 17.0 << 3 << 3;
+        QTest::newRow("near") << 18.0 << 1 << 5;
+        QTest::newRow("12 m, first zoom") << 48.0 << 1 << 5;
+        QTest::newRow("still near") << 69.0 << 1 << 5;
+        QTest::newRow("apart") << 70.0 << -1 << 7;
+    }
+    void NearGuidanceLinesAreShownNextToTheActiveOneOnly()
+    {
+        QFETCH(double, pixels);
+        QFETCH(int, first);
+        QFETCH(int, last);
+        tagMapWindow shown;
+        shown.map->SetHeadingUp(false);
+        shown.map->SetGridColor(shown.map->MapColor());
+        shown.map->SetCrossHairsColor(shown.map->MapColor());
+        const double spacing = pixels * Pixel;
+        constexpr int Active = 3;
+        shown.model.SetGuidance({{-Active * spacing, -100}, {-Active * spacing, 50}, spacing, Active, true});
+        const QImage picture = shown.Picture();
+        for (int line = Active - 4; line <= Active + 4; ++line) {
+            const double east = (line - Active) * spacing;
+            bool isThere = false;
+            for (const double side : {-Pixel, 0.0, Pixel})
+                isThere = isThere || !IsNear(picture.pixelColor(shown.Pixel({east + side, 33})), shown.map->MapColor());
+            QVERIFY2(isThere == (line >= first && line <= last), qPrintable(QString::number(line)));
         }
     }
 
