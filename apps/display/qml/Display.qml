@@ -91,7 +91,8 @@ FocusKeys {
 
                 Message {
                     objectName: "problem"
-                    visible: index < 2
+                    // The page keeps room for its buttons.
+                    visible: index < (Sizes.isCompact ? 1 : 2)
                     text: model.text
                 }
             }

@@ -16,7 +16,7 @@ Rectangle {
     signal clicked()
 
     width: parent ? parent.width : implicitWidth
-    implicitHeight: Math.max(action !== "" ? Sizes.target + 2 * Sizes.gap : 0, words.implicitHeight + 2 * Sizes.gap)
+    implicitHeight: Math.max(action !== "" ? Sizes.target + 2 * Sizes.margin : 0, words.implicitHeight + 2 * Sizes.gap)
     color: Scheme.panel
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text

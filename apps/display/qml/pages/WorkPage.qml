@@ -11,12 +11,15 @@ Item {
 
     signal openSettings(string section)
 
+    readonly property real freeHeight: height - (Sizes.isPortrait ? tiles.height + Sizes.margin : 0)
     readonly property real oneColumn: 7 * Sizes.target + 5 * Sizes.gap + 2 * Sizes.margin
-    // Where the buttons have no room in one column, those of the line stand in a row at the foot.
-    readonly property bool isLow: height < oneColumn + 2 * Sizes.margin
+                                      + (Sizes.isPortrait ? Sizes.target + 2 * Sizes.margin : 0)
+    // Where the buttons have no room in one column, those of the line stand in a row at the foot. A message above the
+    // page takes room from it.
+    readonly property bool isLow: freeHeight < oneColumn + 2 * Sizes.margin
     readonly property real tilesWidth: tiles.names.length === 0 || Sizes.isPortrait ? 0 : tiles.width + Sizes.margin
     // Where nothing covers the map.
-    readonly property rect free: Qt.rect(0, 0, width - tilesWidth, height - (Sizes.isPortrait ? tiles.height + Sizes.margin : 0))
+    readonly property rect free: Qt.rect(0, 0, width - tilesWidth, freeHeight)
 
     MapView {
         id: map
@@ -64,12 +67,15 @@ Item {
     LinePanel {
         id: line
 
+        objectName: "linePanel"
+
         readonly property real from: mapButtons.x + mapButtons.width
 
         x: from + (page.free.width - from - width) / 2
         y: Sizes.margin
         room: page.free.width - from - 2 * Sizes.margin
-        visible: Work.hasLine
+        // Nobody is led without a position.
+        visible: Work.hasLine && Work.hasPosition
     }
     Panel {
         anchors.horizontalCenter: line.horizontalCenter
@@ -92,6 +98,7 @@ Item {
 
         x: Sizes.margin
         y: Sizes.margin
+        room: page.freeHeight - 2 * Sizes.margin
         map: map
         headingUp: headingUp.value === true
         onTurn: headingUp.value = headingUp.value !== true

@@ -58,7 +58,8 @@ Item {
         anchors.right: more.left
         anchors.margins: Sizes.gap
         anchors.verticalCenter: less.verticalCenter
-        height: Sizes.target - 2 * Sizes.gap
+        // At night a bar is as narrow as a finger finds it: it shows bright colours too.
+        height: Scheme.isDay ? Sizes.target - 2 * Sizes.gap : Sizes.target / 3
 
         Repeater {
             model: bar.cells

@@ -2,15 +2,18 @@ import QtQuick 2.15
 import CabSettings 1.0
 import "../../controls"
 
-// What the operator does to the map with one tap.
-Column {
+// What the operator does to the map with one tap: below each other, or two by two where there is no room for that.
+Grid {
     id: buttons
 
+    // The height that there is.
+    property real room: 0
     property Item map
     property bool headingUp: true
 
     signal turn()
 
+    columns: 4 * Sizes.target + 3 * Sizes.gap <= room ? 1 : 2
     spacing: Sizes.gap
 
     IconButton {
