@@ -89,11 +89,12 @@ void PageColors::textsCanBeRead()
     QFETCH(bool, isDay);
     TOpenDisplay display(QSize(1280, 800));
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     display.SetParameter(QLatin1String("display.day-switching"), 0);
     display.SetParameter(QLatin1String("display.day"), isDay);
     QStringList found;
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         const QImage picture = display.Picture();
         QVERIFY(!picture.isNull());
         for (const QQuickItem* text : VisibleItems::Texts(display.Content())) {
@@ -103,7 +104,7 @@ void PageColors::textsCanBeRead()
             const bool isFigure = isDay && VisibleItems::ShownSize(*text) >= FigureSize;
             const double contrast = Contrast(picture, place);
             if (contrast < (isFigure ? LeastContrastOfFigures : LeastContrast))
-                found.append(page + QLatin1String(": ") + VisibleItems::Describe(*text) +
+                found.append(view + QLatin1String(": ") + VisibleItems::Describe(*text) +
                              QString::fromLatin1(" has a contrast of %1").arg(contrast));
         }
     }
@@ -114,10 +115,11 @@ void PageColors::theNightIsDark()
 {
     TOpenDisplay display(QSize(1280, 800));
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     display.SetParameter(QLatin1String("display.day-switching"), 0);
     display.SetParameter(QLatin1String("display.day"), false);
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         const QImage picture = display.Picture();
         QVERIFY(!picture.isNull());
         QHash<QRgb, int> counts;
@@ -125,13 +127,13 @@ void PageColors::theNightIsDark()
             for (int x = 0; x < picture.width(); ++x)
                 ++counts[picture.pixel(x, y)];
         }
-        QVERIFY2(!counts.contains(QColor(Qt::white).rgb()), qPrintable(page));
+        QVERIFY2(!counts.contains(QColor(Qt::white).rgb()), qPrintable(view));
         double sum = 0;
         for (auto count = counts.cbegin(); count != counts.cend(); ++count)
             sum += Luminance(QColor(count.key())) * count.value();
         const double mean = sum / (double(picture.width()) * picture.height());
-        qDebug("%s: mean luminance %.4f", qPrintable(page), mean);
-        QVERIFY2(mean < MostLuminanceAtNight, qPrintable(page + QString::fromLatin1(": %1").arg(mean)));
+        qDebug("%s: mean luminance %.4f", qPrintable(view), mean);
+        QVERIFY2(mean < MostLuminanceAtNight, qPrintable(view + QString::fromLatin1(": %1").arg(mean)));
     }
 }
 

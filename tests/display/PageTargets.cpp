@@ -18,8 +18,9 @@ private slots:
 
 namespace {
 
-/// On a screen of 160 dots per inch.
-const double LeastSize = 76;
+/// On a screen of 160 dots per inch, and on one of 480 lines, which has about 130.
+const int LeastSize = 76;
+const int LeastSizeOfLowScreen = 60;
 const double LeastGap = 8;
 
 /// Places are at fractions of a pixel.
@@ -28,9 +29,12 @@ const double Tolerance = 0.51;
 void AddSizes()
 {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("1024x768") << QSize(1024, 768);
-    QTest::newRow("1280x800") << QSize(1280, 800);
-    QTest::newRow("1920x1200") << QSize(1920, 1200);
+    QTest::addColumn<int>("least");
+    QTest::newRow("800x480") << QSize(800, 480) << LeastSizeOfLowScreen;
+    QTest::newRow("800x1280") << QSize(800, 1280) << LeastSize;
+    QTest::newRow("1024x768") << QSize(1024, 768) << LeastSize;
+    QTest::newRow("1280x800") << QSize(1280, 800) << LeastSize;
+    QTest::newRow("1920x1200") << QSize(1920, 1200) << LeastSize;
 }
 
 /// How far two places are from each other; 0 when they overlap.
@@ -48,17 +52,19 @@ void PageTargets::areLargeEnough_data() { AddSizes(); }
 void PageTargets::areLargeEnough()
 {
     QFETCH(QSize, size);
+    QFETCH(int, least);
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     QStringList found;
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         const QList<QQuickItem*> targets = VisibleItems::Targets(display.Content());
         QVERIFY(!targets.isEmpty());
         for (const QQuickItem* target : targets) {
             const QRectF whole = VisibleItems::WholePart(*target);
-            if (std::min(whole.width(), whole.height()) < LeastSize - Tolerance)
-                found.append(page + QLatin1String(": ") + VisibleItems::Describe(*target));
+            if (std::min(whole.width(), whole.height()) < least - Tolerance)
+                found.append(view + QLatin1String(": ") + VisibleItems::Describe(*target));
         }
     }
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
@@ -71,9 +77,10 @@ void PageTargets::areApart()
     QFETCH(QSize, size);
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     QStringList found;
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         const QList<QQuickItem*> targets = VisibleItems::Targets(display.Content());
         for (int first = 0; first < targets.size(); ++first) {
             for (int second = first + 1; second < targets.size(); ++second) {
@@ -82,7 +89,7 @@ void PageTargets::areApart()
                 // A button that lies on a larger target, such as the map, is hit first.
                 const bool isOnTop = one.contains(other);
                 if (!isOnTop && Gap(one, other) < LeastGap - Tolerance)
-                    found.append(page + QLatin1String(": ") + VisibleItems::Describe(*targets.at(first)) +
+                    found.append(view + QLatin1String(": ") + VisibleItems::Describe(*targets.at(first)) +
                                  QLatin1String(" and ") + VisibleItems::Describe(*targets.at(second)));
             }
         }
@@ -94,11 +101,12 @@ void PageTargets::allHaveNames()
 {
     TOpenDisplay display(QSize(1280, 800));
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    display.MakeExample();
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         for (const QQuickItem* target : VisibleItems::Targets(display.Content()))
             QVERIFY2(!VisibleItems::NameOf(*target).isEmpty(),
-                     qPrintable(page + QLatin1String(": ") + VisibleItems::Describe(*target)));
+                     qPrintable(view + QLatin1String(": ") + VisibleItems::Describe(*target)));
     }
 }
 

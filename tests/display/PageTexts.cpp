@@ -15,6 +15,7 @@ private slots:
     void noneIsCutOff();
     void longerWordsAreNotCutOff_data();
     void longerWordsAreNotCutOff();
+    void allAreLargeEnough_data();
     void allAreLargeEnough();
 };
 
@@ -22,7 +23,7 @@ namespace {
 
 const QSize Sizes[] = {QSize(800, 480), QSize(1280, 800), QSize(1920, 1200), QSize(800, 1280)};
 
-/// The smallest text of a screen from 1024 pixels on.
+/// The smallest text.
 const int LeastText = 24;
 
 void AddSizes()
@@ -51,15 +52,15 @@ public:
 QStringList CutOff(TOpenDisplay& display)
 {
     QStringList found;
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         const QList<QQuickItem*> texts = VisibleItems::Texts(display.Content());
         if (texts.isEmpty())
-            found.append(page + QLatin1String(": no text at all"));
+            found.append(view + QLatin1String(": no text at all"));
         for (const QQuickItem* text : texts) {
             const QString problem = VisibleItems::WhatIsCutOff(*text);
             if (!problem.isEmpty())
-                found.append(page + QLatin1String(": ") + VisibleItems::Describe(*text) + QLatin1String(" is ") +
+                found.append(view + QLatin1String(": ") + VisibleItems::Describe(*text) + QLatin1String(" is ") +
                              problem);
         }
     }
@@ -75,6 +76,7 @@ void PageTexts::noneIsCutOff()
     QFETCH(QSize, size);
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     const QStringList found = CutOff(display);
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
 }
@@ -88,20 +90,25 @@ void PageTexts::longerWordsAreNotCutOff()
     QVERIFY(QCoreApplication::installTranslator(&longer));
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     const QStringList found = CutOff(display);
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
 }
 
+void PageTexts::allAreLargeEnough_data() { AddSizes(); }
+
 void PageTexts::allAreLargeEnough()
 {
-    TOpenDisplay display(QSize(1280, 800));
+    QFETCH(QSize, size);
+    TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    display.MakeExample();
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         for (const QQuickItem* text : VisibleItems::Texts(display.Content())) {
-            const int size = VisibleItems::ShownSize(*text);
-            QVERIFY2(size >= LeastText, qPrintable(page + QLatin1String(": ") + VisibleItems::Describe(*text) +
-                                                   QString::fromLatin1(" has letters of %1").arg(size)));
+            const int letters = VisibleItems::ShownSize(*text);
+            QVERIFY2(letters >= LeastText, qPrintable(view + QLatin1String(": ") + VisibleItems::Describe(*text) +
+                                                      QString::fromLatin1(" has letters of %1").arg(letters)));
         }
     }
 }

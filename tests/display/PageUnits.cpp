@@ -117,16 +117,17 @@ void PageUnits::noPageShowsAUnitOfTheOtherSystem()
     QFETCH(int, system);
     TOpenDisplay display(QSize(1280, 800));
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     const tagSystem chosen = Systems().at(system);
     Choose(display, chosen);
     int units = 0;
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         for (const QQuickItem* text : VisibleItems::Texts(display.Content())) {
             for (const QString& unit : UnitsIn(*text)) {
                 ++units;
                 QVERIFY2(!chosen.others.contains(unit),
-                         qPrintable(page + QLatin1String(": ") + VisibleItems::Describe(*text)));
+                         qPrintable(view + QLatin1String(": ") + VisibleItems::Describe(*text)));
             }
         }
     }
@@ -142,11 +143,12 @@ void PageUnits::everyQuantityIsATextOfTheLibrary()
     QFETCH(int, system);
     TOpenDisplay display(QSize(1280, 800));
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
     Choose(display, Systems().at(system));
     const QStringList units = MetricUnits() + OtherUnits();
     int quantities = 0;
-    for (const QString& page : TOpenDisplay::Pages()) {
-        display.ShowPage(page);
+    for (const QString& view : TOpenDisplay::Views()) {
+        display.Show(view);
         const QStringList given = display.QuantityTexts();
         for (const QQuickItem* item : VisibleItems::Texts(display.Content())) {
             const QString text = VisibleItems::Text(*item);
@@ -157,7 +159,7 @@ void PageUnits::everyQuantityIsATextOfTheLibrary()
                 const bool isGiven = std::any_of(given.begin(), given.end(), [&text](const QString& quantity) {
                     return !quantity.isEmpty() && text.contains(quantity);
                 });
-                QVERIFY2(isGiven, qPrintable(page + QLatin1String(": ") + VisibleItems::Describe(*item)));
+                QVERIFY2(isGiven, qPrintable(view + QLatin1String(": ") + VisibleItems::Describe(*item)));
             }
         }
     }

@@ -1,5 +1,6 @@
 #include "display/options/DisplayOptions.h"
 
+#include "display/shot/OverlayTable.h"
 #include "display/shot/PageTable.h"
 
 #include <QRegularExpression>
@@ -58,7 +59,7 @@ QString ReadSize(const QString& value, tagDisplayOptions& options)
 
 QString ReadPage(const QString& value, tagDisplayOptions& options)
 {
-    if (FindPage(value) == nullptr)
+    if (FindPage(value) == nullptr && FindOverlay(value) == nullptr)
         return QString::fromLatin1("unknown page \"%1\"; expected %2")
             .arg(value, PageNames().join(QLatin1String(", ")));
     options.page = value;
@@ -75,7 +76,8 @@ constexpr std::array Options = {
     tagOption{"--size", "WxH", "size of the window in pixels, by default 1280x800", ReadSize},
     tagOption{"--full-screen", nullptr, "fills the screen", ReadFlag<&tagDisplayOptions::isFullScreen>},
     tagOption{"--page", "PAGE", "the page to begin with, or the only one to picture", ReadPage},
-    tagOption{"--shot", "DIR", "writes a picture of every page into the folder, of an example field, and ends",
+    tagOption{"--shot", "DIR",
+              "writes pictures of all pages, and of what opens over them, on an example field, and ends",
               ReadText<&tagDisplayOptions::pictureFolder>},
     tagOption{"--night", nullptr, "with --shot: the colours of the night", ReadFlag<&tagDisplayOptions::isNight>},
     tagOption{"--bench", nullptr, "measures the frames, the load and the memory of the display, and ends",
@@ -136,6 +138,8 @@ QString ReadDisplayOptions(const QStringList& arguments, tagDisplayOptions& opti
     }
     if (options.isNight && options.pictureFolder.isEmpty())
         return QStringLiteral("--night needs --shot DIR");
+    if (FindOverlay(options.page) != nullptr && options.pictureFolder.isEmpty())
+        return QString::fromLatin1("--page %1 needs --shot DIR").arg(options.page);
     return {};
 }
 
@@ -166,6 +170,7 @@ QString DisplayHelp()
     for (const tagOption& option : Options)
         text += QString::fromLatin1("  %1  %2\n").arg(Left(option), -width).arg(QLatin1String(option.meaning));
     text += QString::fromLatin1("\nPages: %1\n").arg(PageNames().join(QLatin1String(", ")));
+    text += QString::fromLatin1("Pictures only: %1\n").arg(OverlayNames().join(QLatin1String(", ")));
     return text;
 }
 
@@ -179,5 +184,6 @@ QString DisplayManual()
     for (const tagOption& option : Options)
         text += QString::fromLatin1(".TP\n.B %1\n%2\n").arg(Troff(Left(option)), Troff(QLatin1String(option.meaning)));
     text += QString::fromLatin1(".SH PAGES\n%1\n").arg(Troff(PageNames().join(QLatin1String(", "))));
+    text += QString::fromLatin1(".PP\nPictures only: %1\n").arg(Troff(OverlayNames().join(QLatin1String(", "))));
     return text + QLatin1String(".SH SEE ALSO\n.BR cabsettings (1)\n");
 }

@@ -13,7 +13,8 @@ struct tagDisplayOptions
     QSize size = QSize(1280, 800);
     bool isFullScreen = false;
     QString pictureFolder; ///< empty: no pictures
-    QString page;          ///< the only one to be shown or pictured; empty: the first one, or all pictures
+    QString page;          ///< the only one to be shown or pictured; empty: the first one, or all pictures; an overlay
+                           ///< with pictures only
     bool isNight = false;
     bool isBench = false;
     bool wantsHelp = false;

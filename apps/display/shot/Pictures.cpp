@@ -4,6 +4,7 @@
 #include "display/fieldwork/TWork.h"
 #include "display/map/TMapItem.h"
 #include "display/session/TDisplaySession.h"
+#include "display/shot/OpenOverlay.h"
 #include "display/shot/PageTable.h"
 
 #include "module/CabQuick.h"
@@ -18,17 +19,20 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickItemGrabResult>
 #include <QQuickWindow>
 #include <QRegularExpression>
+#include <QStyleHints>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtMath>
 #include <QtQml>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -153,16 +157,40 @@ QImage GrabAtMoment(QQuickItem& item)
     return {};
 }
 
-bool WritePicture(QQuickItem& display, const tagPage& page, const QString& path, QString* error)
+bool WritePicture(QQuickItem& display, const QString& path, QString* error)
 {
-    display.setProperty("section", QLatin1String(page.section));
-    display.setProperty("page", QLatin1String(page.door));
     Wait(SettleMs);
     const QImage image = GrabAtMoment(display);
     if (!image.isNull() && image.save(path))
         return true;
     *error = QString::fromLatin1("cannot write the picture \"%1\"").arg(path);
     return false;
+}
+
+bool WritePageOrOverlay(const TDisplaySession& session, const QString& name, const QString& path, QString* error)
+{
+    auto* const display = session.Window()->findChild<QQuickItem*>(QStringLiteral("display"));
+    if (const tagPage* const page = FindPage(name)) {
+        display->setProperty("section", QLatin1String(page->section));
+        display->setProperty("page", QLatin1String(page->door));
+        return WritePicture(*display, path, error);
+    }
+    const tagOverlay& overlay = *FindOverlay(name);
+    if (!OpenOverlay(*session.Window(), session.Store(), overlay, error) || !WritePicture(*display, path, error))
+        return false;
+    CloseOverlay(*session.Window(), session.Store(), overlay);
+    return true;
+}
+
+/// The names of what is pictured when the options name nothing.
+QStringList AllPictures()
+{
+    QStringList names = PageNames();
+    for (const tagOverlay& overlay : Overlays) {
+        if (overlay.isPictured)
+            names.append(QLatin1String(overlay.name));
+    }
+    return names;
 }
 
 } // namespace
@@ -190,13 +218,11 @@ bool WritePictures(const tagDisplayOptions& options, QString* error)
         return false;
     }
     CabQuick::ShowDrives(Drives);
-    auto* const display = session.Window()->findChild<QQuickItem*>(QStringLiteral("display"));
+    // A cursor that blinks would be in some of the pictures only.
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
+    const QStringList names = options.page.isEmpty() ? AllPictures() : QStringList{options.page};
     const QString ending = QLatin1String(options.isNight ? "-night.png" : ".png");
-    for (const tagPage& page : Pages) {
-        const QString name = QLatin1String(page.name);
-        const bool isWanted = options.page.isEmpty() || options.page == name;
-        if (isWanted && !WritePicture(*display, page, options.pictureFolder + QLatin1Char('/') + name + ending, error))
-            return false;
-    }
-    return true;
+    return std::all_of(names.begin(), names.end(), [&](const QString& name) {
+        return WritePageOrOverlay(session, name, options.pictureFolder + QLatin1Char('/') + name + ending, error);
+    });
 }

@@ -73,6 +73,7 @@ void DisplayOptionsRead::whatIsWrongIsSaid_data()
     row("--data=", QLatin1String("missing value; expected --data DIR"));
     row("--full-screen=yes", QLatin1String("unexpected value in \"--full-screen=yes\"; expected --full-screen"));
     row("--night", QLatin1String("--night needs --shot DIR"));
+    row("--page keypad", QLatin1String("--page keypad needs --shot DIR"));
     for (const char* const word : {"800", "800x", "x480", "800x480x", "800x479", "4097x800", "1e3x800", "-800x480"})
         row(qPrintable(QString::fromLatin1("--size %1").arg(QLatin1String(word))),
             QString::fromLatin1("invalid size \"%1\"").arg(QLatin1String(word)) + size);
@@ -113,6 +114,7 @@ void DisplayOptionsRead::helpNamesEveryOption()
                                    "--page PAGE", "--shot DIR", "--night", "--bench", "--version", "--help"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
     QVERIFY(help.contains(QLatin1String("Pages: work, fields,")));
+    QVERIFY(help.contains(QLatin1String("Pictures only: keypad,")));
     tagDisplayOptions options;
     const QString problem = Read("--page wrok", options);
     QVERIFY2(problem.startsWith(QLatin1String("unknown page \"wrok\"; expected work, fields,")), qPrintable(problem));

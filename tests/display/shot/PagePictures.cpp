@@ -58,8 +58,11 @@ void PagePictures::everyPageHasOneOfItsOwn()
 
     const QMap<QString, QByteArray> pictures = PicturesIn(folder.path());
     QStringList expected;
+    const QString ending = QLatin1String(isNight ? "-night.png" : ".png");
     for (const QString& page : PageNames())
-        expected.append(page + QLatin1String(isNight ? "-night.png" : ".png"));
+        expected.append(page + ending);
+    for (const char* const overlay : {"keypad", "keypad-refused", "name", "color"})
+        expected.append(QLatin1String(overlay) + ending);
     expected.sort();
     QCOMPARE(QStringList(pictures.keys()), expected);
     QMap<QByteArray, QString> seen;

@@ -3,7 +3,10 @@
 #include "TTemporaryFolder.h"
 #include "VisibleItems.h"
 
+#include "display/fieldwork/DemoField.h"
+#include "display/fieldwork/TWork.h"
 #include "display/session/TDisplaySession.h"
+#include "display/shot/OpenOverlay.h"
 #include "display/shot/PageTable.h"
 #include "parameters/TParameterCatalogue.h"
 #include "stores/TSqliteStore.h"
@@ -53,6 +56,7 @@ struct TOpenDisplay::tagState
     QSize size;
     QString problem;
     std::unique_ptr<TDisplaySession> session;
+    const tagOverlay* open = nullptr; ///< the one that Show() has opened
 
     QQuickWindow* Window() const { return session ? session->Window() : nullptr; }
 };
@@ -89,7 +93,11 @@ bool TOpenDisplay::Start()
     return QTest::qWaitForWindowExposed(&window);
 }
 
-void TOpenDisplay::Stop() { m_State->session.reset(); }
+void TOpenDisplay::Stop()
+{
+    m_State->open = nullptr;
+    m_State->session.reset();
+}
 
 void TOpenDisplay::Restart()
 {
@@ -114,6 +122,32 @@ void TOpenDisplay::ShowPage(const QString& page)
     QMetaObject::invokeMethod(display, "open", Q_ARG(QVariant, QString::fromLatin1(row->door)),
                               Q_ARG(QVariant, QString::fromLatin1(row->section)));
     Settle();
+}
+
+QStringList TOpenDisplay::Views() { return PageNames() + OverlayNames(); }
+
+void TOpenDisplay::Show(const QString& view)
+{
+    TSqliteStore& store = m_State->session->Store();
+    if (m_State->open)
+        CloseOverlay(Window(), store, *m_State->open);
+    m_State->open = FindOverlay(view);
+    if (!m_State->open) {
+        ShowPage(view);
+        return;
+    }
+    QString error;
+    QVERIFY2(OpenOverlay(Window(), store, *m_State->open, &error), qPrintable(error));
+    Settle();
+}
+
+void TOpenDisplay::MakeExample()
+{
+    QString error;
+    QVERIFY2(MakeDemoField(m_State->session->Engine(), &error), qPrintable(error));
+    const TWork& work = *TWork::Of(m_State->session->Engine());
+    const int patience = 60000;
+    QVERIFY(QTest::qWaitFor([&work] { return !work.IsLoading(); }, patience));
 }
 
 void TOpenDisplay::Settle() const

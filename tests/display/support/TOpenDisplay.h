@@ -38,6 +38,16 @@ public:
     static QStringList Pages();
     void ShowPage(const QString& page);
 
+    /// The pages, and everything that opens over them, by the names of its table: "keypad", "question"... What opens
+    /// needs the example.
+    static QStringList Views();
+
+    /// Shows a view as the operator would. Closes the one before it.
+    void Show(const QString& view);
+
+    /// Makes the example field, and waits until its job is there.
+    void MakeExample();
+
     void Resize(const QSize& size);
 
     /// Ends the terminal and starts it again in the same folder, with the same pages.

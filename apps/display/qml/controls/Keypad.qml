@@ -21,6 +21,8 @@ import "."
 Overlay {
     id: keypad
 
+    objectName: "keypad"
+
     property string title: parameter ? parameter.title : ""
     property QtObject quantity: null
     property QtObject parameter: null

@@ -7,6 +7,8 @@ import "../controls"
 FocusScope {
     id: layer
 
+    objectName: "lockLayer"
+
     readonly property int holdMilliseconds: 1200
 
     function open() {

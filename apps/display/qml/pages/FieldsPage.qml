@@ -47,6 +47,7 @@ Item {
         navigator: page
 
         tools: PushButton {
+            objectName: "add"
             icon: "plus"
             text: page.level.add
             enabled: !tree.busy
@@ -86,6 +87,8 @@ Item {
 
                 IconButton {
                     id: more
+
+                    objectName: "change"
                     anchors.right: parent.right
                     icon: "pencil"
                     accessibleName: qsTr("Rename or remove %1").arg(model.name)

@@ -96,6 +96,7 @@ Item {
                 title: qsTr("Address")
 
                 ValueButton {
+                    objectName: "address"
                     room: parent.room
                     value: parameter.shownText
                     accessibleName: qsTr("Address")

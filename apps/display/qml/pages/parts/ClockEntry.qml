@@ -11,6 +11,8 @@ import "../../controls"
 Overlay {
     id: setting
 
+    objectName: "clockEntry"
+
     // year, month, day, hour, minute
     property var parts: [2000, 1, 1, 0, 0]
 

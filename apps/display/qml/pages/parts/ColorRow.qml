@@ -61,6 +61,8 @@ Item {
 
             Swatch {
                 id: swatch
+
+                objectName: "color"
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 color: parameter.value

@@ -10,6 +10,8 @@ import "../../controls"
 Overlay {
     id: actions
 
+    objectName: "itemActions"
+
     property string name
 
     signal rename()
@@ -45,6 +47,7 @@ Overlay {
         }
 
         PushButton {
+            objectName: "remove"
             width: parent.width
             icon: "trash"
             text: qsTr("Remove")

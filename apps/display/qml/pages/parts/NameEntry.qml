@@ -11,6 +11,8 @@ import "../../controls"
 Overlay {
     id: naming
 
+    objectName: "nameEntry"
+
     property string title
     property string hint
     // From the text to a sentence that says what is wrong; "" when nothing is.

@@ -73,6 +73,7 @@ SettingRow {
         id: button
 
         ValueButton {
+            objectName: parameter.name
             room: Math.min(parent ? parent.room : 0, Sizes.row * 16)
             value: parameter.shownText !== "" ? parameter.shownText : "—"
             accessibleName: parameter.title

@@ -10,6 +10,8 @@ import "../../controls"
 Overlay {
     id: question
 
+    objectName: "question"
+
     property string action
     property alias text: words.text
 

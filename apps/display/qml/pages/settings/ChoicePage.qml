@@ -9,6 +9,8 @@ import "../parts"
 SettingsPanel {
     id: page
 
+    objectName: "choicePage"
+
     property alias name: parameter.name
     readonly property int columns: Math.max(1, Math.min(3, Math.floor(width / (Sizes.target * 4))))
 

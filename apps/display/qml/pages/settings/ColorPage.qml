@@ -10,6 +10,8 @@ import "../parts"
 SettingsPanel {
     id: page
 
+    objectName: "colorPage"
+
     property alias name: parameter.name
 
     // Kept beside the colour: grey has no hue, and black neither hue nor saturation.
@@ -86,6 +88,7 @@ SettingsPanel {
             }
 
             PushButton {
+                objectName: "digits"
                 text: parameter.shownText
                 accessibleName: qsTr("Digits of the colour")
                 onClicked: digits.ask(parameter.text)

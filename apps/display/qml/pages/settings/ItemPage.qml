@@ -9,6 +9,8 @@ import "../parts"
 SettingsPanel {
     id: page
 
+    objectName: "itemPage"
+
     property alias name: parameter.name
     readonly property string kind: name.substring(name.lastIndexOf(".") + 1)
 
@@ -16,6 +18,7 @@ SettingsPanel {
     hasBack: true
 
     tools: PushButton {
+        objectName: "new"
         icon: "plus"
         text: qsTr("New")
         onClicked: naming.ask("")

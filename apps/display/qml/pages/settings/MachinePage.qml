@@ -47,6 +47,7 @@ SettingsPanel {
             meaning: qsTr("Decides the guidance lines beside each other, and the area done")
 
             ValueButton {
+                objectName: "implementWidth"
                 room: parent.room
                 value: width.text
                 accessibleName: qsTr("Implement width")

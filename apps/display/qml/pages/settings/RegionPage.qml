@@ -33,6 +33,7 @@ SettingsPanel {
             error: Clock.error
 
             PushButton {
+                objectName: "setClock"
                 text: qsTr("Set by hand")
                 onClicked: setting.ask()
             }

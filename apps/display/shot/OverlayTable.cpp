@@ -1,0 +1,76 @@
+#include "display/shot/OverlayTable.h"
+
+#include "module/CabQuick.h"
+#include "nmea/NmeaChecksum.h"
+#include "nmea/TFieldSimulator.h"
+#include "parameters/HostParameters.h"
+#include "parameters/ParameterRows.h"
+#include "platform/EParamID.h"
+#include "receiver/SimulatedField.h"
+#include "receiver/TReceiver.h"
+#include "region/ELanguage.h"
+#include "stores/TSqliteStore.h"
+
+#include <algorithm>
+
+void OverlayChanges::SetServer(TSqliteStore& store, bool isThere)
+{
+    store.SetParameter(PARAM_RECEIVER_ADDRESS,
+                       QLatin1String(isThere ? "tcp://receiver.example.org:2947" : ParameterRows::SimulatorAddress),
+                       true);
+}
+
+void OverlayChanges::SetPosition(TSqliteStore& /*store*/, bool isThere)
+{
+    const QByteArray lost = "GNRMC,060002.00,V,,,,,,,010524,,,N";
+    TFieldSimulator simulator(CabQuick::SimulatedPlan());
+    CabQuick::Receiver().Show(isThere ? simulator.NextEpoch() : '$' + lost + NmeaChecksum(lost) + "\r\n");
+}
+
+void OverlayChanges::SetLongProblem(TSqliteStore& /*store*/, bool isThere)
+{
+    const QLatin1String key("example");
+    if (!isThere)
+        CabQuick::ClearProblem(key);
+    else
+        CabQuick::SetProblem(key, QStringLiteral("The coverage is kept in memory until it can be stored: cannot write "
+                                                 "/media/internal/Smith/North/F1/Jobs/Spring_2024/Spring_2024.cov: "
+                                                 "no space left on device"));
+}
+
+void OverlayChanges::SetNewLanguage(TSqliteStore& store, bool isThere)
+{
+    static int before = LANGUAGE_ENGLISH;
+    if (isThere)
+        before = store.GetParameter(PARAM_LANGUAGE).toInt();
+    const int other = before == LANGUAGE_GERMAN ? LANGUAGE_FRENCH : LANGUAGE_GERMAN;
+    store.SetParameter(PARAM_LANGUAGE, isThere ? other : before, true);
+}
+
+/// As many messages as the display ever shows above a page.
+void OverlayChanges::SetEverything(TSqliteStore& store, bool isThere)
+{
+    SetLongProblem(store, isThere);
+    SetNewLanguage(store, isThere);
+    SetPosition(store, isThere);
+    const QLatin1String key("example-stick");
+    if (!isThere)
+        CabQuick::ClearProblem(key);
+    else
+        CabQuick::SetProblem(key, QStringLiteral("The stick was pulled before the copy was done."));
+}
+
+const tagOverlay* FindOverlay(const QString& name)
+{
+    const auto* const overlay = std::find_if(
+        Overlays.begin(), Overlays.end(), [&name](const tagOverlay& row) { return name == QLatin1String(row.name); });
+    return overlay == Overlays.end() ? nullptr : overlay;
+}
+
+QStringList OverlayNames()
+{
+    QStringList names;
+    for (const tagOverlay& overlay : Overlays)
+        names.append(QLatin1String(overlay.name));
+    return names;
+}

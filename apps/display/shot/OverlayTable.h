@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+
+class TSqliteStore;
+
+/// Something that opens over a page, or in it: a question, an entry, a page in front, a message.
+struct tagOverlay
+{
+    const char* name;
+    const char* page;                   ///< of the table of pages
+    std::array<const char*, 3> presses; ///< object names of the buttons that lead to it, one after another; null: none
+    const char* typed;                  ///< the keys that are typed then
+    const char* shown;                  ///< the object name of what has opened
+    bool isPictured;                    ///< a run that pictures everything has a picture of it
+    void (*change)(TSqliteStore& store, bool isThere) = nullptr; ///< what makes it come and go in place of a button
+};
+
+namespace OverlayChanges {
+void SetServer(TSqliteStore& store, bool isThere);
+void SetPosition(TSqliteStore& store, bool isThere);
+void SetLongProblem(TSqliteStore& store, bool isThere);
+void SetNewLanguage(TSqliteStore& store, bool isThere);
+void SetEverything(TSqliteStore& store, bool isThere);
+} // namespace OverlayChanges
+
+/// They need a client, which the example field has.
+inline constexpr std::array Overlays = {
+    tagOverlay{"keypad", "settings-machine", {"implementWidth"}, "24.5", "keypad", true},
+    tagOverlay{"keypad-refused", "settings-machine", {"implementWidth"}, "52.5", "keypad", true},
+    tagOverlay{"name", "fields", {"add"}, "Miller", "nameEntry", true},
+    tagOverlay{"name-empty", "fields", {"add"}, "", "nameEntry", false},
+    tagOverlay{"name-refused", "fields", {"add"}, "Miller/West", "nameEntry", false},
+    tagOverlay{"address", "receiver", {"address"}, "", "nameEntry", false, OverlayChanges::SetServer},
+    tagOverlay{"item", "fields", {"change"}, "", "itemActions", false},
+    tagOverlay{"question", "fields", {"change", "remove"}, "", "question", false},
+    tagOverlay{"clock", "settings-region", {"setClock"}, "", "clockEntry", false},
+    tagOverlay{"choice", "settings-region", {"region.language"}, "", "choicePage", false},
+    tagOverlay{"color", "settings-colors", {"color"}, "", "colorPage", true},
+    tagOverlay{"color-digits", "settings-colors", {"color", "digits"}, "", "nameEntry", false},
+    tagOverlay{"color-refused", "settings-colors", {"color", "digits"}, "red", "nameEntry", false},
+    tagOverlay{"implements", "settings-machine", {"active.implement"}, "", "itemPage", false},
+    tagOverlay{"new-implement", "settings-machine", {"active.implement", "new"}, "", "nameEntry", false},
+    tagOverlay{"line", "work", {}, "", "linePanel", false, OverlayChanges::SetPosition},
+    tagOverlay{"lock", "work", {"lock"}, "", "lockLayer", false},
+    tagOverlay{"problem", "work", {}, "", "problem", false, OverlayChanges::SetLongProblem},
+    tagOverlay{"restart", "work", {}, "", "restart", false, OverlayChanges::SetNewLanguage},
+    tagOverlay{"messages", "work", {}, "", "restart", false, OverlayChanges::SetEverything},
+};
+
+/// Null when there is none of that name.
+const tagOverlay* FindOverlay(const QString& name);
+
+QStringList OverlayNames();
