@@ -174,13 +174,14 @@ EFieldResult TFieldTree::Remove(const QStringList& path, bool force, QString* er
         return FIELD_FAILED;
     const auto files =
         std::count_if(entries.begin(), entries.end(), [](const FileTree::tagEntry& entry) { return !entry.isFolder; });
-    const QString named = QString::fromLatin1("the %1 \"%2\"").arg(FieldPath::Kind(path), FieldPath::Text(path));
+    const QString kind = FieldPath::Kind(path);
+    const QString name = FieldPath::Text(path);
     const bool isActive = FieldSelection::IsActive(path);
     if (!force && (files > 0 || isActive)) {
-        *error = files == 0 ? named + QLatin1String(" is active")
-                            : QString::fromLatin1("%1 %2 %3 file(s)")
-                                  .arg(named, QLatin1String(isActive ? "is active and holds" : "holds"))
-                                  .arg(files);
+        const char* const holding =
+            isActive ? "the %1 \"%2\" is active and holds %3 file(s)" : "the %1 \"%2\" holds %3 file(s)";
+        *error = files == 0 ? QString::fromLatin1("the %1 \"%2\" is active").arg(kind, name)
+                            : QString::fromLatin1(holding).arg(kind, name, QString::number(files));
         return FIELD_REFUSED;
     }
     // The selection first: it never names what is gone.

@@ -43,12 +43,7 @@ bool IsReserved(const QString& name)
     });
 }
 
-QString Shown(QChar character)
-{
-    return IsControl(character)
-               ? QString::fromLatin1("the control character U+%1").arg(character.unicode(), 4, 16, QLatin1Char('0'))
-               : QString::fromLatin1("\"%1\"").arg(character);
-}
+QString Quoted(QChar character) { return QString::fromLatin1("\"%1\"").arg(character); }
 
 } // namespace
 
@@ -59,9 +54,12 @@ QString Problem(const QString& name, int mostBytes)
     for (int i = 0; i < name.size(); ++i) {
         const QChar character = name.at(i);
         if (IsOneOf(character, Separators))
-            return QString::fromLatin1("contains the separator %1").arg(Shown(character));
-        if (IsControl(character) || IsOneOf(character, ForbiddenByFat))
-            return QString::fromLatin1("contains %1, which FAT file systems do not allow").arg(Shown(character));
+            return QString::fromLatin1("contains the separator %1").arg(Quoted(character));
+        if (IsControl(character))
+            return QString::fromLatin1("contains the control character U+%1, which FAT file systems do not allow")
+                .arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        if (IsOneOf(character, ForbiddenByFat))
+            return QString::fromLatin1("contains %1, which FAT file systems do not allow").arg(Quoted(character));
         if (IsAlone(name, i))
             return QString::fromLatin1("contains an incomplete character");
     }

@@ -32,7 +32,7 @@ tagParameter Begin(const tagAbout& about, EParameterType type)
 tagParameter Parameter(const tagSwitch& row)
 {
     tagParameter parameter = Begin(row.about, PARAMETER_BOOL);
-    parameter.accepts = Utf8("true or false");
+    parameter.accepts = Utf8(QT_TRANSLATE_NOOP("ParameterTexts", "true or false"));
     parameter.firstValue = row.first;
     return parameter;
 }
@@ -91,7 +91,7 @@ tagParameter Parameter(const tagNameList& row)
 tagParameter Parameter(const tagTime& row)
 {
     tagParameter parameter = Begin(row.about, PARAMETER_STRING);
-    parameter.accepts = Utf8("a time in UTC, such as 2026-03-05T13:05:09Z");
+    parameter.accepts = Utf8(QT_TRANSLATE_NOOP("ParameterTexts", "a time in UTC, such as 2026-03-05T13:05:09Z"));
     return parameter;
 }
 
@@ -111,7 +111,8 @@ tagParameter ColorParameter(EParamID id, const char* mode, const tagColor& row, 
     tagParameter parameter = Begin({id, "", row.meaning, "the map and the controls"}, PARAMETER_COLOR);
     parameter.name = QString::fromLatin1("colors.%1.%2").arg(Utf8(mode), Utf8(row.name));
     parameter.meaning = QString::fromLatin1("colour of %1, by %2").arg(Utf8(row.meaning), Utf8(mode));
-    parameter.accepts = Utf8("a colour: #rrggbb, #aarrggbb or a name such as navy");
+    parameter.accepts =
+        Utf8(QT_TRANSLATE_NOOP("ParameterTexts", "a colour: #rrggbb, #aarrggbb or a name such as navy"));
     parameter.firstValue = QColor::fromRgb(first);
     return parameter;
 }

@@ -2,11 +2,16 @@
 
 #include "HostExport.h"
 
+#include <QLatin1String>
+#include <QString>
+
 class QTranslator;
 
-/// Loads the translation for the selected language (PARAM_LANGUAGE) into @p translator and installs it. Texts that were
-/// made before stay as they are. Returns false when there is no translation for the language; texts are then in
-/// English. This is so for English too.
+/// Loads the catalogue of the selected language (PARAM_LANGUAGE) into @p translator and installs it. Texts that were
+/// made before stay as they are.
+///
+/// English has a catalogue too, which holds the plural forms. It also takes the place of a catalogue that is missing or
+/// damaged. Then the function returns false, and says so on standard error, once in a program.
 ///
 /// ConfigManager must be set, and TRegionSettings::InitializeLanguageStrings() must have run:
 /// @code
@@ -14,4 +19,7 @@ class QTranslator;
 /// InstallTranslation(translator);
 /// TUnitAbbreviations::Initialize(); // abbreviations in the selected language
 /// @endcode
-CABHOST_EXPORT bool InstallTranslation(QTranslator& translator);
+///
+/// @param folder where the catalogues are, as cabsettings_<language>.qm; by default those that are built into the host.
+CABHOST_EXPORT bool InstallTranslation(QTranslator& translator,
+                                       const QString& folder = QLatin1String(":/translations"));
