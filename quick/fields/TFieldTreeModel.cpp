@@ -8,6 +8,7 @@
 #include "stores/TSqliteStore.h"
 #include "terminal/ActiveItems.h"
 #include "terminal/SizeText.h"
+#include "texts/HostText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -43,7 +44,7 @@ EFieldResult Choose(TParameterStore& store, TFieldTree& tree, const QStringList&
         ActiveItems::Select(store, *TParameterCatalogue::Find(Selections[level]), path.value(level, QLatin1String("")));
     if (hold.Release())
         return FIELD_DONE;
-    *error = TFieldTreeModel::tr("The selection could not be stored.");
+    *error = QLatin1String("cannot store the selection");
     return FIELD_FAILED;
 }
 
@@ -84,7 +85,7 @@ QString TFieldTreeModel::checkName(const QString& name) const
         return tr("A job holds no items.");
     QString error;
     if (!FieldPath::IsName(m_Path + QStringList(name), name, &error))
-        return error;
+        return CabQuick::HostText(error);
     const auto isTaken = [&name](const tagFieldItem& item) {
         return FieldPath::Folded(item.path.last()) == FieldPath::Folded(name);
     };
@@ -130,7 +131,7 @@ void TFieldTreeModel::Run(const TOperation& operation)
             TFieldTree tree(store);
             QString error;
             const EFieldResult result = operation(tree, &error);
-            return tagResult{result, error};
+            return tagResult{result, CabQuick::HostText(error)};
         },
         [this](const tagResult& result) {
             const bool isDone = result.result == FIELD_DONE;
@@ -153,6 +154,7 @@ void TFieldTreeModel::Read()
             tagListing listing = {path, {}, QString()};
             if (path.size() < MostNames)
                 TFieldTree(store).List(FIELD_DRIVE_INTERNAL, path, &listing.items, &listing.error);
+            listing.error = CabQuick::HostText(listing.error);
             const auto isDeeper = [&path](const tagFieldItem& item) { return item.path.size() != path.size() + 1; };
             listing.items.erase(std::remove_if(listing.items.begin(), listing.items.end(), isDeeper),
                                 listing.items.end());
@@ -215,8 +217,7 @@ QVariant TFieldTreeModel::data(const QModelIndex& index, int role) const
     case ROLE_BYTES:
         return static_cast<double>(item.bytes);
     case ROLE_SIZE_TEXT:
-        return item.files == 1 ? tr("1 file, %1").arg(SizeText(item.bytes))
-                               : tr("%1 files, %2").arg(QString::number(item.files), SizeText(item.bytes));
+        return tr("%n file(s), %1", nullptr, item.files).arg(SizeText(item.bytes));
     default:
         return QVariant();
     }

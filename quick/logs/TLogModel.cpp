@@ -4,6 +4,7 @@
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "module/TBackground.h"
 #include "system/TSystemSettingsProxy.h"
+#include "texts/HostText.h"
 
 #include <algorithm>
 
@@ -73,6 +74,7 @@ TLogModel::tagNews TLogModel::ReadNews(TLogTail& tail, EKind kind)
         TNEMADiagnosticLogProxy().FlushTempBuffer(); // else the last sentences before a silence would be missing
     tagNews news;
     QList<tagLogLine> lines = tail.Read(&news.error);
+    news.error = CabQuick::HostText(news.error);
     lines = lines.mid(std::max(0, static_cast<int>(lines.size()) - MostLines));
     for (const tagLogLine& line : lines)
         news.lines.append(Printed(line.text));

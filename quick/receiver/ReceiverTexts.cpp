@@ -1,6 +1,7 @@
 #include "receiver/ReceiverTexts.h"
 
 #include "parameters/ParameterRows.h"
+#include "texts/HostText.h"
 #include "units/TUnits.h"
 
 #include <QCoreApplication>
@@ -77,12 +78,13 @@ QString ReceiverTexts::Silent() { return Translated(QT_TRANSLATE_NOOP("Receiver"
 
 QString ReceiverTexts::Lost(const QString& reason)
 {
-    return Translated(QT_TRANSLATE_NOOP("Receiver", "The receiver is lost and is being looked for: %1.")).arg(reason);
+    return Translated(QT_TRANSLATE_NOOP("Receiver", "The receiver is lost and is being looked for. %1"))
+        .arg(CabQuick::HostText(reason));
 }
 
 QString ReceiverTexts::Unreadable(const QString& error)
 {
-    return Translated(QT_TRANSLATE_NOOP("Receiver", "The receiver cannot be read: %1.")).arg(error);
+    return Translated(QT_TRANSLATE_NOOP("Receiver", "The receiver cannot be read. %1")).arg(CabQuick::HostText(error));
 }
 
 QString ReceiverTexts::Ended(const QString& address)

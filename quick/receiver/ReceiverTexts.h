@@ -19,7 +19,7 @@ QString Age(double seconds);
 /// "0.9"; empty for NaN.
 QString Dilution(double hdop);
 
-// Sentences, with what the system says.
+// Sentences, with the reason that the host gives.
 QString Silent();
 QString Lost(const QString& reason);
 QString Unreadable(const QString& error);

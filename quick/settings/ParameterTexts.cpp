@@ -45,7 +45,8 @@ QString RangeProblem(const tagParameter& parameter, const QString& entered)
         return problem;
     return problem + QLatin1Char(' ') +
            Translated(QT_TRANSLATE_NOOP("ParameterTexts", "%1 to %2"))
-               .arg(QString::number(parameter.least), WithUnit(QString::number(parameter.greatest), parameter.unit));
+               .arg(QString::number(parameter.least),
+                    WithUnit(QString::number(parameter.greatest), ParameterTitles::Unit(parameter)));
 }
 
 /// What the catalogue would say is for a tool: it names the parameter and repeats the value.
@@ -71,7 +72,7 @@ QString ParameterTexts::Shown(const tagParameter& parameter, const QVariant& val
         return choice;
     const QString text = TParameterCatalogue::Text(parameter, value);
     if (parameter.names.isEmpty())
-        return text.isEmpty() ? text : WithUnit(text, parameter.unit);
+        return text.isEmpty() ? text : WithUnit(text, ParameterTitles::Unit(parameter));
 
     QStringList names;
     for (const QString& name : text.split(QLatin1Char(','))) {

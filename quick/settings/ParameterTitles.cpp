@@ -98,30 +98,47 @@ struct tagSchemeTitle
     int day;
     int night;
     const char* title;
+    const char* meaning;
 };
 
 /// The elements of the colour schemes.
 constexpr tagSchemeTitle SchemeTitles[] = {
-    {PARAM_TEXT_COLOR_DAY, PARAM_TEXT_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Text")},
-    {PARAM_TITLE_COLOR_DAY, PARAM_TITLE_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Title")},
-    {PARAM_BACKGROUND_COLOR_DAY, PARAM_BACKGROUND_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Background")},
-    {PARAM_BUTTON_COLOR_DAY, PARAM_BUTTON_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Button")},
-    {PARAM_BUTTON_TEXT_COLOR_DAY, PARAM_BUTTON_TEXT_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Button text")},
-    {PARAM_MAP_COLOR_DAY, PARAM_MAP_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Map")},
-    {PARAM_GRID_COLOR_DAY, PARAM_GRID_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Grid")},
-    {PARAM_COVERAGE_COLOR_DAY, PARAM_COVERAGE_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Coverage")},
-    {PARAM_VEHICLE_COLOR_DAY, PARAM_VEHICLE_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Vehicle on the map")},
-    {PARAM_TRACK_COLOR_DAY, PARAM_TRACK_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Guidance line")},
-    {PARAM_CROSS_HAIRS_COLOR_DAY, PARAM_CROSS_HAIRS_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Cross hairs")},
+    {PARAM_TEXT_COLOR_DAY, PARAM_TEXT_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Text"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of texts")},
+    {PARAM_TITLE_COLOR_DAY, PARAM_TITLE_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Title"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of titles")},
+    {PARAM_BACKGROUND_COLOR_DAY, PARAM_BACKGROUND_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Background"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the background")},
+    {PARAM_BUTTON_COLOR_DAY, PARAM_BUTTON_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Button"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of buttons")},
+    {PARAM_BUTTON_TEXT_COLOR_DAY, PARAM_BUTTON_TEXT_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Button text"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of texts on buttons")},
+    {PARAM_MAP_COLOR_DAY, PARAM_MAP_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Map"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the map's ground")},
+    {PARAM_GRID_COLOR_DAY, PARAM_GRID_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Grid"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the map's grid")},
+    {PARAM_COVERAGE_COLOR_DAY, PARAM_COVERAGE_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Coverage"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of covered ground")},
+    {PARAM_VEHICLE_COLOR_DAY, PARAM_VEHICLE_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Vehicle on the map"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the vehicle")},
+    {PARAM_TRACK_COLOR_DAY, PARAM_TRACK_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Guidance line"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the guidance line")},
+    {PARAM_CROSS_HAIRS_COLOR_DAY, PARAM_CROSS_HAIRS_COLOR_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Cross hairs"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the cross hairs")},
     {PARAM_EXTERNAL_BOUNDARY_COLOR_DAY, PARAM_EXTERNAL_BOUNDARY_COLOR_NIGHT,
-     QT_TRANSLATE_NOOP("Parameters", "Outer boundary")},
+     QT_TRANSLATE_NOOP("Parameters", "Outer boundary"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of the outer boundary of the field")},
     {PARAM_INTERNAL_BOUNDARY_COLOR_DAY, PARAM_INTERNAL_BOUNDARY_COLOR_NIGHT,
-     QT_TRANSLATE_NOOP("Parameters", "Inner boundary")},
+     QT_TRANSLATE_NOOP("Parameters", "Inner boundary"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of boundaries within the field")},
     {PARAM_INACTIVE_BOUNDARIES_COLOR_DAY, PARAM_INACTIVE_BOUNDARIES_COLOR_NIGHT,
-     QT_TRANSLATE_NOOP("Parameters", "Other boundaries")},
+     QT_TRANSLATE_NOOP("Parameters", "Other boundaries"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of boundaries that are not active")},
     {PARAM_EXCLUSION_ZONE_COLOR_DAY, PARAM_EXCLUSION_ZONE_COLOR_NIGHT,
-     QT_TRANSLATE_NOOP("Parameters", "Exclusion zone")},
-    {PARAM_BACKGROUND_NUMBER_DAY, PARAM_BACKGROUND_NUMBER_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Background picture")},
+     QT_TRANSLATE_NOOP("Parameters", "Exclusion zone"),
+     QT_TRANSLATE_NOOP("Parameters", "Colour of zones to keep out of")},
+    {PARAM_BACKGROUND_NUMBER_DAY, PARAM_BACKGROUND_NUMBER_NIGHT, QT_TRANSLATE_NOOP("Parameters", "Background picture"),
+     QT_TRANSLATE_NOOP("Parameters", "Number of the background picture")},
 };
 
 /// In place of what the catalogue says with the names of other parameters, which only tools use.
@@ -267,10 +284,23 @@ QString ParameterTitles::Meaning(const tagParameter& parameter)
 {
     const auto* const own = std::find_if(std::begin(Meanings), std::end(Meanings),
                                          [&parameter](const tagTitle& row) { return row.number == parameter.id; });
+    if (own == std::end(Meanings)) {
+        for (const tagSchemeTitle& row : SchemeTitles) {
+            if (row.day == parameter.id || row.night == parameter.id)
+                return Translated(row.meaning);
+        }
+    }
     QString meaning =
         own == std::end(Meanings) ? Translated(parameter.meaning.toUtf8().constData()) : Translated(own->title);
     meaning[0] = meaning.at(0).toUpper();
     return meaning;
+}
+
+QString ParameterTitles::Unit(const tagParameter& parameter)
+{
+    return parameter.unit.isEmpty()
+               ? QString()
+               : QCoreApplication::translate("ParameterTexts", parameter.unit.toUtf8().constData());
 }
 
 QString ParameterTitles::Choice(const tagParameter& parameter, int value)

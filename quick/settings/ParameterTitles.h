@@ -18,6 +18,9 @@ QString Element(const tagParameter& parameter);
 /// What the parameter is for, as a text that begins with a capital.
 QString Meaning(const tagParameter& parameter);
 
+/// "min", "%"; empty for a number without a unit.
+QString Unit(const tagParameter& parameter);
+
 /// The word for a value: a choice by its number, true and false by 1 and 0. Empty when the value is not a choice.
 QString Choice(const tagParameter& parameter, int value);
 

@@ -36,7 +36,7 @@ QString TParameter::Group() const { return m_Parameter ? ParameterTitles::Group(
 QString TParameter::Title() const { return m_Parameter ? ParameterTitles::Title(*m_Parameter) : QString(); }
 QString TParameter::Meaning() const { return m_Parameter ? ParameterTitles::Meaning(*m_Parameter) : QString(); }
 QString TParameter::Type() const { return m_Parameter ? TParameterCatalogue::TypeName(m_Parameter->type) : QString(); }
-QString TParameter::Unit() const { return m_Parameter ? m_Parameter->unit : QString(); }
+QString TParameter::Unit() const { return m_Parameter ? ParameterTitles::Unit(*m_Parameter) : QString(); }
 QString TParameter::Accepts() const { return m_Parameter ? m_Parameter->accepts : QString(); }
 bool TParameter::NeedsRestart() const { return m_Parameter && FindRestartRow(m_Parameter->id); }
 

@@ -8,6 +8,7 @@
 #include "system/TSystemSettingsProxy.h"
 #include "terminal/SizeText.h"
 #include "terminal/TProblems.h"
+#include "texts/HostText.h"
 #include "transfer/TransferProblem.h"
 
 #include <QCoreApplication>
@@ -77,8 +78,8 @@ void TProblemWatch::Take(const tagLook& look, const tagStickProblems& before)
     m_Problems.Keep(QLatin1String("recording"), look.isRecordingOff,
                     Translated(QT_TRANSLATE_NOOP("Problems", "Recording is off, because there is too little room.")));
     m_Problems.Keep(QLatin1String("store"), !look.writeFailure.isEmpty(),
-                    Translated(QT_TRANSLATE_NOOP("Problems", "Changes of settings are not stored yet: %1."))
-                        .arg(look.writeFailure));
+                    Translated(QT_TRANSLATE_NOOP("Problems", "Changes of settings are not stored yet. %1"))
+                        .arg(CabQuick::HostText(look.writeFailure)));
     m_Timer.start();
 }
 
@@ -98,7 +99,7 @@ void TProblemWatch::TakeDrive(const std::optional<tagSpace>& drive)
     const qint64 least = std::min(drive->total / NearlyFullPart, NearlyFullBytes);
     m_IsNearlyFull = drive->free < (m_IsNearlyFull ? least + least / HysteresisPart : least);
     m_Problems.Keep(QLatin1String("drive"), m_IsNearlyFull,
-                    Translated(QT_TRANSLATE_NOOP("Problems", "The drive of the terminal is nearly full: %1 are free."))
+                    Translated(QT_TRANSLATE_NOOP("Problems", "The drive of the terminal is nearly full. Free: %1"))
                         .arg(SizeText(drive->free)));
 }
 

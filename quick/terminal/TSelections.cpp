@@ -1,6 +1,7 @@
 #include "terminal/TSelections.h"
 
 #include "module/TParameterHub.h"
+#include "settings/ParameterTexts.h"
 #include "stores/TChangeAuthor.h"
 #include "stores/TSqliteStore.h"
 #include "terminal/ActiveItems.h"
@@ -36,7 +37,7 @@ void TSelections::Select(EParamID item, const QString& name)
 {
     const tagParameter& parameter = *TParameterCatalogue::Find(item);
     QString error;
-    const bool isAccepted = TParameterCatalogue::Read(parameter, name, &error).isValid();
+    const bool isAccepted = ParameterTexts::Read(parameter, name, &error).isValid();
     const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
     if (isAccepted && !ActiveItems::Select(TParameterHub::Instance().Store(), parameter, name))
         error = tr("The selection could not be stored.");
@@ -51,7 +52,7 @@ QString TSelections::check(const QString& kind, const QString& name) const
     const tagParameter* const item = ItemOf(kind);
     QString error;
     if (item)
-        TParameterCatalogue::Read(*item, name, &error);
+        ParameterTexts::Read(*item, name, &error);
     return error;
 }
 

@@ -3,6 +3,7 @@
 #include "module/TBackground.h"
 #include "module/TParameterHub.h"
 #include "parameters/ItemNames.h"
+#include "texts/HostText.h"
 
 #include <cmath>
 #include <memory>
@@ -90,7 +91,7 @@ QString TTransfer::checkName(const QString& name) const
     if (name.isEmpty())
         return tr("The name is empty.");
     const QString problem = ItemNames::Problem(TransferJobs::ProfileFileName(name), ItemNames::MostBytes);
-    return problem.isEmpty() ? QString() : tr("The name %1.").arg(problem);
+    return CabQuick::HostText(problem);
 }
 
 /// Tells each hundredth once.

@@ -15,6 +15,7 @@
 #include "system/TSystemSettings.h"
 #include "system/TSystemSettingsProxy.h"
 #include "terminal/Storage.h"
+#include "texts/HostText.h"
 #include "transfer/TransferProblem.h"
 
 #include <QCoreApplication>
@@ -141,13 +142,14 @@ tagTransferResult ReadProfile(TSqliteStore& store, const QString& file, FImport 
     QStringList problems;
     const auto profile = TProfile::Read(file, PROFILE_EDITS_REFUSED, &problems);
     if (!profile)
-        return Failed(
-            Translated(QT_TRANSLATE_NOOP("Transfer", "The profile cannot be used: %1.")).arg(problems.first()));
+        return Failed(Translated(QT_TRANSLATE_NOOP("Transfer", "The profile cannot be used. %1"))
+                          .arg(CabQuick::HostText(problems.first())));
     ProfileImport::tagOptions options;
     options.resolution = resolution;
     const ProfileImport::tagResult imported = import(*profile, store, store.Path(), options);
     if (!imported.error.isEmpty())
-        return Failed(Translated(QT_TRANSLATE_NOOP("Transfer", "Nothing is imported: %1.")).arg(imported.error));
+        return Failed(Translated(QT_TRANSLATE_NOOP("Transfer", "Nothing is imported. %1"))
+                          .arg(CabQuick::HostText(imported.error)));
     tagTransferResult result;
     result.isDone = true;
     FillRows(imported, &result);
@@ -179,8 +181,8 @@ tagTransferResult TransferJobs::ExportProfile(TSqliteStore& store, const QString
         const QString file = ProfileFileName(name);
         QString reason;
         if (!profile.Write(stick.Path(file), &reason))
-            return Failed(
-                Translated(QT_TRANSLATE_NOOP("Transfer", "The profile is not on the stick: %1.")).arg(reason));
+            return Failed(Translated(QT_TRANSLATE_NOOP("Transfer", "The profile is not on the stick. %1"))
+                              .arg(CabQuick::HostText(reason)));
         return Done(Translated(QT_TRANSLATE_NOOP("Transfer", "The profile is on the stick: %1.")).arg(file));
     });
 }
@@ -198,8 +200,8 @@ tagTransferResult TransferJobs::WriteSupport(TSqliteStore& store, const QString&
         tagSupportBundle bundle;
         QString error;
         if (!WriteSupportBundle(store, stick.Path(file), request, tell, &bundle, &error))
-            return Failed(
-                Translated(QT_TRANSLATE_NOOP("Transfer", "The file for support is not on the stick: %1.")).arg(error));
+            return Failed(Translated(QT_TRANSLATE_NOOP("Transfer", "The file for support is not on the stick. %1"))
+                              .arg(CabQuick::HostText(error)));
         return Done(Translated(QT_TRANSLATE_NOOP("Transfer", "The file for support is on the stick: %1.")).arg(file));
     });
 }

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int PatienceMilliseconds = 10'000;
+constexpr int PatienceMilliseconds = 10 * 1000;
 
 double Milliseconds(clockid_t clock)
 {

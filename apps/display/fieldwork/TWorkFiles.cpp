@@ -5,6 +5,7 @@
 #include "guidance/FlagPoints.h"
 #include "module/CabQuick.h"
 #include "system/TSystemSettingsProxy.h"
+#include "texts/HostText.h"
 
 #include <QFileInfo>
 #include <QMetaObject>
@@ -112,7 +113,8 @@ void TWork::TellProblems(const tagJob& job)
     if (job.errors.isEmpty())
         CabQuick::ClearProblem(FieldKey);
     else
-        CabQuick::SetProblem(FieldKey, tr("A file of this job cannot be used: %1").arg(job.errors.first()));
+        CabQuick::SetProblem(FieldKey,
+                             tr("A file of this job cannot be used. %1").arg(CabQuick::HostText(job.errors.first())));
     if (job.lostBytes == 0)
         return;
     CabQuick::SetProblem(
@@ -179,7 +181,7 @@ void TWork::Save(const QString& problemKey, const std::function<bool(QString*)>&
         if (write(&error))
             CabQuick::ClearProblem(problemKey);
         else
-            CabQuick::SetProblem(problemKey, tr("A file could not be stored: %1").arg(error));
+            CabQuick::SetProblem(problemKey, tr("A file could not be stored. %1").arg(CabQuick::HostText(error)));
     });
 }
 
@@ -192,7 +194,8 @@ void TWork::LoadImplement()
     if (error.isEmpty())
         CabQuick::ClearProblem(ImplementKey);
     else
-        CabQuick::SetProblem(ImplementKey, tr("The file of the implement cannot be used: %1").arg(error));
+        CabQuick::SetProblem(ImplementKey,
+                             tr("The file of the implement cannot be used. %1").arg(CabQuick::HostText(error)));
     ShowGuidance();
     ShowVehicle();
     emit implementChanged();
@@ -287,7 +290,7 @@ void TWork::LoadLine()
     if (error.isEmpty())
         CabQuick::ClearProblem(LineKey);
     else
-        CabQuick::SetProblem(LineKey, tr("The guidance line cannot be used: %1").arg(error));
+        CabQuick::SetProblem(LineKey, tr("The guidance line cannot be used. %1").arg(CabQuick::HostText(error)));
     ShowGuidance();
     emit guidanceChanged();
     emit moved();
@@ -312,8 +315,9 @@ QString TWork::CoverageProblem() const
     const tagCoverageState state = m_Job->coverage->State();
     if (state.lost > 0)
         return tr("The coverage cannot be stored, and strips are lost: %1").arg(state.lost);
-    return state.problem.isEmpty() ? QString()
-                                   : tr("The coverage is kept in memory until it can be stored: %1").arg(state.problem);
+    return state.problem.isEmpty()
+               ? QString()
+               : tr("The coverage is kept in memory until it can be stored. %1").arg(CabQuick::HostText(state.problem));
 }
 
 void TWork::CheckCoverage()
