@@ -915,6 +915,10 @@
         <translation>eine Farbe: #rrggbb, #aarrggbb oder ein Name wie navy</translation>
     </message>
     <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
         <source>Not a whole number.</source>
         <translation>Keine ganze Zahl.</translation>
     </message>
@@ -927,16 +931,20 @@
         <translation>Über dem größten Wert.</translation>
     </message>
     <message>
-        <source>%1 to %2</source>
-        <translation>%1 bis %2</translation>
-    </message>
-    <message>
         <source>This cannot be the name of a file. Possible is: %1</source>
         <translation>So kann keine Datei heißen. Möglich ist: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
         <translation>Nicht möglich. Erwartet: %1.</translation>
+    </message>
+    <message>
+        <source>a name without %1</source>
+        <translation>ein Name ohne %1</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
     </message>
 </context>
 <context>
@@ -947,11 +955,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrische Einheiten; sonst US- oder englische</translation>
+        <translation>metrische Einheiten; sonst US- oder britische</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US-Maße, wenn die Einheiten nicht metrisch sind; sonst englische</translation>
+        <translation>US-Maße, wenn die Einheiten nicht metrisch sind; sonst britische</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -975,7 +983,7 @@
     </message>
     <message>
         <source>unit of pressures</source>
-        <translation>Einheit der Drücke</translation>
+        <translation>Einheit für Drücke</translation>
     </message>
     <message>
         <source>unit of areas, and of rates per area</source>
@@ -1499,7 +1507,7 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>US oder englisch</translation>
+        <translation>US oder britisch</translation>
     </message>
     <message>
         <source>US</source>
@@ -1507,7 +1515,7 @@
     </message>
     <message>
         <source>English</source>
-        <translation>Englisch</translation>
+        <translation>Britisch</translation>
     </message>
     <message>
         <source>Deg., min., s</source>

@@ -5,6 +5,7 @@
 #include "parameters/ItemNames.h"
 #include "parameters/ParameterText.h"
 #include "parameters/TParameterCatalogue.h"
+#include "system/TSystemSettings.h"
 
 #include <QCoreApplication>
 
@@ -12,6 +13,9 @@
 #include <limits>
 
 namespace {
+
+/// What operators try first of what a name must not contain.
+const char* const NotInNames = "/ \\ : * ? \" < > |";
 
 QString Translated(const char* text) { return QCoreApplication::translate("ParameterTexts", text); }
 
@@ -32,6 +36,13 @@ QString WithUnit(const QString& number, const QString& unit)
     return unit.isEmpty() ? number : number + QLatin1Char(' ') + unit;
 }
 
+QString Range(const tagParameter& parameter)
+{
+    return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "%1 to %2"))
+        .arg(QString::number(parameter.least),
+             WithUnit(QString::number(parameter.greatest), ParameterTitles::Unit(parameter)));
+}
+
 QString RangeProblem(const tagParameter& parameter, const QString& entered)
 {
     bool isNumber = false;
@@ -43,10 +54,7 @@ QString RangeProblem(const tagParameter& parameter, const QString& entered)
                           : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Above the greatest value."));
     if (!IsBounded(parameter))
         return problem;
-    return problem + QLatin1Char(' ') +
-           Translated(QT_TRANSLATE_NOOP("ParameterTexts", "%1 to %2"))
-               .arg(QString::number(parameter.least),
-                    WithUnit(QString::number(parameter.greatest), ParameterTitles::Unit(parameter)));
+    return problem + QLatin1Char(' ') + Range(parameter);
 }
 
 /// What the catalogue would say is for a tool: it names the parameter and repeats the value.
@@ -59,7 +67,14 @@ QString Problem(const tagParameter& parameter, const QString& entered)
             .arg(ItemNames::Suggestion(entered, parameter.mostBytes));
     }
     return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not accepted. Expected: %1."))
-        .arg(Translated(parameter.accepts.toUtf8().constData()));
+        .arg(ParameterTexts::Accepts(parameter));
+}
+
+/// Stored names that stand for none are the same in every language.
+bool IsNone(const QString& item)
+{
+    return item == TSystemSettings::DefaultVehicleProfile || item == TSystemSettings::DefaultSteeringProfile ||
+           item == TSystemSettings::DefaultSprayerProfile || item == TSystemSettings::DefaultImplementProfile;
 }
 
 } // namespace
@@ -71,6 +86,8 @@ QString ParameterTexts::Shown(const tagParameter& parameter, const QVariant& val
     if (!choice.isEmpty())
         return choice;
     const QString text = TParameterCatalogue::Text(parameter, value);
+    if (parameter.mostBytes > 0)
+        return ItemName(text);
     if (parameter.names.isEmpty())
         return text.isEmpty() ? text : WithUnit(text, ParameterTitles::Unit(parameter));
 
@@ -94,6 +111,25 @@ QVariantList ParameterTexts::Choices(const tagParameter& parameter)
     for (const QString& name : parameter.names)
         choices.append(Choice(name, name, ParameterTitles::ListedName(name)));
     return choices;
+}
+
+QString ParameterTexts::ItemName(const QString& item)
+{
+    return IsNone(item) ? QCoreApplication::translate("TSystemSettings", item.toUtf8().constData()) : item;
+}
+
+/// What the catalogue says of items, numbers and choices is for a tool.
+QString ParameterTexts::Accepts(const tagParameter& parameter)
+{
+    if (parameter.mostBytes > 0)
+        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "a name without %1")).arg(QLatin1String(NotInNames));
+    if (HasRange(parameter))
+        return IsBounded(parameter) ? Range(parameter)
+                                    : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "a whole number"));
+    QStringList texts;
+    for (const QVariant& choice : Choices(parameter))
+        texts.append(choice.toMap().value(QLatin1String("text")).toString());
+    return texts.isEmpty() ? Translated(parameter.accepts.toUtf8().constData()) : texts.join(QLatin1String(", "));
 }
 
 std::optional<QString> ParameterTexts::Entered(const QVariant& value)

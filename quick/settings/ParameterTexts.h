@@ -13,6 +13,12 @@ namespace ParameterTexts {
 /// The value as a text: "Hectare", "30 %", "#1d4f7c". Empty when there is no value.
 QString Shown(const tagParameter& parameter, const QVariant& value);
 
+/// The name of an item as a text: a name that stands for none, as on a first start, in the language of the display.
+QString ItemName(const QString& item);
+
+/// Which values are accepted, as words that can follow "Expected:".
+QString Accepts(const tagParameter& parameter);
+
 /// The values to choose from, each a map of value, name and text: of a choice, of true and false, and of the names that
 /// a list may hold. Empty for other parameters.
 QVariantList Choices(const tagParameter& parameter);

@@ -37,7 +37,7 @@ QString TParameter::Title() const { return m_Parameter ? ParameterTitles::Title(
 QString TParameter::Meaning() const { return m_Parameter ? ParameterTitles::Meaning(*m_Parameter) : QString(); }
 QString TParameter::Type() const { return m_Parameter ? TParameterCatalogue::TypeName(m_Parameter->type) : QString(); }
 QString TParameter::Unit() const { return m_Parameter ? ParameterTitles::Unit(*m_Parameter) : QString(); }
-QString TParameter::Accepts() const { return m_Parameter ? m_Parameter->accepts : QString(); }
+QString TParameter::Accepts() const { return m_Parameter ? ParameterTexts::Accepts(*m_Parameter) : QString(); }
 bool TParameter::NeedsRestart() const { return m_Parameter && FindRestartRow(m_Parameter->id); }
 
 QVariantList TParameter::Choices() const

@@ -30,7 +30,7 @@ class TParameter : public QObject
     Q_PROPERTY(QString meaning READ Meaning NOTIFY nameChanged) ///< a sentence without a full stop
     Q_PROPERTY(QString type READ Type NOTIFY nameChanged)       ///< "bool", "int", "string" or "color"
     Q_PROPERTY(QString unit READ Unit NOTIFY nameChanged)
-    Q_PROPERTY(QString accepts READ Accepts NOTIFY nameChanged) ///< which values are accepted
+    Q_PROPERTY(QString accepts READ Accepts NOTIFY nameChanged) ///< which values are accepted, in words
     Q_PROPERTY(bool needsRestart READ NeedsRestart NOTIFY nameChanged)
     Q_PROPERTY(QVariantList choices READ Choices NOTIFY nameChanged) ///< see ParameterTexts::Choices()
     Q_PROPERTY(bool hasRange READ HasRange NOTIFY nameChanged)

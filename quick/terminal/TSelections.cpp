@@ -67,3 +67,5 @@ QStringList TSelections::list(const QString& kind) const
         names.prepend(selected);
     return names;
 }
+
+QString TSelections::shown(const QString& name) const { return ParameterTexts::ItemName(name); }

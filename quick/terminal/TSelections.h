@@ -62,6 +62,9 @@ public:
     /// The names that can be selected, in order, the selected one among them. Reads the disk.
     Q_INVOKABLE QStringList list(const QString& kind) const;
 
+    /// A name as the operator reads it: one that stands for none, such as "No Vehicle", in the language of the display.
+    Q_INVOKABLE QString shown(const QString& name) const;
+
 signals:
     /// At least one of the names has changed, by this or another program.
     void changed();

@@ -88,6 +88,10 @@ void GermanTexts::theDisplayShowsThem()
     const std::unique_ptr<QObject> parameter = terminal.Make("Parameter { name: 'colors.day.coverage' }");
     QCOMPARE(parameter->property("title").toString(), QString::fromUtf8("Bearbeitete Fläche, bei Tag"));
     QCOMPARE(parameter->property("meaning").toString(), QString::fromUtf8("Farbe der bearbeiteten Fläche"));
+    const std::unique_ptr<QObject> vehicle = terminal.Make("Parameter { name: 'active.vehicle' }");
+    QCOMPARE(vehicle->property("value").toString(), QString::fromLatin1("No Vehicle")); // as it is stored
+    QCOMPARE(vehicle->property("shownText").toString(), QString::fromLatin1("Kein Fahrzeug"));
+    QCOMPARE(vehicle->property("accepts").toString(), QString::fromUtf8("ein Name ohne / \\ : * ? \" < > |"));
     const std::unique_ptr<QObject> area = terminal.Make("Quantity { kind: Quantity.Area }");
     QCOMPARE(area->property("title").toString(), QString::fromUtf8("Fläche"));
     const std::unique_ptr<QObject> found = terminal.Make("ParameterModel { search: 'dezimalzeichen' }");

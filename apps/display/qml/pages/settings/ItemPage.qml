@@ -35,7 +35,7 @@ SettingsPanel {
         spacing: Sizes.gap
         delegate: ListRow {
             width: ListView.view.width
-            title: modelData
+            title: Selections.shown(modelData)
             chosen: modelData === parameter.value
             onClicked: {
                 parameter.value = modelData
