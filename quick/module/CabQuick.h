@@ -10,6 +10,15 @@
 
 class TReceiver;
 
+/// Drives, memory and load as they are shown; see CabQuick::ShowDrives().
+struct tagShownDrives
+{
+    tagSpace internal;
+    std::optional<tagSpace> stick; ///< empty without a stick
+    tagSpace memory;
+    double load; ///< 0 to 1
+};
+
 /// The QML module CabSettings: every setting of the terminal as an object that QML binds to.
 ///
 /// @code
@@ -21,15 +30,6 @@ class TReceiver;
 /// @endcode
 ///
 /// The module works in the thread of the application object.
-/// Drives, memory and load as they are shown; see CabQuick::ShowDrives().
-struct tagShownDrives
-{
-    tagSpace internal;
-    std::optional<tagSpace> stick; ///< empty without a stick
-    tagSpace memory;
-    double load; ///< 0 to 1
-};
-
 namespace CabQuick {
 
 /// Makes `import CabSettings 1.0` work in every QML engine of the program. Call it once, after the start of the
@@ -55,6 +55,10 @@ CABQUICK_EXPORT void ClearProblem(const QString& key);
 /// Shows these drives in QML in place of those that are there, from now on: for pictures and tests, which need the same
 /// ones each time. Call it while a terminal is published.
 CABQUICK_EXPORT void ShowDrives(const tagShownDrives& drives);
+
+/// Whether the module reads or writes something in its threads, so that what QML shows may still change by itself: for
+/// pictures and tests. Call it in the thread of the application object while a terminal is published.
+CABQUICK_EXPORT bool IsBusy();
 
 /// Adds a part of the program to those that QML knows as About, with its licence. Call it while a terminal is
 /// published.

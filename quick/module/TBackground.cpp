@@ -1,6 +1,9 @@
 #include "module/TBackground.h"
 
+#include "module/CabQuick.h"
 #include "module/TParameterHub.h"
+
+#include <algorithm>
 
 TBackground& TBackground::Lane(const char* name)
 {
@@ -12,6 +15,14 @@ TBackground& TBackground::Lane(const char* name)
     }
     return *lane;
 }
+
+bool TBackground::IsBusy()
+{
+    const auto lanes = TParameterHub::Instance().findChildren<TBackground*>(QString(), Qt::FindDirectChildrenOnly);
+    return std::any_of(lanes.begin(), lanes.end(), [](const TBackground* lane) { return lane->m_Jobs > 0; });
+}
+
+bool CabQuick::IsBusy() { return TBackground::IsBusy(); }
 
 TBackground::TBackground(QObject* parent) : QObject(parent), m_Worker(std::make_unique<QObject>())
 {

@@ -22,6 +22,9 @@ public:
     /// of the module the jobs that have not begun are dropped, and the one in work is waited for.
     static TBackground& Lane(const char* name);
 
+    /// Whether a lane has a job whose result has not been taken. Call it in the thread of the module.
+    static bool IsBusy();
+
     explicit TBackground(QObject* parent);
     ~TBackground() override;
 
@@ -29,17 +32,19 @@ public:
     TBackground& operator=(const TBackground&) = delete;
 
     /// Runs @p job in the thread, and then @p take with its result in the thread of the module, unless @p owner has
-    /// been destroyed meanwhile.
+    /// been destroyed meanwhile. Call it in the thread of the module.
     /// @param job must not use @p owner.
     template <class Job, class Take>
     void Run(QObject* owner, Job job, Take take)
     {
         const QPointer<QObject> keeper(owner);
+        ++m_Jobs;
         Post([this, keeper, job, take] {
             auto result = job();
             QMetaObject::invokeMethod(
                 this,
-                [keeper, take, result] {
+                [this, keeper, take, result] {
+                    --m_Jobs;
                     if (keeper)
                         take(result);
                 },
@@ -68,6 +73,7 @@ private:
         QMetaObject::invokeMethod(m_Worker.get(), job, Qt::QueuedConnection);
     }
 
+    int m_Jobs = 0; ///< whose result has not been taken
     QThread m_Thread;
     std::unique_ptr<QObject> m_Worker; ///< in the thread
 };

@@ -51,7 +51,7 @@ constexpr int ZoomSteps = 2;
 constexpr int Attempts = 20;
 constexpr int StepsOfClock = 60;
 constexpr int StepMs = 20;
-constexpr int SettleMs = 100; // what a page asks of other threads, such as the room on the drives
+constexpr int SettleMs = 100; // until a page has asked for what it shows
 
 void Wait(int milliseconds)
 {
@@ -160,6 +160,8 @@ QImage GrabAtMoment(QQuickItem& item)
 bool WritePicture(QQuickItem& display, const QString& path, QString* error)
 {
     Wait(SettleMs);
+    while (CabQuick::IsBusy())
+        Wait(StepMs);
     const QImage image = GrabAtMoment(display);
     if (!image.isNull() && image.save(path))
         return true;
