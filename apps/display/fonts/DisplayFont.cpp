@@ -6,6 +6,9 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr const char* Files[] = {"fonts/opentype/b612/B612-Regular.otf", "fonts/opentype/b612/B612-Bold.otf"};
@@ -14,6 +17,9 @@ constexpr const char* Files[] = {"fonts/opentype/b612/B612-Regular.otf", "fonts/
 // Under a name of its own the family is certain. Both names have the same length, so that the tables stay as they are.
 constexpr char Family[] = {'B', '6', '1', '2'};
 constexpr char OwnFamily[] = {'C', 'a', 'b', 'F'};
+
+constexpr const char* LanguagesOfB612[] = {"",   "en", "de", "fr", "es", "it", "pt", "nl",
+                                           "fi", "da", "nb", "sv", "et", "ja", "zh"};
 
 template <std::size_t Length>
 QByteArray Utf16(const char (&name)[Length])
@@ -34,15 +40,40 @@ bool AddFont(const QString& path)
     return QFontDatabase::addApplicationFontFromData(font) >= 0;
 }
 
-} // namespace
-
-void InstallDisplayFont()
+/// Whether B612 has all letters of the language, so that no word is drawn with letters of two faces. For Japanese and
+/// Chinese it has the digits and the signs, beside a face with all the rest.
+bool IsDrawnByB612(const QString& language)
 {
-    const QString fallback = QStringLiteral("Noto Sans");
+    return std::any_of(std::begin(LanguagesOfB612), std::end(LanguagesOfB612),
+                       [&language](const char* known) { return language == QLatin1String(known); });
+}
+
+bool AddB612()
+{
     bool isWhole = true;
     for (const char* const file : Files)
         isWhole = AddFont(QStandardPaths::locate(QStandardPaths::GenericDataLocation, QLatin1String(file))) && isWhole;
-    const QString family = isWhole ? QString::fromLatin1(OwnFamily, sizeof(OwnFamily)) : fallback;
-    QFont::insertSubstitution(family, fallback);
-    QGuiApplication::setFont(QFont(family));
+    return isWhole;
+}
+
+} // namespace
+
+QStringList DisplayFamilies(const QString& language)
+{
+    static const bool hasB612 = AddB612();
+    QStringList families(QStringLiteral("Noto Sans"));
+    if (hasB612)
+        families.insert(IsDrawnByB612(language) ? 0 : 1, QString::fromLatin1(OwnFamily, sizeof(OwnFamily)));
+    // The same signs are drawn differently in Japan and in China.
+    const bool isChinese = language == QLatin1String("zh");
+    families.append(isChinese ? QStringLiteral("Noto Sans CJK SC") : QStringLiteral("Noto Sans CJK JP"));
+    return families;
+}
+
+void InstallDisplayFont(const QString& language)
+{
+    const QStringList families = DisplayFamilies(language);
+    QFont font(families.first());
+    font.setFamilies(families);
+    QGuiApplication::setFont(font);
 }

@@ -1,6 +1,13 @@
 #pragma once
 
-/// Makes B612 the font of the program's texts: its digits have one width, so that figures do not jump. Without it,
-/// Noto Sans is the font, whose digits have one width too; it also has what B612 lacks. Needs a QGuiApplication. Call
-/// it before the first text.
-void InstallDisplayFont();
+#include <QString>
+#include <QStringList>
+
+/// The families of the display's texts in a language such as "de": the first draws what it can, then the second. All are
+/// of packages that the display depends on, so that texts look alike everywhere. Adds the fonts to the program.
+/// @param language empty for that of an operator who has chosen none.
+QStringList DisplayFamilies(const QString& language);
+
+/// Makes them the font of the program: B612, which was drawn for cockpits, where it has the letters of the language.
+/// Without that font, and for the other languages, Noto Sans takes its place.
+void InstallDisplayFont(const QString& language = QString());

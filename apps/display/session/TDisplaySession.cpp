@@ -8,6 +8,7 @@
 #include "module/CabQuick.h"
 #include "parameters/HostParameters.h"
 #include "parameters/TParameterCatalogue.h"
+#include "region/TRegionSettings.h"
 #include "stores/TChangeAuthor.h"
 #include "stores/TSqliteStore.h"
 #include "terminal/DataFolder.h"
@@ -56,9 +57,9 @@ bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error)
     if (!m_Terminal->Start(options.dataFolder, error, {QLatin1String(CABSETTINGS_VERSION)}))
         return false;
     CabQuick::Publish(*m_Store, options.dataFolder);
-    InstallDisplayFont();
+    InstallDisplayFont(TRegionSettings().GetLanguageExtension().mid(1)); // without its underscore
     RegisterDisplayTypes();
-    CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans"), QString(), QStringLiteral("OFL-1.1"),
+    CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans, Noto Sans CJK"), QString(), QStringLiteral("OFL-1.1"),
                          QCoreApplication::translate("Display", "The fonts of the display"));
     return true;
 }

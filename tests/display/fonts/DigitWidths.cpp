@@ -10,25 +10,29 @@ class DigitWidths : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { InstallDisplayFont(); }
     void digitsHaveOneWidth_data();
     void digitsHaveOneWidth();
 };
 
 void DigitWidths::digitsHaveOneWidth_data()
 {
+    QTest::addColumn<QString>("language");
     QTest::addColumn<int>("pixels");
     QTest::addColumn<bool>("isBold");
-    for (const int pixels : {24, 30, 48, 50, 84}) {
-        QTest::addRow("%d", pixels) << pixels << false;
-        QTest::addRow("%d bold", pixels) << pixels << true;
+    for (const char* const language : {"", "ru", "ja"}) { // of each first font and each fallback
+        for (const int pixels : {24, 30, 48, 50, 84}) {
+            QTest::addRow("%s %d", language, pixels) << QString::fromLatin1(language) << pixels << false;
+            QTest::addRow("%s %d bold", language, pixels) << QString::fromLatin1(language) << pixels << true;
+        }
     }
 }
 
 void DigitWidths::digitsHaveOneWidth()
 {
+    QFETCH(const QString, language);
     QFETCH(const int, pixels);
     QFETCH(const bool, isBold);
+    InstallDisplayFont(language);
     QFont font = QGuiApplication::font();
     font.setPixelSize(pixels);
     font.setBold(isBold);
