@@ -56,7 +56,14 @@ TWork::TWork(QObject* selections, QObject* parent)
     Load();
 }
 
-TWork::~TWork() { m_Disk.waitForDone(); }
+TWork::~TWork()
+{
+    m_Disk.waitForDone();
+    if (!m_Job)
+        StoreEarlyFixes(m_EarlyFixes, m_Latest.get());
+}
+
+bool TWork::Flush() { return m_Job && m_Job->coverage && m_Job->coverage->Flush(); }
 
 void TWork::Register(const char* module, int major, int minor)
 {
@@ -72,7 +79,7 @@ void TWork::SetWorking(bool isWorking)
     if (isWorking == m_IsWorking)
         return;
     m_IsWorking = isWorking;
-    m_Strips.Break();
+    BreakStrip();
     if (m_HasPosition)
         ShowVehicle();
     emit workingChanged();
@@ -101,6 +108,8 @@ void TWork::TakePosition()
     m_Application = m_Receiver.Address() == QLatin1String("simulator")
                         ? m_Controller.Advance(seconds, status.speed, ImplementWidth(), m_IsWorking)
                         : NoController;
+    if (!m_Job)
+        KeepFix();
     if (m_Plane) {
         m_Pose = {m_Plane->ToPlane(status.latitude, status.longitude), m_Heading};
         if (const auto strip = m_Strips.MoveTo(m_Pose, status.utc, m_IsWorking && m_Job))
@@ -120,13 +129,41 @@ void TWork::TakeFix()
     if (m_Receiver.HasFix() || !m_HasPosition)
         return;
     m_HasPosition = false;
-    m_Strips.Break();
+    BreakStrip();
     m_Offset.reset();
     m_Application = NoController;
     m_Map.ClearVehicle();
     emit hasPositionChanged();
     emit moved();
     TellFigures();
+}
+
+/// The next strip is not joined to the last.
+void TWork::BreakStrip()
+{
+    m_Strips.Break();
+    m_IsBroken = true;
+}
+
+/// The job decides on which plane the ground is covered, and is not there yet.
+void TWork::KeepFix()
+{
+    if (!m_IsWorking || std::isnan(m_Heading)) {
+        m_IsBroken = true;
+        return;
+    }
+    m_EarlyFixes.push_back({Here(), m_Heading, m_Utc, m_Strips.Implement(), !m_IsBroken});
+    m_IsBroken = false;
+}
+
+/// Covers what was driven while the job was loaded. The strip goes on with the next position.
+void TWork::CoverEarlyFixes()
+{
+    for (const tagCoverageStrip& strip : StripsOf(m_EarlyFixes, *m_Plane, &m_Strips))
+        Cover(strip);
+    m_EarlyFixes.clear();
+    if (m_IsBroken)
+        m_Strips.Break();
 }
 
 void TWork::Cover(const tagCoverageStrip& strip)
@@ -188,7 +225,7 @@ double TWork::Productivity() const
 
 bool TWork::setA()
 {
-    if (!m_HasPosition)
+    if (!m_HasPosition || !m_Job)
         return false;
     m_Guidance.SetA(Here());
     ShowGuidance();
@@ -199,7 +236,7 @@ bool TWork::setA()
 
 bool TWork::setB()
 {
-    if (!m_HasPosition || !m_Guidance.SetB(Here()))
+    if (!m_HasPosition || !m_Job || !m_Guidance.SetB(Here()))
         return false;
     ShowGuidance();
     emit guidanceChanged();

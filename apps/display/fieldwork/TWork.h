@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/fieldwork/EarlyFixes.h"
 #include "display/fieldwork/JobData.h"
 #include "display/fieldwork/TGuidance.h"
 #include "display/fieldwork/TSimulatedController.h"
@@ -27,8 +28,9 @@ class TReceiver;
 /// @endcode
 ///
 /// The job that is selected brings its coverage, its field's boundaries, zones and flags, and the line that is
-/// selected; they are read by a thread, and no ground is covered until they are there. What is written is written by
-/// threads too. moved() comes with every position; figuresChanged() at most twice a second, so that texts can be read.
+/// selected; they are read by a thread. Ground that is covered until they are there is kept, and added to the job that
+/// was selected when it was covered. What is written is written by threads too. moved() comes with every position;
+/// figuresChanged() at most twice a second, so that texts can be read.
 class TWork : public QObject
 {
     Q_OBJECT
@@ -68,6 +70,9 @@ public:
 
     /// Waits until everything is on the disk, or has failed.
     ~TWork() override;
+
+    /// Waits until the coverage is on the disk. Returns false when that has failed, or there is none.
+    bool Flush();
 
     TWork(const TWork&) = delete;
     TWork& operator=(const TWork&) = delete;
@@ -120,11 +125,13 @@ public:
 
     QString JobText() const; ///< the active job; a sentence when there is none
 
-    /// A is here: ends following a line. False without a position.
+    // A job that is loaded brings its own line and flags: until it is there, none is set.
+
+    /// A is here: ends following a line. False without a position, and while the job is loaded.
     Q_INVOKABLE bool setA();
 
     /// B is here: the line is followed, and saved: under the active name, or under a new default name when there is a
-    /// line of that name. False when there is no A, no position, or A is nearer than a metre.
+    /// line of that name. False when there is no A, no position, A is nearer than a metre, or the job is loaded.
     Q_INVOKABLE bool setB();
 
     /// Stops following a line; its file stays.
@@ -137,7 +144,7 @@ public:
     /// problem of the display's list, since it is read later.
     Q_INVOKABLE QString loadLine(const QString& name);
 
-    /// Marks the place with a flag, which is kept in the field. False without a position.
+    /// Marks the place with a flag, which is kept in the field. False without a position, and while the job is loaded.
     Q_INVOKABLE bool mark();
 
     /// Empty when the implement may have this width in metres, else a sentence.
@@ -177,6 +184,9 @@ private:
     // Position
     void TakePosition();
     void TakeFix();
+    void BreakStrip();
+    void KeepFix();
+    void CoverEarlyFixes();
     void Cover(const tagCoverageStrip& strip);
     void ShowVehicle();
     void ShowGuidance();
@@ -197,6 +207,8 @@ private:
     double m_FieldArea;               ///< square metres; NaN without a boundary
 
     TStripMaker m_Strips;
+    TEarlyFixes m_EarlyFixes; ///< of the job that is being loaded
+    bool m_IsBroken = true;   ///< the next early fix is not joined to the one before it
     TGuidance m_Guidance;
     TSimulatedController m_Controller;
     tagApplication m_Application;

@@ -12,6 +12,7 @@
 #include <QPolygonF>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -68,10 +69,14 @@ void TWork::Load()
     const tagJobPlaces places = m_Places;
     m_Latest = job;
     m_Job.reset();
-    m_Strips.Break();
-    m_Disk.start([this, before, job, places] {
-        if (before)
+    BreakStrip();
+    const auto early = std::make_shared<const TEarlyFixes>(std::move(m_EarlyFixes));
+    m_EarlyFixes.clear();
+    m_Disk.start([this, before, job, places, early] {
+        if (before) {
+            StoreEarlyFixes(*early, before.get()); // it was chosen, but never there
             before->coverage.reset();
+        }
         LoadJob(places, job.get());
         QMetaObject::invokeMethod(
             this,
@@ -97,10 +102,14 @@ void TWork::TakeJob(const std::shared_ptr<tagJob>& job)
     m_Offset.reset();
     if (job->origin)
         TakePlane(*job->origin);
+    else if (!m_EarlyFixes.empty())
+        TakePlane(m_EarlyFixes.front().place);
     else if (m_HasPosition)
         TakePlane(Here());
     else
         ShowAreas();
+    if (!m_EarlyFixes.empty())
+        CoverEarlyFixes();
     TellProblems(*job);
     emit loadingChanged();
     emit guidanceChanged();

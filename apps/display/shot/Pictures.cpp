@@ -214,9 +214,11 @@ bool WritePictures(const tagDisplayOptions& options, QString* error)
         return false;
     auto* const map = session.Window()->findChild<TMapItem*>();
     map->SetZoom(map->Zoom() - ZoomSteps);
-    DriveToPlace(*TWork::Of(session.Engine()));
-    if (!SetTimesOfLog(own.dataFolder)) {
-        *error = QStringLiteral("cannot write the log of the example");
+    TWork& work = *TWork::Of(session.Engine());
+    DriveToPlace(work);
+    // The sizes of the files are in the pictures.
+    if (!work.Flush() || !SetTimesOfLog(own.dataFolder)) {
+        *error = QStringLiteral("cannot write the files of the example");
         return false;
     }
     CabQuick::ShowDrives(Drives);

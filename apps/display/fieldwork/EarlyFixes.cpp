@@ -1,0 +1,39 @@
+#include "display/fieldwork/EarlyFixes.h"
+
+namespace {
+
+bool IsSame(const tagImplement& first, const tagImplement& second)
+{
+    return first.width == second.width && first.behind == second.behind;
+}
+
+} // namespace
+
+std::vector<tagCoverageStrip> StripsOf(const TEarlyFixes& fixes, const TLocalPlane& plane, TStripMaker* maker)
+{
+    const tagImplement own = maker->Implement();
+    std::vector<tagCoverageStrip> strips;
+    for (const tagEarlyFix& fix : fixes) {
+        if (!IsSame(fix.implement, maker->Implement()))
+            maker->SetImplement(fix.implement);
+        if (!fix.isJoined)
+            maker->Break();
+        const tagVehiclePose pose = {plane.ToPlane(fix.place.latitude, fix.place.longitude), fix.heading};
+        if (const auto strip = maker->MoveTo(pose, fix.utc, true))
+            strips.push_back(*strip);
+    }
+    if (!IsSame(own, maker->Implement()))
+        maker->SetImplement(own);
+    return strips;
+}
+
+void StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job)
+{
+    if (fixes.empty() || !job->coverage)
+        return;
+    const tagGeoPoint origin = job->origin.value_or(fixes.front().place);
+    job->coverage->SetOrigin(origin); // only the first one counts
+    TStripMaker maker;
+    for (const tagCoverageStrip& strip : StripsOf(fixes, TLocalPlane(origin.latitude, origin.longitude), &maker))
+        job->coverage->Add(strip);
+}

@@ -1,0 +1,287 @@
+#include "TWorkRoom.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const int Early = 50;
+const int Later = 30;
+
+/// A file that its reader waits for until it is let go. In between it is a pipe.
+class TSlowFile
+{
+public:
+    explicit TSlowFile(const QString& path) : m_Path(path)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("cannot read %s", qPrintable(path));
+        m_Content = file.readAll();
+        file.close();
+        if (!file.remove() || mkfifo(path.toUtf8().constData(), S_IRUSR | S_IWUSR) != 0)
+            qFatal("cannot make the pipe %s", qPrintable(path));
+    }
+    ~TSlowFile() { LetGo(); }
+
+    TSlowFile(const TSlowFile&) = delete;
+    TSlowFile& operator=(const TSlowFile&) = delete;
+
+    /// Lets one reader have the content. Readers that come later find a file.
+    void LetGo()
+    {
+        if (m_Path.isEmpty())
+            return;
+        const int pipe = open(m_Path.toUtf8().constData(), O_WRONLY | O_CLOEXEC); // waits for the reader
+        QFile file(m_Path);
+        if (pipe < 0 || !file.remove() || !file.open(QIODevice::WriteOnly) || file.write(m_Content) < 0)
+            qFatal("cannot write %s", qPrintable(m_Path));
+        file.close();
+        if (write(pipe, m_Content.constData(), static_cast<size_t>(m_Content.size())) != m_Content.size())
+            qFatal("cannot write to the pipe %s", qPrintable(m_Path));
+        close(pipe);
+        m_Path.clear();
+    }
+
+private:
+    QString m_Path;
+    QByteArray m_Content;
+};
+
+/// Begins the work anew, and does not wait for the job.
+void Begin(TWorkRoom& room)
+{
+    room.work.reset();
+    room.work = std::make_unique<TWork>(room.terminal.Named("Selections"));
+}
+
+void Choose(const TWorkRoom& room, const char* job)
+{
+    room.terminal.Named("Selections")->setProperty("job", QLatin1String(job));
+    QCoreApplication::processEvents();
+}
+
+int StripsOfJob(TWorkRoom& room, const char* job)
+{
+    room.Select("job", job);
+    room.Restart(); // from the disk
+    return static_cast<int>(room.work->Map()->Strips().size());
+}
+
+QString Boundary(const TWorkRoom& room) { return room.FieldFile("Boundaries/F1/F1.bdy"); }
+
+} // namespace
+
+/// Ground that is covered while a job is loaded belongs to that job.
+class WorkWhileLoading : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theGroundIsAddedWhenTheJobIsThere();
+    void theGroundIsWhatItWouldHaveBeen();
+    void aPauseStaysAPause();
+    void eachPieceHasTheWidthOfItsTime();
+    void theGroundBelongsToTheJobThatWasChosen();
+    void aJobThatIsChosenAgainHasItsGround();
+    void theEndOfTheProgramLosesNothing();
+    void groundWithoutAJobIsOfNoJob();
+    void nothingIsSetThatTheJobWouldReplace();
+};
+
+void WorkWhileLoading::theGroundIsAddedWhenTheJobIsThere()
+{
+    TWorkRoom room;
+    room.work->SetWorking(true);
+    room.Drive(Later);
+    const double before = room.work->Distance();
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    QVERIFY(room.work->IsLoading());
+    QCOMPARE(room.work->Map()->Strips().size(), 0);
+    slow.LetGo();
+    room.Load();
+    QCOMPARE(room.work->Map()->Strips().size(), Later - 1 + Early - 1);
+    QVERIFY(room.work->Distance() > before);
+    room.Drive(Later); // joined to the last fix before the job was there
+    QCOMPARE(room.work->Map()->Strips().size(), Later - 1 + Early - 1 + Later);
+    QCOMPARE(StripsOfJob(room, "J_1"), Later - 1 + Early - 1 + Later);
+    QCOMPARE(room.Problems(), QStringList());
+}
+
+void WorkWhileLoading::theGroundIsWhatItWouldHaveBeen()
+{
+    QVector<tagMapStrip> strips[2];
+    double areas[2] = {};
+    for (const bool isSlow : {false, true}) {
+        TWorkRoom room;
+        std::unique_ptr<TSlowFile> slow;
+        if (isSlow)
+            slow = std::make_unique<TSlowFile>(Boundary(room));
+        Begin(room);
+        if (!isSlow)
+            room.Load();
+        room.work->SetWorking(true);
+        room.Drive(Early);
+        QCOMPARE(room.work->IsLoading(), isSlow);
+        slow.reset();
+        room.Load();
+        room.Drive(Later);
+        strips[isSlow ? 1 : 0] = room.work->Map()->Strips();
+        areas[isSlow ? 1 : 0] = room.work->AreaDone();
+    }
+    QCOMPARE(strips[0].size(), Early + Later - 1);
+    QCOMPARE(strips[1].size(), strips[0].size());
+    for (int i = 0; i < strips[0].size(); ++i) {
+        for (int corner = 0; corner < 4; ++corner) {
+            const auto at = static_cast<std::size_t>(corner);
+            QCOMPARE(strips[1].at(i).corners[at].east, strips[0].at(i).corners[at].east);
+            QCOMPARE(strips[1].at(i).corners[at].north, strips[0].at(i).corners[at].north);
+        }
+    }
+    QCOMPARE(areas[1], areas[0]);
+}
+
+void WorkWhileLoading::aPauseStaysAPause()
+{
+    TWorkRoom room;
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.Drive(Later);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    room.work->SetWorking(false);
+    room.Drive(Later);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    room.work->SetWorking(false); // between two fixes
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    room.work->SetWorking(false);
+    slow.LetGo();
+    room.Load();
+    QCOMPARE(room.work->Map()->Strips().size(), 3 * (Early - 1));
+    room.work->SetWorking(true);
+    room.Drive(Later);
+    QCOMPARE(room.work->Map()->Strips().size(), 3 * (Early - 1) + Later - 1);
+}
+
+void WorkWhileLoading::eachPieceHasTheWidthOfItsTime()
+{
+    TWorkRoom room;
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    room.work->SetImplementWidth(24);
+    room.Drive(Early);
+    slow.LetGo();
+    room.Load();
+    room.Drive(Later);
+    const QVector<tagMapStrip>& strips = room.work->Map()->Strips();
+    QCOMPARE(strips.size(), Early - 1 + Early - 1 + Later);
+    const auto width = [&strips](int at) {
+        const auto& corners = strips.at(at).corners;
+        return std::hypot(corners[1].east - corners[0].east, corners[1].north - corners[0].north);
+    };
+    const double millimetre = 0.001;
+    QVERIFY(std::abs(width(0) - 12) < millimetre);
+    QVERIFY(std::abs(width(Early - 2) - 12) < millimetre);
+    QVERIFY(std::abs(width(Early - 1) - 24) < millimetre);
+    QVERIFY(std::abs(width(static_cast<int>(strips.size()) - 1) - 24) < millimetre);
+    QCOMPARE(room.work->ImplementWidth(), 24.0);
+}
+
+void WorkWhileLoading::theGroundBelongsToTheJobThatWasChosen()
+{
+    TWorkRoom room;
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    Choose(room, "J_2"); // J_1 was never there
+    room.Drive(Later);
+    QVERIFY(room.work->IsLoading());
+    slow.LetGo();
+    room.Load();
+    QCOMPARE(room.work->JobText(), QLatin1String("J_2"));
+    QCOMPARE(room.work->Map()->Strips().size(), Later - 1);
+    room.work->SetWorking(false);
+    QCOMPARE(StripsOfJob(room, "J_1"), Early - 1);
+    QCOMPARE(StripsOfJob(room, "J_2"), Later - 1);
+}
+
+void WorkWhileLoading::aJobThatIsChosenAgainHasItsGround()
+{
+    TWorkRoom room;
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    Choose(room, "J_2");
+    room.Drive(Later);
+    Choose(room, "J_1");
+    room.Drive(Early);
+    QVERIFY(room.work->IsLoading());
+    slow.LetGo();
+    room.Load();
+    QCOMPARE(room.work->JobText(), QLatin1String("J_1"));
+    QCOMPARE(room.work->Map()->Strips().size(), 2 * (Early - 1));
+    QCOMPARE(StripsOfJob(room, "J_2"), Later - 1);
+    QCOMPARE(StripsOfJob(room, "J_1"), 2 * (Early - 1));
+}
+
+void WorkWhileLoading::theEndOfTheProgramLosesNothing()
+{
+    TWorkRoom room;
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    QVERIFY(room.work->IsLoading());
+    slow.LetGo();
+    room.work.reset(); // before it has taken the job
+    room.Restart();
+    QCOMPARE(room.work->Map()->Strips().size(), Early - 1);
+}
+
+void WorkWhileLoading::groundWithoutAJobIsOfNoJob()
+{
+    TWorkRoom room;
+    Choose(room, "");
+    room.Load();
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    QVERIFY(room.work->IsLoading());
+    Choose(room, "J_2");
+    slow.LetGo();
+    room.Load();
+    QCOMPARE(room.work->JobText(), QLatin1String("J_2"));
+    QCOMPARE(room.work->Map()->Strips().size(), 0);
+    QCOMPARE(StripsOfJob(room, "J_1"), 0);
+}
+
+void WorkWhileLoading::nothingIsSetThatTheJobWouldReplace()
+{
+    TWorkRoom room;
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.Drive(1);
+    QVERIFY(room.work->HasPosition());
+    QVERIFY(!room.work->setA());
+    QVERIFY(!room.work->setB());
+    QVERIFY(!room.work->mark());
+    slow.LetGo();
+    room.Load();
+    QVERIFY(room.work->HasLine());
+    QVERIFY(room.work->setA());
+    QVERIFY(room.work->mark());
+}
+
+QTEST_MAIN(WorkWhileLoading)
+#include "WorkWhileLoading.moc"
