@@ -6,6 +6,7 @@ PushButton {
     implicitWidth: Sizes.key
     implicitHeight: Sizes.key
     size: Math.round(Sizes.key * 0.45)
+    iconSize: Math.round(Sizes.key * 0.45)
     strong: true
     activeFocusOnTab: false
 }

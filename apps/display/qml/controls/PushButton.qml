@@ -24,6 +24,8 @@ Item {
 
     readonly property bool isPressed: tap.pressed && tap.containsMouse
     readonly property color ground: primary ? Scheme.accentGround : checked ? Scheme.goodGround : Scheme.button
+    // What is on stays to be seen where it cannot be changed.
+    readonly property bool isDim: !enabled && !checked
     readonly property color ink: primary ? Scheme.accentGroundText : checked ? Scheme.goodGroundText
                                  : isFlat ? Scheme.text : Scheme.buttonText
 
@@ -51,9 +53,10 @@ Item {
         anchors.fill: parent
         visible: !button.isFlat || button.primary || button.checked || button.isPressed
         radius: Sizes.radius
+        // Solid, whatever moves below it.
         color: button.isPressed ? Qt.tint(button.ground, Qt.rgba(button.ink.r, button.ink.g, button.ink.b, 0.25))
-                                : button.ground
-        opacity: button.enabled ? 1 : 0.5
+               : button.isDim ? Qt.tint(Scheme.panel, Qt.rgba(button.ground.r, button.ground.g, button.ground.b, 0.5))
+               : button.ground
         border { width: Sizes.line; color: Scheme.line }
     }
     Row {
@@ -61,7 +64,7 @@ Item {
 
         anchors.centerIn: parent
         spacing: Sizes.margin
-        opacity: button.enabled ? 1 : 0.5
+        opacity: button.isDim ? 0.5 : 1
 
         Icon {
             anchors.verticalCenter: parent.verticalCenter

@@ -6,7 +6,7 @@ import "../../controls"
 //
 //     Question { id: question; action: qsTr("Remove"); onAgreed: tree.remove(name, true) }
 //     …
-//     question.ask(qsTr("%1 holds files. Remove them too?").arg(name))
+//     question.ask(qsTr("Remove %1 with everything in it?").arg(name), qsTr("7 files"))
 Overlay {
     id: question
 
@@ -14,11 +14,14 @@ Overlay {
 
     property string action
     property alias text: words.text
+    // What the operator should know before the answer.
+    property alias detail: fact.text
 
     signal agreed()
 
-    function ask(sentence) {
+    function ask(sentence, itsDetail) {
         text = sentence
+        detail = itsDetail
         open()
     }
 
@@ -30,6 +33,14 @@ Overlay {
             id: words
             width: parent.width
             size: Sizes.row
+            wraps: true
+        }
+
+        TextLabel {
+            id: fact
+            width: parent.width
+            visible: text !== ""
+            muted: true
             wraps: true
         }
 

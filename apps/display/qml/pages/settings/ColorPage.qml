@@ -21,6 +21,10 @@ SettingsPanel {
     property color former
 
     readonly property color color: parameter.value
+    // All bars are on one page with what they change: in a low one, two are side by side.
+    readonly property bool isLow: Sizes.isCompact && !Sizes.isPortrait
+    // Of the bar of hues, which is not to dazzle.
+    readonly property real brightness: Scheme.isDay ? 0.5 : 0.3
 
     function take(newHue, newSaturation, newLightness) {
         hue = newHue
@@ -93,9 +97,18 @@ SettingsPanel {
                 accessibleName: qsTr("Digits of the colour")
                 onClicked: digits.ask(parameter.text)
             }
+
+            Contrasts {
+                visible: page.isLow
+                width: parent.width - x
+                anchors.verticalCenter: parent.verticalCenter
+                model: contrasts
+                name: page.name
+            }
         }
 
         Contrasts {
+            visible: !page.isLow
             width: parent.width
             model: contrasts
             name: page.name
@@ -107,26 +120,33 @@ SettingsPanel {
             isRound: true
             step: 1 / 36
             value: page.hue
-            colorAt: function (at) { return Qt.hsla(at, 0.8, 0.5, 1) }
+            colorAt: function (at) { return Qt.hsla(at, 0.8, page.brightness, 1) }
             onMoved: function (to) { page.take(to, page.saturation, page.lightness) }
         }
 
-        ColorBar {
+        Grid {
             width: parent.width
-            title: qsTr("Saturation")
-            step: 0.05
-            value: page.saturation
-            colorAt: function (at) { return Qt.hsla(page.hue, at, page.lightness, 1) }
-            onMoved: function (to) { page.take(page.hue, to, page.lightness) }
-        }
+            columns: page.isLow ? 2 : 1
+            columnSpacing: Sizes.gap * 2
+            rowSpacing: Sizes.gap
 
-        ColorBar {
-            width: parent.width
-            title: qsTr("Lightness")
-            step: 0.025
-            value: page.lightness
-            colorAt: function (at) { return Qt.hsla(page.hue, page.saturation, at, 1) }
-            onMoved: function (to) { page.take(page.hue, page.saturation, to) }
+            ColorBar {
+                width: page.isLow ? (parent.width - parent.columnSpacing) / 2 : parent.width
+                title: qsTr("Saturation")
+                step: 0.05
+                value: page.saturation
+                colorAt: function (at) { return Qt.hsla(page.hue, at, page.lightness, 1) }
+                onMoved: function (to) { page.take(page.hue, to, page.lightness) }
+            }
+
+            ColorBar {
+                width: page.isLow ? (parent.width - parent.columnSpacing) / 2 : parent.width
+                title: qsTr("Lightness")
+                step: 0.025
+                value: page.lightness
+                colorAt: function (at) { return Qt.hsla(page.hue, page.saturation, at, 1) }
+                onMoved: function (to) { page.take(page.hue, page.saturation, to) }
+            }
         }
     }
 
