@@ -11,7 +11,7 @@ struct tagImplement
 {
     double width = 12; ///< metres that it covers
     double behind = 4; ///< metres from the antenna back to the implement; negative: it is in front
-    int sections = 1;  ///< parts of the width that are switched on their own
+    int sections = 1;  ///< parts of the width that the machine can switch; coverage is of the whole width
 };
 
 /// What each member may be.

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import CabDisplay 1.0
 import "../../controls"
 
-// The master of the sections: whether the implement works, and coverage is recorded.
+// Whether the implement works, over its whole width, and coverage is recorded.
 PushButton {
     property bool hasWords: true
 
