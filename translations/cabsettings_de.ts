@@ -312,6 +312,10 @@
         <source>Remove everything</source>
         <translation>Alles löschen</translation>
     </message>
+    <message>
+        <source>Remove %1 with everything in it?</source>
+        <translation>%1 mit allem Inhalt entfernen?</translation>
+    </message>
 </context>
 <context>
     <name>Host</name>

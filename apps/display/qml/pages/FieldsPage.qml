@@ -31,11 +31,10 @@ Item {
 
         // What a refusal is about.
         property string removing
-        property string removingDetail
 
         onDone: function (ok, error) {
             if (!ok && refused)
-                force.ask(qsTr("Remove %1 with everything in it?").arg(removing), removingDetail)
+                force.ask(qsTr("Remove %1 with everything in it?").arg(removing), error)
             problem.text = ok || refused ? "" : error
         }
     }
@@ -93,11 +92,7 @@ Item {
                     anchors.right: parent.right
                     icon: "pencil"
                     accessibleName: qsTr("Rename or remove %1").arg(model.name)
-                    onClicked: {
-                        tree.removingDetail = model.isActive ? qsTr("In use now. %1").arg(model.sizeText)
-                                                             : model.sizeText
-                        changing.ask(model.name)
-                    }
+                    onClicked: changing.ask(model.name)
                 }
             }
         }

@@ -18,6 +18,8 @@ Flow {
         model: contrasts.model
 
         TextLabel {
+            width: Math.min(implicitWidth, contrasts.width)
+            wraps: true
             visible: model.elementName === contrasts.name || model.groundName === contrasts.name
             color: model.isLegible ? Scheme.muted : Scheme.attention
             text: {
