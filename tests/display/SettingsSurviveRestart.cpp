@@ -1,5 +1,6 @@
 #include "support/TOpenDisplay.h"
 #include "support/VisibleItems.h"
+#include "support/WrittenByTheTerminal.h"
 
 #include "parameters/TParameterCatalogue.h"
 
@@ -16,13 +17,6 @@ private slots:
 };
 
 namespace {
-
-/// What the terminal writes by itself while it runs, such as the numbers in which its logs count on.
-bool IsWrittenByTheTerminal(const QString& name)
-{
-    return name == QLatin1String("clock.source-since") || name == QLatin1String("display.day-switched") ||
-           name.startsWith(QLatin1String("log."));
-}
 
 /// A text that the parameter accepts and that is not its value now.
 QString OtherText(const tagParameter& parameter, const QVariant& now)
