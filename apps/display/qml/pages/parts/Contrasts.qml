@@ -12,13 +12,13 @@ Flow {
     property var model
     // Of the element's parameter.
     property string name
-    spacing: Sizes.gap * 2
 
     Repeater {
         model: contrasts.model
 
         TextLabel {
             width: Math.min(implicitWidth, contrasts.width)
+            rightPadding: Sizes.gap * 2
             wraps: true
             visible: model.elementName === contrasts.name || model.groundName === contrasts.name
             color: model.isLegible ? Scheme.muted : Scheme.attention
