@@ -8,6 +8,7 @@
 #include "display/session/TDisplaySession.h"
 #include "display/shot/OpenOverlay.h"
 #include "display/shot/PageTable.h"
+#include "module/CabQuick.h"
 #include "parameters/TParameterCatalogue.h"
 #include "stores/TSqliteStore.h"
 
@@ -17,6 +18,8 @@
 #include <QtTest>
 
 namespace {
+
+const int LoadPatience = 60000; ///< milliseconds
 
 QStringList& Complaints()
 {
@@ -132,12 +135,13 @@ void TOpenDisplay::Show(const QString& view)
     if (m_State->open)
         CloseOverlay(Window(), store, *m_State->open);
     m_State->open = FindOverlay(view);
-    if (!m_State->open) {
-        ShowPage(view);
-        return;
-    }
     QString error;
-    QVERIFY2(OpenOverlay(Window(), store, *m_State->open, &error), qPrintable(error));
+    if (m_State->open)
+        QVERIFY2(OpenOverlay(Window(), store, *m_State->open, &error), qPrintable(error));
+    else
+        ShowPage(view);
+    // Lists are read by threads.
+    QVERIFY(QTest::qWaitFor([] { return !CabQuick::IsBusy(); }, LoadPatience));
     Settle();
 }
 
@@ -146,8 +150,7 @@ void TOpenDisplay::MakeExample()
     QString error;
     QVERIFY2(MakeDemoField(m_State->session->Engine(), &error), qPrintable(error));
     const TWork& work = *TWork::Of(m_State->session->Engine());
-    const int patience = 60000;
-    QVERIFY(QTest::qWaitFor([&work] { return !work.IsLoading(); }, patience));
+    QVERIFY(QTest::qWaitFor([&work] { return !work.IsLoading(); }, LoadPatience));
 }
 
 void TOpenDisplay::Settle() const
