@@ -46,6 +46,7 @@ constexpr int SecondsFromUtc = 2 * 60 * 60;
 
 // Into the seventh pass: what is covered, the pond and the zone are all on the map.
 constexpr int EpochsBefore = 10335;
+constexpr int EpochsBetweenWrites = 1000;
 constexpr double GreatestNoise = 0.07; // metres; the light bar has something to show
 constexpr int ZoomSteps = 2;
 constexpr int Attempts = 20;
@@ -87,7 +88,12 @@ void DriveToPlace(TWork& work)
         // In a turn the course is that of a pass for a moment.
         along = IsAlong(CabQuick::Receiver().Course(), plan.heading) ? along + 1 : 0;
         work.SetWorking(along > plan.rate);
+        // The size of the job's files is in a picture. By itself coverage is written after some seconds, which are more
+        // of the drive on a faster machine.
+        if (epoch % EpochsBetweenWrites == 0)
+            work.Flush();
     }
+    work.Flush();
     // The figures follow at most twice a second.
     bool isTold = false;
     const QMetaObject::Connection told =
