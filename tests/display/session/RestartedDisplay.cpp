@@ -9,7 +9,6 @@
 #include "terminal/DataFolder.h"
 
 #include <QDirIterator>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -81,10 +80,7 @@ public:
 
     QStringList Texts(const char* below = "")
     {
-        QStringList texts;
-        for (const QJsonValue& text : QJsonDocument::fromJson(Ask(QByteArray("texts ") + below)).array())
-            texts.append(text.toString());
-        return texts;
+        return QJsonDocument::fromJson(Ask(QByteArray("texts ") + below)).toVariant().toStringList();
     }
 
     /// The number of that tile; 0 while it is not shown.
