@@ -1,3 +1,4 @@
+#include "support/CutOffTexts.h"
 #include "support/TOpenDisplay.h"
 #include "support/VisibleItems.h"
 
@@ -49,24 +50,6 @@ public:
     }
 };
 
-QStringList CutOff(TOpenDisplay& display)
-{
-    QStringList found;
-    for (const QString& view : TOpenDisplay::Views()) {
-        display.Show(view);
-        const QList<QQuickItem*> texts = VisibleItems::Texts(display.Content());
-        if (texts.isEmpty())
-            found.append(view + QLatin1String(": no text at all"));
-        for (const QQuickItem* text : texts) {
-            const QString problem = VisibleItems::WhatIsCutOff(*text);
-            if (!problem.isEmpty())
-                found.append(view + QLatin1String(": ") + VisibleItems::Describe(*text) + QLatin1String(" is ") +
-                             problem);
-        }
-    }
-    return found;
-}
-
 } // namespace
 
 void PageTexts::noneIsCutOff_data() { AddSizes(); }
@@ -77,7 +60,7 @@ void PageTexts::noneIsCutOff()
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
     display.MakeExample();
-    const QStringList found = CutOff(display);
+    const QStringList found = CutOffTexts(display);
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
 }
 
@@ -91,7 +74,7 @@ void PageTexts::longerWordsAreNotCutOff()
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
     display.MakeExample();
-    const QStringList found = CutOff(display);
+    const QStringList found = CutOffTexts(display);
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
 }
 

@@ -61,12 +61,14 @@ bool AddB612()
 QStringList DisplayFamilies(const QString& language)
 {
     static const bool hasB612 = AddB612();
-    QStringList families(QStringLiteral("Noto Sans"));
+    // As high and as wide as B612, so that both fit the same places.
+    QStringList families(QStringLiteral("DejaVu Sans Condensed"));
     if (hasB612)
         families.insert(IsDrawnByB612(language) ? 0 : 1, QString::fromLatin1(OwnFamily, sizeof(OwnFamily)));
     // The same signs are drawn differently in Japan and in China.
     const bool isChinese = language == QLatin1String("zh");
     families.append(isChinese ? QStringLiteral("Noto Sans CJK SC") : QStringLiteral("Noto Sans CJK JP"));
+    families.append(QStringLiteral("Noto Sans")); // for names in any other script
     return families;
 }
 

@@ -9,5 +9,5 @@
 QStringList DisplayFamilies(const QString& language);
 
 /// Makes them the font of the program: B612, which was drawn for cockpits, where it has the letters of the language.
-/// Without that font, and for the other languages, Noto Sans takes its place.
+/// Without that font, and for the other languages, DejaVu Sans Condensed takes its place.
 void InstallDisplayFont(const QString& language = QString());

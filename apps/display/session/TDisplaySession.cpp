@@ -59,8 +59,9 @@ bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error)
     CabQuick::Publish(*m_Store, options.dataFolder);
     InstallDisplayFont(TRegionSettings().GetLanguageExtension().mid(1)); // without its underscore
     RegisterDisplayTypes();
-    CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans, Noto Sans CJK"), QString(), QStringLiteral("OFL-1.1"),
-                         QCoreApplication::translate("Display", "The fonts of the display"));
+    const QString fonts = QCoreApplication::translate("Display", "The fonts of the display");
+    CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans"), QString(), QStringLiteral("OFL-1.1"), fonts);
+    CabQuick::AddToAbout(QStringLiteral("DejaVu Sans"), QString(), QStringLiteral("Bitstream-Vera"), fonts);
     return true;
 }
 

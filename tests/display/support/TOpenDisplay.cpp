@@ -53,10 +53,11 @@ void AddQuantities(const QQuickItem& item, QStringList& texts)
 
 struct TOpenDisplay::tagState
 {
-    explicit tagState(const QSize& itsSize) : size(itsSize) {}
+    tagState(const QSize& itsSize, const QString& itsLanguage) : size(itsSize), language(itsLanguage) {}
 
     TTemporaryFolder folder;
     QSize size;
+    QString language;
     QString problem;
     std::unique_ptr<TDisplaySession> session;
     const tagOverlay* open = nullptr; ///< the one that Show() has opened
@@ -64,7 +65,8 @@ struct TOpenDisplay::tagState
     QQuickWindow* Window() const { return session ? session->Window() : nullptr; }
 };
 
-TOpenDisplay::TOpenDisplay(const QSize& size) : m_State(std::make_unique<tagState>(size))
+TOpenDisplay::TOpenDisplay(const QSize& size, const QString& language)
+    : m_State(std::make_unique<tagState>(size, language))
 {
     Complaints().clear();
     BeforeComplaints = qInstallMessageHandler(Complain);
@@ -88,6 +90,7 @@ bool TOpenDisplay::Start()
     tagDisplayOptions options;
     options.dataFolder = state.folder.Path();
     options.size = state.size;
+    options.language = state.language;
     state.session = std::make_unique<TDisplaySession>();
     if (!state.session->Start(options, &state.problem) || !state.session->OpenWindow(options, &state.problem))
         return false;

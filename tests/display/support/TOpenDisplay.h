@@ -25,7 +25,8 @@
 class TOpenDisplay
 {
 public:
-    explicit TOpenDisplay(const QSize& size);
+    /// @param language such as "de"; empty for that of a first start.
+    explicit TOpenDisplay(const QSize& size, const QString& language = QString());
     ~TOpenDisplay();
 
     TOpenDisplay(const TOpenDisplay&) = delete;

@@ -15,6 +15,8 @@ SettingRow {
 
     readonly property bool isSegmented: parameter.choices.length > 0 && parameter.choices.length <= 4
                                         && parameter.type !== "string"
+    // Its names would fill the row; they stand on a page of their own.
+    readonly property bool isList: parameter.type === "string" && parameter.choices.length > 0
     readonly property alias parameter: parameter
 
     objectName: "parameter row"
@@ -75,7 +77,7 @@ SettingRow {
         ValueButton {
             objectName: parameter.name
             room: Math.min(parent ? parent.room : 0, Sizes.row * 16)
-            value: parameter.shownText !== "" ? parameter.shownText : "—"
+            value: row.isList ? qsTranslate("StoragePage", "Open") : parameter.shownText !== "" ? parameter.shownText : "—"
             accessibleName: parameter.title
             onClicked: row.navigator.edit(parameter)
         }

@@ -1,0 +1,49 @@
+#include "support/CutOffTexts.h"
+#include "support/TOpenDisplay.h"
+
+#include <QGuiApplication>
+#include <QtTest>
+
+/// All texts of all pages can be read in a language: none is elided, cut off or outside of the screen. The language is
+/// the program's first argument.
+class PageLanguages : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PageLanguages(const QString& language) : m_Language(language) {}
+
+private slots:
+    void noneIsCutOff_data();
+    void noneIsCutOff();
+
+private:
+    QString m_Language;
+};
+
+void PageLanguages::noneIsCutOff_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize& size : {QSize(800, 480), QSize(1280, 800)})
+        QTest::addRow("%s %dx%d", qPrintable(m_Language), size.width(), size.height()) << size;
+}
+
+void PageLanguages::noneIsCutOff()
+{
+    QFETCH(QSize, size);
+    TOpenDisplay display(size, m_Language);
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
+    const QStringList found = CutOffTextsOfAllRows(display);
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
+}
+
+int main(int argc, char** argv)
+{
+    const QGuiApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments();
+    PageLanguages test(arguments.size() > 1 ? arguments.takeAt(1) : QString());
+    return QTest::qExec(&test, arguments);
+}
+
+#include "PageLanguages.moc"
