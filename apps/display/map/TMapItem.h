@@ -93,6 +93,9 @@ public:
     Q_INVOKABLE QPointF pointOf(const QPointF& place) const { return m_View.PointOf(place); }
     Q_INVOKABLE QPointF placeAt(const QPointF& point) const { return m_View.PlaceAt(point); }
 
+    /// The memory of the tiles: of those that are seen and a bounded number of others.
+    std::size_t TileBytes() const { return m_Tiles.Bytes(); }
+
     QColor MapColor() const { return m_Colors.ground; }
     void SetMapColor(const QColor& color) { SetColor(&tagMapColors::ground, color); }
     QColor GridColor() const { return m_Colors.grid; }

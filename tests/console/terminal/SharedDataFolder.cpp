@@ -1,4 +1,5 @@
 #include "ConsoleTest.h"
+#include "TestLength.h"
 #include "TestSeed.h"
 
 #include "stores/ChangeJournal.h"
@@ -27,15 +28,8 @@ namespace {
 
 /// How many changes each tool makes. CABSETTINGS_TEST_LENGTH=20 makes it twenty times as many, which is about a minute.
 const int ToolChanges = 30;
-const char* const LengthVariable = "CABSETTINGS_TEST_LENGTH";
 
 const int Profiles = 3;
-
-int Length()
-{
-    const QByteArray given = qgetenv(LengthVariable);
-    return given.isEmpty() ? 1 : given.toInt();
-}
 
 /// A random change that every writer may make: "units.area acre".
 QStringList RandomChange(QRandomGenerator& random)
@@ -122,7 +116,6 @@ QStringList Differences(const QMap<int, QVariant>& left, const QMap<int, QVarian
 void SharedDataFolder::allAgreeOnEveryValueAndOnTheJournal()
 {
     const TConsole console;
-    QVERIFY(Length() > 0);
     QRandomGenerator random(TestSeed());
     const QStringList profiles = MakeProfiles(console, random);
     QDir().mkpath(console.DataFolder());
@@ -141,7 +134,7 @@ void SharedDataFolder::allAgreeOnEveryValueAndOnTheJournal()
     for (int tool = 0; tool < 2; ++tool) {
         writers.emplace_back([&, seed = random.generate()] {
             QRandomGenerator own(seed);
-            for (int change = 0; change < ToolChanges * Length(); ++change) {
+            for (int change = 0; change < ToolChanges * TestLength(); ++change) {
                 const QStringList command = QStringList(Utf8("set")) + RandomChange(own);
                 failure.Check(console.Run(command), command);
             }
@@ -150,7 +143,7 @@ void SharedDataFolder::allAgreeOnEveryValueAndOnTheJournal()
     }
     writers.emplace_back([&, seed = random.generate()] {
         QRandomGenerator own(seed);
-        for (int number = 0; number < ToolChanges * Length() / 2; ++number) {
+        for (int number = 0; number < ToolChanges * TestLength() / 2; ++number) {
             const QStringList command = {Utf8("import"), profiles.at(own.bounded(Profiles)), Utf8("--theirs")};
             failure.Check(console.Run(command), command);
         }
