@@ -56,6 +56,7 @@ Item {
                     width: parent.width
                     model: row.contrasts
                     name: row.name
+                    lowOnly: Sizes.isCompact
                 }
             }
 

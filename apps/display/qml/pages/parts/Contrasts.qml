@@ -12,6 +12,8 @@ Flow {
     property var model
     // Of the element's parameter.
     property string name
+    // A row of a low window has room for what needs attention only.
+    property bool lowOnly: false
 
     Repeater {
         model: contrasts.model
@@ -20,7 +22,8 @@ Flow {
             width: Math.min(implicitWidth, contrasts.width)
             rightPadding: Sizes.gap * 2
             wraps: true
-            visible: model.elementName === contrasts.name || model.groundName === contrasts.name
+            visible: (model.elementName === contrasts.name || model.groundName === contrasts.name)
+                     && !(contrasts.lowOnly && model.isLegible)
             color: model.isLegible ? Scheme.muted : Scheme.attention
             text: {
                 var other = model.elementName === contrasts.name ? qsTr("on %1: %2").arg(model.ground)

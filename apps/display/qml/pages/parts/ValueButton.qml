@@ -2,7 +2,7 @@ import QtQuick 2.15
 import CabSettings 1.0
 import "../../controls"
 
-// A button that shows a value of any length: a long one, such as a path, wraps.
+// A button that shows a value of any length: a long one, such as a path, is smaller and wraps.
 //
 //     ValueButton { room: 400; value: parameter.shownText; onClicked: edit() }
 PushButton {
@@ -27,7 +27,7 @@ PushButton {
         anchors.fill: parent
         anchors.leftMargin: Sizes.margin
         anchors.rightMargin: Sizes.margin
-        size: Sizes.row
+        size: measure.implicitWidth > button.room - 2 * Sizes.margin ? Sizes.text : Sizes.row
         wraps: true
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
