@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -76,18 +77,22 @@ void PagePictures::everyPageHasOneOfItsOwn()
 
 void PagePictures::twoRunsWriteTheSame()
 {
-    QMap<QString, QByteArray> runs[2];
-    for (QMap<QString, QByteArray>& pictures : runs) {
-        const QTemporaryDir folder;
-        tagDisplayOptions options;
-        options.pictureFolder = folder.path();
-        QString error;
-        QVERIFY2(WritePictures(options, &error), qPrintable(error));
-        pictures = PicturesIn(folder.path());
+    // The program itself: the renderer keeps the letters of a process, which are not those of another run to the pixel.
+    const QTemporaryDir folders[2];
+    QProcess runs[2];
+    for (int run = 0; run < 2; ++run)
+        runs[run].start(QLatin1String(CABSETTINGS_DISPLAY), {QLatin1String("--shot"), folders[run].path()});
+    for (QProcess& run : runs) {
+        const int patience = 100000;
+        QVERIFY(run.waitForFinished(patience) && run.exitStatus() == QProcess::NormalExit);
+        QVERIFY2(run.exitCode() == 0, run.readAllStandardError().constData());
     }
-    QCOMPARE(runs[0].keys(), runs[1].keys());
-    for (const QString& name : runs[0].keys())
-        QVERIFY2(runs[0].value(name) == runs[1].value(name), qPrintable(name));
+    const QMap<QString, QByteArray> pictures = PicturesIn(folders[0].path());
+    const QMap<QString, QByteArray> again = PicturesIn(folders[1].path());
+    QVERIFY(pictures.size() >= PageNames().size());
+    QCOMPARE(again.keys(), pictures.keys());
+    for (auto picture = pictures.begin(); picture != pictures.end(); ++picture)
+        QVERIFY2(again.value(picture.key()) == picture.value(), qPrintable(picture.key()));
 }
 
 void PagePictures::whatCannotBeWrittenIsSaid()
