@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QImage>
+#include <QRect>
+
+/// What the eye gets from a picture of the display.
+namespace PictureLight {
+
+/// The mean luminance of its pixels, 0 (black) to 1 (white), of linear light as sRGB defines it.
+double MeanLuminance(const QImage& picture);
+
+/// Whether a pixel is pure white.
+bool HasWhite(const QImage& picture);
+
+/// The greatest contrast of a pixel of the place, which is in the middle of a stroke, against the colour that most
+/// pixels have. The place lies within the picture.
+double Contrast(const QImage& picture, const QRect& place);
+
+} // namespace PictureLight
