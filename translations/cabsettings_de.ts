@@ -207,6 +207,10 @@
         <source>The fonts of the display</source>
         <translation>Die Schriften des Terminals</translation>
     </message>
+    <message>
+        <source>The keyboard on the screen</source>
+        <translation>Die Tastatur auf dem Bildschirm</translation>
+    </message>
 </context>
 <context>
     <name>DoorBand</name>

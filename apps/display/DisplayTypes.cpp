@@ -1,6 +1,7 @@
 #include "display/DisplayTypes.h"
 
 #include "display/fieldwork/TWork.h"
+#include "display/keyboard/TScreenKeyboard.h"
 #include "display/keys/TFocusKeys.h"
 #include "display/lightbar/TLightBar.h"
 #include "display/map/TMapItem.h"
@@ -20,5 +21,6 @@ void RegisterDisplayTypes()
     qmlRegisterType<TFocusKeys>(Module, Major, Minor, "FocusKeys");
     qmlRegisterType<TLightBar>(Module, Major, Minor, "LightBar");
     qmlRegisterType<TMapItem>(Module, Major, Minor, "MapView");
+    TScreenKeyboard::Register(Module, Major, Minor);
     TWork::Register(Module, Major, Minor);
 }

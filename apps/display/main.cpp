@@ -1,6 +1,7 @@
 #include "display/bench/Bench.h"
 #include "display/bench/BenchWork.h"
 #include "display/fieldwork/DemoField.h"
+#include "display/keyboard/ScreenKeyboard.h"
 #include "display/options/DisplayOptions.h"
 #include "display/session/TDisplaySession.h"
 #include "display/shot/Pictures.h"
@@ -130,6 +131,8 @@ int main(int argc, char* argv[])
     ChooseRenderer();
     if (!options.pictureFolder.isEmpty() || (options.isBench && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (options.pictureFolder.isEmpty() && !options.isBench)
+        ScreenKeyboard::Choose();
     HoldEndingSignals();
     const QGuiApplication application(argc, argv);
     const TQuitOnSignal quitOnSignal;

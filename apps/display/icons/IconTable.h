@@ -63,4 +63,5 @@ inline constexpr std::array Icons = {
     tagIcon{"farm", "M3 21V11l9-7 9 7v10zM9 21v-7h6v7"},
     tagIcon{"left", "M19 4L5 12l14 8z"},
     tagIcon{"right", "M5 4l14 8-14 8z"},
+    tagIcon{"shift", "M12 3l9 9h-5v8H8v-8H3z"},
 };

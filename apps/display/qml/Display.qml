@@ -37,6 +37,8 @@ FocusKeys {
     Binding { target: Sizes; property: "width"; value: display.width }
     Binding { target: Sizes; property: "height"; value: display.height }
     Binding { target: Sizes; property: "overlay"; value: overlay }
+    // Delayed: a field that moves asks the input method anew, which is just about to show the keyboard.
+    Binding { target: Sizes; property: "keyboard"; value: keyboard.covered; delayed: true }
 
     Rectangle {
         anchors.fill: parent
@@ -61,7 +63,11 @@ FocusKeys {
             Loader {
                 id: other
 
-                anchors.fill: parent
+                anchors {
+                    fill: parent
+                    // A page stays as it is below a question.
+                    bottomMargin: overlay.count === 0 ? Math.max(0, Sizes.keyboard - doors.height) : 0
+                }
                 active: display.page !== "work"
                 source: active ? "pages/" + doors.row(display.page).file : ""
 
@@ -122,4 +128,14 @@ FocusKeys {
         anchors.fill: parent
     }
     LockLayer { id: locked }
+    Loader {
+        id: keyboard
+
+        readonly property real covered: item !== null && item.active ? item.height : 0
+        // Not a source, which would complain where one of the keyboard's modules is missing.
+        readonly property Component panel: ScreenKeyboard.isChosen
+            ? Qt.createComponent("keyboard/KeyboardPanel.qml", Component.Asynchronous) : null
+
+        sourceComponent: panel !== null && panel.status === Component.Ready ? panel : null
+    }
 }

@@ -3,6 +3,7 @@
 #include "display/DisplayTypes.h"
 #include "display/fonts/DisplayFont.h"
 #include "display/icons/TIconProvider.h"
+#include "display/keyboard/ScreenKeyboard.h"
 #include "display/shot/PageTable.h"
 
 #include "module/CabQuick.h"
@@ -62,6 +63,10 @@ bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error)
     const QString fonts = QCoreApplication::translate("Display", "The fonts of the display");
     CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans"), QString(), QStringLiteral("OFL-1.1"), fonts);
     CabQuick::AddToAbout(QStringLiteral("DejaVu Sans"), QString(), QStringLiteral("Bitstream-Vera"), fonts);
+    if (ScreenKeyboard::IsChosen())
+        CabQuick::AddToAbout(QStringLiteral("Qt Virtual Keyboard"), QLatin1String(qVersion()),
+                             QStringLiteral("GPL-3.0-only"),
+                             QCoreApplication::translate("Display", "The keyboard on the screen"));
     return true;
 }
 

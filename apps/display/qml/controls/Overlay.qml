@@ -13,9 +13,9 @@ FocusScope {
     default property alias content: panel.data
     property real padding: Sizes.isCompact ? 2 * Sizes.gap : 3 * Sizes.gap
     readonly property bool isOpen: visible
-    // The largest content that fits the window.
+    // The largest content that fits the window, above the keyboard on the screen.
     readonly property real roomWidth: Sizes.width - 2 * padding - 2 * Sizes.gap
-    readonly property real roomHeight: Sizes.height - 2 * padding - 2 * Sizes.gap
+    readonly property real roomHeight: Sizes.height - Sizes.keyboard - 2 * padding - 2 * Sizes.gap
 
     property Item _before: null
 
@@ -60,7 +60,11 @@ FocusScope {
         anchors.fill: parent
     }
     Rectangle {
-        anchors.centerIn: parent
+        // The keyboard on the screen offers further letters above its first row.
+        readonly property real covered: Sizes.keyboard > 0 ? Sizes.keyboard + Sizes.target : 0
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: covered > 0 ? Math.max(Sizes.gap, (parent.height - covered - height) / 2) : (parent.height - height) / 2
         width: panel.width + 2 * overlay.padding
         height: panel.height + 2 * overlay.padding
         color: Scheme.panel

@@ -1,7 +1,8 @@
 pragma Singleton
 import QtQuick 2.15
 
-// The sizes that all pages share, in pixels, for the size of the window. The window sets width, height and overlay.
+// The sizes that all pages share, in pixels, for the size of the window. The window sets width, height, overlay and
+// keyboard.
 //
 //     width: Sizes.target
 //     anchors.margins: Sizes.gap
@@ -14,6 +15,8 @@ QtObject {
     property real height: 800
     // The item above the pages in which keypads and questions open.
     property Item overlay: null
+    // Of the keyboard on the screen; 0 while there is none. What is typed stands above it.
+    property real keyboard: 0
 
     readonly property bool isPortrait: height > width
     // A window as low as 480 px: bands, titles and targets are smaller.

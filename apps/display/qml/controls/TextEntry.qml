@@ -85,6 +85,11 @@ FocusScope {
                 inputMethodHints: Qt.ImhNoPredictiveText
                 Accessible.role: Accessible.EditableText
                 Accessible.name: entry.label !== "" ? entry.label : entry.placeholder
+                // Also where a page or a question gives it the focus: the tap was on what opened that.
+                onActiveFocusChanged: {
+                    if (activeFocus)
+                        Qt.inputMethod.show()
+                }
                 onAccepted: {
                     if (entry.isGood)
                         entry.accepted()

@@ -140,6 +140,7 @@ Item {
         id: naming
         title: qsTr("Address of the receiver")
         hint: parameter.accepts
+        hints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase | Qt.ImhLatinOnly
         check: function (text) { return parameter.check(text) }
         onTyped: function (text) { parameter.set(text) }
     }

@@ -18,7 +18,10 @@ Overlay {
     // From the text to a sentence that says what is wrong; "" when nothing is.
     property var check: function () { return "" }
     property bool takesNothing: false
+    property alias hints: entry.hints
 
+    // The keyboard on the screen leaves no room for buttons below.
+    readonly property bool isLow: roomHeight < 5 * Sizes.target
     readonly property bool isGood: entry.error === "" && (takesNothing || entry.text !== "")
 
     signal typed(string text)
@@ -38,16 +41,24 @@ Overlay {
     }
 
     Column {
-        width: Math.min(naming.roomWidth, Sizes.row * 24)
-        spacing: Sizes.gap * 2
+        width: Math.min(naming.roomWidth, Sizes.row * (naming.isLow ? 32 : 24))
+        spacing: Sizes.gap * (naming.isLow ? 1 : 2)
 
-        TextLabel {
+        Item {
+            id: head
             width: parent.width
-            size: Sizes.title
-            font.bold: true
-            wraps: true
-            color: Scheme.title
-            text: naming.title
+            height: childrenRect.height
+
+            TextLabel {
+                width: parent.width - (naming.isLow ? buttons.width + Sizes.gap : 0)
+                height: naming.isLow ? Math.max(implicitHeight, buttons.height) : implicitHeight
+                verticalAlignment: Text.AlignVCenter
+                size: Sizes.title
+                font.bold: true
+                wraps: true
+                color: Scheme.title
+                text: naming.title
+            }
         }
 
         TextEntry {
@@ -67,21 +78,30 @@ Overlay {
             text: naming.hint
         }
 
-        Row {
-            anchors.right: parent.right
-            spacing: Sizes.gap * 2
+        Item {
+            id: foot
+            width: parent.width
+            height: childrenRect.height
+            visible: !naming.isLow
+        }
+    }
 
-            PushButton {
-                text: qsTr("Cancel")
-                onClicked: naming.close()
-            }
+    Row {
+        id: buttons
+        parent: naming.isLow ? head : foot
+        anchors.right: parent ? parent.right : undefined
+        spacing: Sizes.gap * 2
 
-            PushButton {
-                text: qsTr("Set")
-                primary: true
-                enabled: naming.isGood
-                onClicked: naming.take()
-            }
+        PushButton {
+            text: qsTr("Cancel")
+            onClicked: naming.close()
+        }
+
+        PushButton {
+            text: qsTr("Set")
+            primary: true
+            enabled: naming.isGood
+            onClicked: naming.take()
         }
     }
 }

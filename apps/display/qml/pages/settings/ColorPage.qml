@@ -154,6 +154,7 @@ SettingsPanel {
         id: digits
         title: parameter.title
         hint: parameter.accepts
+        hints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase | Qt.ImhLatinOnly
         check: function (text) { return parameter.check(text) }
         onTyped: function (text) {
             parameter.set(text)

@@ -23,12 +23,15 @@ SettingsPanel {
         focus: true
         icon: "search"
         placeholder: qsTr("Words of a setting")
+        hints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+        // What was found may lie below the keyboard on the screen.
+        onAccepted: Qt.inputMethod.hide()
     }
 
     TextLabel {
         anchors.top: list.top
         width: parent.width
-        visible: found.count === 0
+        visible: list.visible && found.count === 0
         muted: true
         wraps: true
         text: qsTr("No setting has these words.")
@@ -40,6 +43,7 @@ SettingsPanel {
         anchors.topMargin: Sizes.gap
         anchors.bottom: parent.bottom
         width: parent.width
+        visible: height >= Sizes.target
         model: found
         delegate: ParameterRow {
             width: ListView.view.width
