@@ -21,6 +21,7 @@ class Translations : public QObject
     Q_OBJECT
 
 private slots:
+    void everyLanguageOfTheDisplayHasOne();
     void catalogueHasEveryText_data() { AddLanguages(); }
     void catalogueHasEveryText();
     void everyTextIsFinished_data() { AddLanguages(); }
@@ -147,6 +148,15 @@ void Translations::AddLanguages()
     const QStringList languages = Text(CABSETTINGS_LANGUAGES).split(QLatin1Char(' '));
     for (const QString& language : languages)
         QTest::newRow(qPrintable(language)) << language;
+}
+
+void Translations::everyLanguageOfTheDisplayHasOne()
+{
+    TRegionSettings::InitializeLanguageStrings();
+    const QStringList languages = Text(CABSETTINGS_LANGUAGES).split(QLatin1Char(' '));
+    for (const QString& extension : TRegionSettings::LanguageExtensions)
+        QVERIFY2(languages.contains(extension.mid(1)), qPrintable(extension));
+    QCOMPARE(languages.size(), int{TRegionSettings::LanguageCount});
 }
 
 /// The texts are those of German, of which another test finds that they are those of the sources. English needs plural
