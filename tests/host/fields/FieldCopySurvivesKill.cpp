@@ -1,6 +1,6 @@
 #include "../../system/TPrivateMounts.h"
-#include "../profiles/SystemCalls.h"
 #include "StoreTestSupport.h"
+#include "SystemCalls.h"
 #include "TTemporaryFolder.h"
 
 #include "fields/TFieldTree.h"
@@ -42,10 +42,7 @@ EFieldResult Copy(const QString& folder, int nth, int failure, tagFieldCopy* cop
     TTerminal terminal(store);
     if (!terminal.Start(folder, error))
         return FIELD_FAILED;
-    if (failure == 0)
-        SystemCalls::Kill(nth);
-    else
-        SystemCalls::Fail(nth, failure);
+    SystemCalls::Stop(nth, failure);
     const EFieldResult result = TFieldTree(store).Copy(Client, FIELD_DRIVE_STICK, true, {}, copy, error);
     SystemCalls::Count();
     return result;

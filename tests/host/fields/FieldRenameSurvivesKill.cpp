@@ -1,5 +1,5 @@
-#include "../profiles/SystemCalls.h"
 #include "StoreTestSupport.h"
+#include "SystemCalls.h"
 #include "TTemporaryFolder.h"
 
 #include "fields/TFieldTree.h"
@@ -46,10 +46,7 @@ EFieldResult Rename(const QString& folder, int nth, int failure, QString* error)
     TTerminal terminal(*store);
     if (!terminal.Start(folder, error))
         return FIELD_FAILED;
-    if (failure == 0)
-        SystemCalls::Kill(nth);
-    else
-        SystemCalls::Fail(nth, failure);
+    SystemCalls::Stop(nth, failure);
     const EFieldResult result = TFieldTree(*store).Rename(Field, After, error);
     SystemCalls::Count();
     return result;

@@ -1,5 +1,5 @@
-#include "../profiles/SystemCalls.h"
 #include "StoreTestSupport.h"
+#include "SystemCalls.h"
 #include "TTemporaryFolder.h"
 
 #include "support/SupportBundle.h"
@@ -35,10 +35,7 @@ bool Write(const QString& folder, const QString& archive, int nth, int failure, 
     TTerminal terminal(*store);
     if (!terminal.Start(folder, error))
         return false;
-    if (failure == 0)
-        SystemCalls::Kill(nth);
-    else
-        SystemCalls::Fail(nth, failure);
+    SystemCalls::Stop(nth, failure);
     const bool isWritten =
         WriteSupportBundle(*store, archive, {folder, QLatin1String("1.2.3"), false}, {}, bundle, error);
     SystemCalls::Count();

@@ -16,6 +16,9 @@ void Fail(int nth, int error);
 /// Kills the process at the @p nth call from now, before it is made.
 void Kill(int nth);
 
+/// Kills when @p error is 0, and else lets the calls fail: for a table that has both.
+void Stop(int nth, int error);
+
 /// The calls at which a sweep kills: the first one, and the distance to the next. Every call is tried, one after the
 /// other. A sanitizer makes the start of a program several times as slow and sees the same code at each call: with one,
 /// every fourth call is tried, from a random one on.

@@ -54,6 +54,7 @@ void SystemCalls::Count() { Arm(INT_MAX, 0); }
 int SystemCalls::Counted() { return calls; }
 void SystemCalls::Fail(int nth, int error) { Arm(nth, error); }
 void SystemCalls::Kill(int nth) { Arm(nth, 0); }
+void SystemCalls::Stop(int nth, int error) { Arm(nth, error); }
 int SystemCalls::FirstToKill() { return CallStep == 1 ? 1 : 1 + static_cast<int>(TestSeed() % CallStep); }
 int SystemCalls::NextToKill(int nth) { return nth + CallStep; }
 
