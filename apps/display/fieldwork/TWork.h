@@ -125,13 +125,13 @@ public:
 
     QString JobText() const; ///< the active job; a sentence when there is none
 
-    // A job that is loaded brings its own line and flags: until it is there, none is set.
+    // A job brings its own line and flags: none is set until it is there.
 
-    /// A is here: ends following a line. False without a position, and while the job is loaded.
+    /// A is here: ends following a line. False without a position, and before the job is there.
     Q_INVOKABLE bool setA();
 
     /// B is here: the line is followed, and saved: under the active name, or under a new default name when there is a
-    /// line of that name. False when there is no A, no position, A is nearer than a metre, or the job is loaded.
+    /// line of that name. False when there is no A, no position, A is nearer than a metre, or the job is not there.
     Q_INVOKABLE bool setB();
 
     /// Stops following a line; its file stays.
@@ -144,7 +144,7 @@ public:
     /// problem of the display's list, since it is read later.
     Q_INVOKABLE QString loadLine(const QString& name);
 
-    /// Marks the place with a flag, which is kept in the field. False without a position, and while the job is loaded.
+    /// Marks the place with a flag, which is kept in the field. False without a position, and before the job is there.
     Q_INVOKABLE bool mark();
 
     /// Empty when the implement may have this width in metres, else a sentence.

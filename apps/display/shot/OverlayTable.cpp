@@ -33,7 +33,7 @@ void OverlayChanges::SetLongProblem(TSqliteStore& /*store*/, bool isThere)
     if (!isThere)
         CabQuick::ClearProblem(key);
     else
-        CabQuick::SetProblem(key, QStringLiteral("The coverage is kept in memory until it can be stored: cannot write "
+        CabQuick::SetProblem(key, QStringLiteral("The coverage is kept in memory until it can be stored. Cannot write "
                                                  "/media/internal/Smith/North/F1/Jobs/Spring_2024/Spring_2024.cov: "
                                                  "no space left on device"));
 }

@@ -41,7 +41,7 @@ inline constexpr std::array Overlays = {
     tagOverlay{"choice", "settings-region", {"region.language"}, "", "choicePage", false},
     tagOverlay{"color", "settings-colors", {"color"}, "", "colorPage", true},
     tagOverlay{"color-digits", "settings-colors", {"color", "digits"}, "", "nameEntry", false},
-    tagOverlay{"color-refused", "settings-colors", {"color", "digits"}, "red", "nameEntry", false},
+    tagOverlay{"color-refused", "settings-colors", {"color", "digits"}, "#12z", "nameEntry", false},
     tagOverlay{"implements", "settings-machine", {"active.implement"}, "", "itemPage", false},
     tagOverlay{"new-implement", "settings-machine", {"active.implement", "new"}, "", "nameEntry", false},
     tagOverlay{"line", "work", {}, "", "linePanel", false, OverlayChanges::SetPosition},
