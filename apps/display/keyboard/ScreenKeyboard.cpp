@@ -27,7 +27,7 @@ bool IsInstalled()
 /// The one of the country that gave the language its name, else the first one of the language.
 QString LocaleFor(const QString& language, const QStringList& available)
 {
-    const QString own = language + QLatin1Char('_') + language.toUpper();
+    QString own = language + QLatin1Char('_') + language.toUpper();
     if (available.contains(own))
         return own;
     const auto found = std::find_if(available.begin(), available.end(), [&language](const QString& locale) {

@@ -61,10 +61,11 @@ FocusScope {
     }
     Rectangle {
         // The keyboard on the screen offers further letters above its first row.
-        readonly property real covered: Sizes.keyboard > 0 ? Sizes.keyboard + Sizes.target : 0
+        readonly property real letters: Sizes.keyboard > 0 ? Sizes.target : 0
+        readonly property real room: parent.height - Sizes.keyboard - height
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: covered > 0 ? Math.max(Sizes.gap, (parent.height - covered - height) / 2) : (parent.height - height) / 2
+        y: letters > 0 ? Math.max(0, Math.min(room, Math.max(Sizes.gap, (room - letters) / 2))) : room / 2
         width: panel.width + 2 * overlay.padding
         height: panel.height + 2 * overlay.padding
         color: Scheme.panel
