@@ -145,6 +145,14 @@ void StartWork(const TOpenDisplay& display)
     CabQuick::Receiver().SetRunning(true);
 }
 
+/// The restart that an operator may ask for ends the program. Here no event loop would run any more, and no frame be
+/// drawn.
+void GoOnAtRestart(const TOpenDisplay& display)
+{
+    const QQmlEngine& engine = *qmlEngine(&display.Window());
+    QObject::disconnect(&engine, &QQmlEngine::exit, QCoreApplication::instance(), nullptr);
+}
+
 /// Taps hardly ever last long enough to unlock the screen: all steps that follow would meet the lock only.
 bool Unlock(TOpenDisplay& display)
 {
@@ -280,6 +288,7 @@ void RandomTaps::leaveNoWarning()
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
     StartWork(display);
+    GoOnAtRestart(display);
     TChance chance(TestSeed());
     TFrameCosts costs(display.Window());
     QStringList steps;
@@ -291,7 +300,10 @@ void RandomTaps::leaveNoWarning()
         const int shown = 10;
         if (steps.size() > shown)
             steps.removeFirst();
+        const int frames = costs.Frames();
         steps.append(Step(display, chance, costs));
+        QVERIFY2(costs.Frames() > frames,
+                 qPrintable(QLatin1String("no frame after\n") + steps.join(QLatin1Char('\n'))));
         if (chance.Below(UnlockedAfter) == 0)
             QVERIFY(Unlock(display));
         QVERIFY2(display.Warnings().isEmpty(), qPrintable(display.Warnings().join(QLatin1Char('\n')) +
