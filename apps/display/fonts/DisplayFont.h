@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The families of the display's texts in a language such as "de": the first draws what it can, then the second. All are
-/// of packages that the display depends on, so that texts look alike everywhere. Adds the fonts to the program.
+/// The families of the display's texts in a language such as "de": the first draws what it can, then the second. All
+/// are of packages that the display depends on, so that texts look alike everywhere. Adds the fonts to the program.
 /// @param language empty for that of an operator who has chosen none.
 QStringList DisplayFamilies(const QString& language);
 
