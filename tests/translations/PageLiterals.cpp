@@ -23,7 +23,7 @@ const char* const Shown =
 /// What compares with a name, or asks for something by its name, shows no text.
 const char* const Names = R"([!=]==?\s*"[^"]*"|\b(?!qsTr\b)\w+\(\s*"[^"]*")";
 
-const char* const Marked = R"(\bqsTr\(\s*"(?:[^"\\]|\\.)*"(?:\s*,\s*"(?:[^"\\]|\\.)*")?)";
+const char* const Marked = R"(\b(?:qsTr\(|qsTranslate\("\w+",)\s*"(?:[^"\\]|\\.)*"(?:\s*,\s*"(?:[^"\\]|\\.)*")?)";
 
 QString Pattern(const char* pattern) { return QString::fromLatin1(pattern); }
 
