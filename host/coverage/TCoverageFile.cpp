@@ -163,6 +163,7 @@ qint64 ReadAndCut(int descriptor, const QString& path, tagCoverage* found, QStri
 {
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         *error = QString::fromLatin1("another program has %1 open").arg(path);
+        found->isHeld = true;
         return -1;
     }
     QByteArray bytes;
@@ -199,7 +200,9 @@ std::unique_ptr<TCoverageFile> TCoverageFile::Open(const QString& path, tagCover
     if (descriptor >= 0)
         end = ReadAndCut(descriptor, path, found, error);
     if (end < 0) {
+        const bool isHeld = found->isHeld;
         *found = tagCoverage();
+        found->isHeld = isHeld;
         close(descriptor);
         return nullptr;
     }

@@ -20,6 +20,7 @@ struct tagCoverage
     std::vector<tagCoverageStrip> strips; ///< in the order in which they were made; exact to half a millimetre
     qint64 lostBytes = 0;                 ///< of blocks that were damaged or not complete
     qint64 lostStrips = 0;                ///< in these bytes, as far as they tell
+    bool isHeld = false; ///< it could not be opened, because another program has it open: a later try may succeed
 };
 
 /// How far the writing of a coverage is.
@@ -62,7 +63,7 @@ public:
     /// Opens the coverage, and reads what is there.
     /// @param path need not exist, nor its folder.
     /// @return null, with @p error, when the file cannot be read or cut, another program has it open, or it is not a
-    /// coverage of this version. It is then as it was.
+    /// coverage of this version. It is then as it was, and nothing is in @p found but whether it is held.
     static std::unique_ptr<TCoverageFile> Open(const QString& path, tagCoverage* found, QString* error);
 
     /// Writes what is waiting, once.

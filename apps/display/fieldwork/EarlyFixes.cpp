@@ -29,11 +29,15 @@ std::vector<tagCoverageStrip> StripsOf(const TEarlyFixes& fixes, const TLocalPla
 
 void StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job)
 {
-    if (fixes.empty() || !job->coverage)
+    if (fixes.empty())
         return;
-    const tagGeoPoint origin = job->origin.value_or(fixes.front().place);
-    job->coverage->SetOrigin(origin); // only the first one counts
+    LoadHeldCoverage(job);
+    const tagJob& used = job->later ? *job->later : *job;
+    if (!used.coverage)
+        return;
+    const tagGeoPoint origin = used.origin.value_or(job->origin.value_or(fixes.front().place));
+    used.coverage->SetOrigin(origin); // only the first one counts
     TStripMaker maker;
     for (const tagCoverageStrip& strip : StripsOf(fixes, TLocalPlane(origin.latitude, origin.longitude), &maker))
-        job->coverage->Add(strip);
+        used.coverage->Add(strip);
 }

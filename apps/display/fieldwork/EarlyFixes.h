@@ -8,7 +8,7 @@
 
 #include <vector>
 
-/// A fix that came before the job was there whose ground it covers.
+/// A fix that came before the coverage was there to which its ground belongs.
 struct tagEarlyFix
 {
     tagGeoPoint place;
@@ -28,6 +28,6 @@ using TEarlyFixes = std::vector<tagEarlyFix>;
 /// @endcode
 std::vector<tagCoverageStrip> StripsOf(const TEarlyFixes& fixes, const TLocalPlane& plane, TStripMaker* maker);
 
-/// Adds the ground to the coverage of a job that was loaded and is not shown. Does nothing when its coverage cannot be
-/// used. May be called from any thread.
+/// Adds the ground to the coverage of a job that was loaded and is not shown any more. A coverage that another program
+/// had open is tried once more. Does nothing when it cannot be used. May be called from any thread.
 void StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job);

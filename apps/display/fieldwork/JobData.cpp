@@ -7,6 +7,7 @@
 #include "terminal/ActiveItems.h"
 
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -23,15 +24,19 @@ void LoadCoverage(const QString& path, tagJob* job)
     tagCoverage found;
     QString error;
     job->coverage = TCoverageFile::Open(path, &found, &error);
-    if (!job->coverage)
+    if (found.isHeld) {
+        job->heldCoverage = path;
+        job->holdReason = error;
+    } else if (!job->coverage) {
         job->errors.append(error);
+    }
     job->origin = found.origin;
     job->lostBytes = found.lostBytes;
     job->lostStrips = found.lostStrips;
     job->strips.reserve(static_cast<int>(found.strips.size()));
     for (const tagCoverageStrip& strip : found.strips) {
         job->strips.append(MapStrip(strip));
-        job->tally.Add(strip);
+        job->tally->Add(strip);
     }
 }
 
@@ -91,6 +96,16 @@ void LoadJob(const tagJobPlaces& places, tagJob* job)
     job->areFlagsGood = job->errors.size() == errors;
     if (!job->origin && job->boundary)
         job->origin = job->boundary->external.front();
+}
+
+void LoadHeldCoverage(tagJob* job)
+{
+    if (job->heldCoverage.isEmpty() || job->later)
+        return;
+    auto later = std::make_unique<tagJob>();
+    LoadCoverage(job->heldCoverage, later.get());
+    if (later->heldCoverage.isEmpty())
+        job->later = std::move(later);
 }
 
 tagMapStrip MapStrip(const tagCoverageStrip& strip)

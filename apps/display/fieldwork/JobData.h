@@ -42,7 +42,7 @@ struct tagJob
     std::unique_ptr<TCoverageFile> coverage; ///< null without a job, and when the file cannot be used
     std::optional<tagGeoPoint> origin;       ///< of the coverage; else a corner of the boundary; nothing without both
     QVector<tagMapStrip> strips;
-    TCoverageTally tally;
+    std::unique_ptr<TCoverageTally> tally = std::make_unique<TCoverageTally>();
     qint64 lostBytes = 0; ///< of coverage that was not complete
     qint64 lostStrips = 0;
     std::optional<tagBoundary> boundary;
@@ -52,10 +52,18 @@ struct tagJob
     std::vector<tagGeoPoint> flags;
     bool areFlagsGood = true; ///< false: the file is damaged, and is left alone
     QStringList errors;       ///< one line each
+
+    QString heldCoverage;          ///< the coverage's file while another program has it open; else empty
+    QString holdReason;            ///< one line
+    std::unique_ptr<tagJob> later; ///< of the held coverage, as it was when the other program had let it go
 };
 
 /// Reads the files; what cannot be read is left out, with an error. Takes as long as the disk does, and two seconds for
 /// ten hours of coverage. May be called from any thread.
 void LoadJob(const tagJobPlaces& places, tagJob* job);
+
+/// Tries to open the coverage that another program had open when the job was read. What is found, if anything, is in
+/// job->later, which is null while the coverage is still held. May be called from any thread.
+void LoadHeldCoverage(tagJob* job);
 
 tagMapStrip MapStrip(const tagCoverageStrip& strip);

@@ -46,7 +46,10 @@ TWork::TWork(QObject* selections, QObject* parent)
             TellFigures();
     });
     m_CheckTimer.setInterval(CheckMs);
-    connect(&m_CheckTimer, &QTimer::timeout, this, &TWork::CheckCoverage);
+    connect(&m_CheckTimer, &QTimer::timeout, this, [this] {
+        TryHeldCoverage();
+        CheckCoverage();
+    });
     m_CheckTimer.start();
     connect(&m_Receiver, &TReceiver::positionChanged, this, &TWork::TakePosition);
     connect(&m_Receiver, &TReceiver::fixChanged, this, &TWork::TakeFix);
@@ -59,7 +62,7 @@ TWork::TWork(QObject* selections, QObject* parent)
 TWork::~TWork()
 {
     m_Disk.waitForDone();
-    if (!m_Job)
+    if (!m_Job || IsCoverageHeld())
         StoreEarlyFixes(m_EarlyFixes, m_Latest.get());
 }
 
@@ -108,7 +111,7 @@ void TWork::TakePosition()
     m_Application = m_Receiver.Address() == QLatin1String("simulator")
                         ? m_Controller.Advance(seconds, status.speed, ImplementWidth(), m_IsWorking)
                         : NoController;
-    if (!m_Job)
+    if (!m_Job || IsCoverageHeld())
         KeepFix();
     if (m_Plane) {
         m_Pose = {m_Plane->ToPlane(status.latitude, status.longitude), m_Heading};
@@ -145,7 +148,7 @@ void TWork::BreakStrip()
     m_IsBroken = true;
 }
 
-/// The job decides on which plane the ground is covered, and is not there yet.
+/// The job's coverage decides on which plane the ground is covered, and is not there yet.
 void TWork::KeepFix()
 {
     if (!m_IsWorking || std::isnan(m_Heading)) {
@@ -156,12 +159,14 @@ void TWork::KeepFix()
     m_IsBroken = false;
 }
 
-/// Covers what was driven while the job was loaded. The strip goes on with the next position.
+/// Covers what was driven while the job was loaded. The strip goes on with the next position. While the coverage is
+/// held, this is for the map alone, and the fixes are kept.
 void TWork::CoverEarlyFixes()
 {
     for (const tagCoverageStrip& strip : StripsOf(m_EarlyFixes, *m_Plane, &m_Strips))
         Cover(strip);
-    m_EarlyFixes.clear();
+    if (!IsCoverageHeld())
+        m_EarlyFixes.clear();
     if (m_IsBroken)
         m_Strips.Break();
 }
@@ -172,7 +177,7 @@ void TWork::Cover(const tagCoverageStrip& strip)
         m_Job->coverage->SetOrigin(m_Origin); // only the first one counts
         m_Job->coverage->Add(strip);
     }
-    m_Job->tally.Add(strip);
+    m_Job->tally->Add(strip);
     m_Map.AddStrip(MapStrip(strip));
 }
 
@@ -210,8 +215,8 @@ int TWork::LineNumber() const { return m_Offset ? m_Offset->line : 0; }
 double TWork::Speed() const { return m_Receiver.Speed(); }
 double TWork::Latitude() const { return m_Receiver.Latitude(); }
 double TWork::Longitude() const { return m_Receiver.Longitude(); }
-double TWork::Distance() const { return m_Job ? m_Job->tally.Distance() : 0; }
-double TWork::AreaDone() const { return m_Job ? m_Job->tally.Area() / SquareMetresPerHectare : 0; }
+double TWork::Distance() const { return m_Job ? m_Job->tally->Distance() : 0; }
+double TWork::AreaDone() const { return m_Job ? m_Job->tally->Area() / SquareMetresPerHectare : 0; }
 double TWork::AreaLeft() const
 {
     return std::isnan(m_FieldArea) ? NaN : std::max(m_FieldArea / SquareMetresPerHectare - AreaDone(), 0.0);

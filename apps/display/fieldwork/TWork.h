@@ -29,8 +29,9 @@ class TReceiver;
 ///
 /// The job that is selected brings its coverage, its field's boundaries, zones and flags, and the line that is
 /// selected; they are read by a thread. Ground that is covered until they are there is kept, and added to the job that
-/// was selected when it was covered. What is written is written by threads too. moved() comes with every position;
-/// figuresChanged() at most twice a second, so that texts can be read.
+/// was selected when it was covered. So is ground that is covered while another program has the coverage's file open:
+/// a thread tries about once a second to open it. What is written is written by threads too. moved() comes with every
+/// position; figuresChanged() at most twice a second, so that texts can be read.
 class TWork : public QObject
 {
     Q_OBJECT
@@ -167,6 +168,9 @@ private:
     // Files: in TWorkFiles.cpp
     void Load();
     void TakeJob(const std::shared_ptr<tagJob>& job);
+    bool IsCoverageHeld() const;
+    void TryHeldCoverage();
+    void TakeHeldCoverage();
     void TellProblems(const tagJob& job);
     void TakePlane(const tagGeoPoint& origin);
     void ShowAreas();
@@ -207,7 +211,8 @@ private:
     double m_FieldArea;               ///< square metres; NaN without a boundary
 
     TStripMaker m_Strips;
-    TEarlyFixes m_EarlyFixes; ///< of the job that is being loaded
+    TEarlyFixes m_EarlyFixes; ///< of the job that is being loaded, or whose coverage is held
+    bool m_IsTrying = false;  ///< a thread tries to open the coverage that is held
     bool m_IsBroken = true;   ///< the next early fix is not joined to the one before it
     TGuidance m_Guidance;
     TSimulatedController m_Controller;

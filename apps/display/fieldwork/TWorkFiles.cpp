@@ -76,6 +76,7 @@ void TWork::Load()
         if (before) {
             StoreEarlyFixes(*early, before.get()); // it was chosen, but never there
             before->coverage.reset();
+            before->later.reset();
         }
         LoadJob(places, job.get());
         QMetaObject::invokeMethod(
@@ -111,8 +112,52 @@ void TWork::TakeJob(const std::shared_ptr<tagJob>& job)
     if (!m_EarlyFixes.empty())
         CoverEarlyFixes();
     TellProblems(*job);
+    CheckCoverage();
     emit loadingChanged();
     emit guidanceChanged();
+    emit moved();
+    TellFigures();
+}
+
+bool TWork::IsCoverageHeld() const { return m_Job && !m_Job->heldCoverage.isEmpty(); }
+
+void TWork::TryHeldCoverage()
+{
+    if (!IsCoverageHeld() || m_IsTrying)
+        return;
+    m_IsTrying = true;
+    m_Disk.start([this, job = m_Job] {
+        LoadHeldCoverage(job.get());
+        QMetaObject::invokeMethod(
+            this,
+            [this, job] {
+                m_IsTrying = false;
+                if (job == m_Job && job->later)
+                    TakeHeldCoverage();
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+/// The other program has let the file go: what is in it and what was covered meanwhile are put together, on the plane
+/// of the file.
+void TWork::TakeHeldCoverage()
+{
+    const std::unique_ptr<tagJob> found = std::move(m_Job->later);
+    m_Job->heldCoverage.clear();
+    m_Job->coverage = std::move(found->coverage);
+    m_Job->tally = std::move(found->tally);
+    m_Job->lostBytes = found->lostBytes;
+    m_Job->lostStrips = found->lostStrips;
+    m_Job->errors += found->errors;
+    m_Map.SetStrips(found->strips);
+    m_Strips.Break();
+    if (found->origin)
+        TakePlane(*found->origin);
+    if (!m_EarlyFixes.empty())
+        CoverEarlyFixes();
+    TellProblems(*m_Job);
+    CheckCoverage();
     emit moved();
     TellFigures();
 }
@@ -319,6 +364,9 @@ QString TWork::CoverageProblem() const
         return tr("No job is chosen: what is covered is not stored.");
     if (m_Places.coverage.isEmpty())
         return QString();
+    if (IsCoverageHeld())
+        return tr("The coverage is kept in memory until it can be stored. %1")
+            .arg(CabQuick::HostText(m_Job->holdReason));
     if (!m_Job->coverage)
         return m_IsWorking ? tr("The coverage of this job cannot be used: what is covered is not stored.") : QString();
     const tagCoverageState state = m_Job->coverage->State();

@@ -277,6 +277,7 @@ void CoverageFile::onlyOneProgramWrites()
     QVERIFY(file);
     QVERIFY(!m_Room->Open()); // another opening is another program's, as far as the lock goes
     QCOMPARE(m_Room->error, QLatin1String("another program has ") + m_Room->Path() + QLatin1String(" open"));
+    QVERIFY(m_Room->found.isHeld);
 }
 
 void CoverageFile::aFolderIsNoCoverage()
