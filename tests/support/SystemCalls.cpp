@@ -2,10 +2,13 @@
 
 #include "TestSeed.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstddef>
 #include <cstdio>
 #include <dlfcn.h>
 #include <sys/stat.h>
@@ -18,8 +21,31 @@ std::atomic<int> calls{0};
 std::atomic<int> last{INT_MAX}; // the first call that is not made
 std::atomic<int> failure{0};    // its error; 0 to kill
 
+std::array<std::atomic<bool>, 1024> isUnsynced; // by descriptor
+
+bool IsRegular(int file)
+{
+    struct stat about = {};
+    return fstat(file, &about) == 0 && S_ISREG(about.st_mode);
+}
+
+void Wrote(int file)
+{
+    if (file >= 0 && static_cast<std::size_t>(file) < isUnsynced.size() && IsRegular(file))
+        isUnsynced[static_cast<std::size_t>(file)] = true;
+}
+
+int Synced(int file, int result)
+{
+    if (result == 0 && file >= 0 && static_cast<std::size_t>(file) < isUnsynced.size())
+        isUnsynced[static_cast<std::size_t>(file)] = false;
+    return result;
+}
+
 void Arm(int nth, int error)
 {
+    for (std::atomic<bool>& file : isUnsynced)
+        file = false;
     failure = error;
     calls = 0;
     last = nth;
@@ -52,6 +78,9 @@ Function* Original(const char* name)
 
 void SystemCalls::Count() { Arm(INT_MAX, 0); }
 int SystemCalls::Counted() { return calls; }
+
+int SystemCalls::UnsyncedFiles() { return static_cast<int>(std::count(isUnsynced.begin(), isUnsynced.end(), true)); }
+
 void SystemCalls::Fail(int nth, int error) { Arm(nth, error); }
 void SystemCalls::Kill(int nth) { Arm(nth, 0); }
 void SystemCalls::Stop(int nth, int error) { Arm(nth, error); }
@@ -64,12 +93,14 @@ int SystemCalls::NextToKill(int nth) { return nth + CallStep; }
 extern "C" __attribute__((visibility("default"))) ssize_t write(int file, const void* data, size_t size)
 {
     static const auto original = Original<ssize_t(int, const void*, size_t)>("write");
+    Wrote(file);
     return IsMade() ? original(file, data, size) : -1;
 }
 
 extern "C" __attribute__((visibility("default"))) ssize_t pwrite(int file, const void* data, size_t size, off_t offset)
 {
     static const auto original = Original<ssize_t(int, const void*, size_t, off_t)>("pwrite64");
+    Wrote(file);
     return IsMade() ? original(file, data, size, offset) : -1;
 }
 
@@ -82,13 +113,13 @@ extern "C" __attribute__((visibility("default"))) int ftruncate(int file, off_t 
 extern "C" __attribute__((visibility("default"))) int fsync(int file)
 {
     static const auto original = Original<int(int)>("fsync");
-    return IsMade() ? original(file) : -1;
+    return Synced(file, IsMade() ? original(file) : -1);
 }
 
 extern "C" __attribute__((visibility("default"))) int fdatasync(int file)
 {
     static const auto original = Original<int(int)>("fdatasync");
-    return IsMade() ? original(file) : -1;
+    return Synced(file, IsMade() ? original(file) : -1);
 }
 
 extern "C" __attribute__((visibility("default"))) int rename(const char* from, const char* to) noexcept

@@ -10,6 +10,9 @@ void Count();
 /// The number of calls since Count(), Fail() or Kill().
 int Counted();
 
+/// The number of regular files that were written to since Count(), Fail() or Kill(), and were not synced after that.
+int UnsyncedFiles();
+
 /// Lets the @p nth call from now fail with @p error, and those after it as well.
 void Fail(int nth, int error);
 
