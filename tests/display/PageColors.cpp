@@ -25,6 +25,10 @@ const int FigureSize = 48;
 
 const double MostLuminanceAtNight = 0.08;
 
+/// As many positions as the tractor takes for the first passes, and the part of the picture that they fill at least.
+const int PositionsOfPasses = 6000;
+const double LeastPartCovered = 0.04;
+
 bool IsEnabled(const QQuickItem& item)
 {
     return item.isEnabled() && (!item.parentItem() || IsEnabled(*item.parentItem()));
@@ -81,12 +85,17 @@ void PageColors::theNightIsDark()
     TOpenDisplay display(QSize(1280, 800));
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
     display.MakeExample();
+    // Ground that was covered is lighter than the map.
+    display.Drive(PositionsOfPasses);
     display.SetParameter(QLatin1String("display.day-switching"), 0);
     display.SetParameter(QLatin1String("display.day"), false);
+    const QColor coverage = display.Parameter(QLatin1String("colors.night.coverage")).value<QColor>();
     for (const QString& view : TOpenDisplay::Views()) {
         display.Show(view);
         const QImage picture = display.Picture();
         QVERIFY(!picture.isNull());
+        if (view == QLatin1String("work"))
+            QVERIFY(PictureLight::PartOf(picture, coverage) > LeastPartCovered);
         QVERIFY2(!PictureLight::HasWhite(picture), qPrintable(view));
         const double mean = PictureLight::MeanLuminance(picture);
         qDebug("%s: mean luminance %.4f", qPrintable(view), mean);

@@ -149,7 +149,9 @@ void PageUnits::everyQuantityIsATextOfTheLibrary()
     int quantities = 0;
     for (const QString& view : TOpenDisplay::Views()) {
         display.Show(view);
-        const QStringList given = display.QuantityTexts();
+        QStringList given;
+        for (const QObject* quantity : display.Quantities())
+            given << quantity->property("text").toString() << quantity->property("unit").toString();
         for (const QQuickItem* item : VisibleItems::Texts(display.Content())) {
             const QString text = VisibleItems::Text(*item);
             for (const QString& unit : UnitsIn(*item)) {

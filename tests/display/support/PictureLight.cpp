@@ -2,7 +2,6 @@
 
 #include "colors/ColorContrast.h"
 
-#include <QColor>
 #include <QHash>
 
 #include <algorithm>
@@ -41,6 +40,11 @@ double PictureLight::MeanLuminance(const QImage& picture)
     for (auto count = counts.cbegin(); count != counts.cend(); ++count)
         sum += Luminance(QColor(count.key())) * count.value();
     return sum / (double(picture.width()) * picture.height());
+}
+
+double PictureLight::PartOf(const QImage& picture, const QColor& color)
+{
+    return Count(picture, picture.rect()).value(color.rgb()) / (double(picture.width()) * picture.height());
 }
 
 bool PictureLight::HasWhite(const QImage& picture)

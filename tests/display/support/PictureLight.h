@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QRect>
 
@@ -8,6 +9,9 @@ namespace PictureLight {
 
 /// The mean luminance of its pixels, 0 (black) to 1 (white), of linear light as sRGB defines it.
 double MeanLuminance(const QImage& picture);
+
+/// The part of its pixels that have just this colour, 0 to 1.
+double PartOf(const QImage& picture, const QColor& color);
 
 /// Whether a pixel is pure white.
 bool HasWhite(const QImage& picture);

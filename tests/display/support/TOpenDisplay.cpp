@@ -9,13 +9,18 @@
 #include "display/shot/OpenOverlay.h"
 #include "display/shot/PageTable.h"
 #include "module/CabQuick.h"
+#include "nmea/TFieldSimulator.h"
 #include "parameters/TParameterCatalogue.h"
+#include "receiver/SimulatedField.h"
+#include "receiver/TReceiver.h"
 #include "stores/TSqliteStore.h"
 
 #include <QGuiApplication>
 #include <QQuickItemGrabResult>
 #include <QSignalSpy>
 #include <QtTest>
+
+#include <cmath>
 
 namespace {
 
@@ -39,14 +44,14 @@ void Complain(QtMsgType type, const QMessageLogContext& context, const QString& 
 }
 
 /// The rows of lists belong to their list as items only, not as objects.
-void AddQuantities(const QQuickItem& item, QStringList& texts)
+void AddQuantities(const QQuickItem& item, QList<QObject*>& quantities)
 {
-    for (const QObject* object : item.findChildren<QObject*>()) {
-        if (object->inherits("TQuantity"))
-            texts << object->property("text").toString() << object->property("unit").toString();
+    for (QObject* object : item.findChildren<QObject*>()) {
+        if (object->inherits("TQuantity") && !quantities.contains(object))
+            quantities.append(object);
     }
     for (const QQuickItem* child : item.childItems())
-        AddQuantities(*child, texts);
+        AddQuantities(*child, quantities);
 }
 
 } // namespace
@@ -153,7 +158,24 @@ void TOpenDisplay::MakeExample()
     QString error;
     QVERIFY2(MakeDemoField(m_State->session->Engine(), &error), qPrintable(error));
     const TWork& work = *TWork::Of(m_State->session->Engine());
-    QVERIFY(QTest::qWaitFor([&work] { return !work.IsLoading(); }, LoadPatience));
+    // Its field has a boundary. The selections are followed a moment later.
+    QVERIFY(QTest::qWaitFor([&work] { return !work.IsLoading() && !std::isnan(work.AreaLeft()); }, LoadPatience));
+}
+
+void TOpenDisplay::Drive(int positions)
+{
+    TWork& work = *TWork::Of(Engine());
+    work.SetWorking(true);
+    TFieldSimulator simulator(CabQuick::SimulatedPlan());
+    for (int position = 1; position < positions; ++position)
+        CabQuick::Receiver().Show(simulator.NextEpoch());
+    // The figures follow at most twice a second.
+    const int patience = 10000;
+    QSignalSpy told(&work, &TWork::figuresChanged);
+    QVERIFY(told.wait(patience));
+    CabQuick::Receiver().Show(simulator.NextEpoch());
+    QVERIFY(told.wait(patience));
+    Settle();
 }
 
 void TOpenDisplay::Settle() const
@@ -170,12 +192,14 @@ void TOpenDisplay::Settle() const
     }
 }
 
-QStringList TOpenDisplay::QuantityTexts() const
+QList<QObject*> TOpenDisplay::Quantities() const
 {
-    QStringList texts;
-    AddQuantities(Content(), texts);
-    return texts;
+    QList<QObject*> quantities;
+    AddQuantities(Content(), quantities);
+    return quantities;
 }
+
+QQmlEngine& TOpenDisplay::Engine() const { return m_State->session->Engine(); }
 
 void TOpenDisplay::Resize(const QSize& size)
 {

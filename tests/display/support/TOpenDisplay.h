@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
 #include <QPointF>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -10,6 +11,8 @@
 #include <QVariant>
 
 #include <memory>
+
+class QQmlEngine;
 
 /// The real display in a window of a test: a terminal of its own in a folder that is removed at the end, and the pages
 /// of the program. Works offscreen, on the software renderer.
@@ -49,6 +52,10 @@ public:
     /// Makes the example field, and waits until its job is there.
     void MakeExample();
 
+    /// Drives on the simulated field as long as the receiver takes for so many positions, with the implement working.
+    /// The tractor stands then, and the figures are those of its place. Needs the example; drives once.
+    void Drive(int positions);
+
     void Resize(const QSize& size);
 
     /// Ends the terminal and starts it again in the same folder, with the same pages.
@@ -57,8 +64,11 @@ public:
     QVariant Parameter(const QString& name) const;
     void SetParameter(const QString& name, const QVariant& value);
 
-    /// The texts and units of all quantities of the pages that exist now.
-    QStringList QuantityTexts() const;
+    /// The Quantity objects of the pages that exist now.
+    QList<QObject*> Quantities() const;
+
+    /// Of the terminal, with the singletons of QML.
+    QQmlEngine& Engine() const;
 
     QString DataFolder() const;
     QQuickWindow& Window() const;
