@@ -149,7 +149,7 @@ void PageUnits::everyQuantityIsATextOfTheLibrary()
     int quantities = 0;
     for (const QString& view : TOpenDisplay::Views()) {
         display.Show(view);
-        QStringList given;
+        QStringList given = display.ExampleTexts();
         for (const QObject* quantity : display.Quantities())
             given << quantity->property("text").toString() << quantity->property("unit").toString();
         for (const QQuickItem* item : VisibleItems::Texts(display.Content())) {

@@ -15,6 +15,7 @@
 #include "receiver/TReceiver.h"
 #include "stores/TSqliteStore.h"
 
+#include <QAbstractItemModel>
 #include <QGuiApplication>
 #include <QQuickItemGrabResult>
 #include <QSignalSpy>
@@ -44,14 +45,14 @@ void Complain(QtMsgType type, const QMessageLogContext& context, const QString& 
 }
 
 /// The rows of lists belong to their list as items only, not as objects.
-void AddQuantities(const QQuickItem& item, QList<QObject*>& quantities)
+void AddObjects(const QQuickItem& item, const char* type, QList<QObject*>& objects)
 {
     for (QObject* object : item.findChildren<QObject*>()) {
-        if (object->inherits("TQuantity") && !quantities.contains(object))
-            quantities.append(object);
+        if (object->inherits(type) && !objects.contains(object))
+            objects.append(object);
     }
     for (const QQuickItem* child : item.childItems())
-        AddQuantities(*child, quantities);
+        AddObjects(*child, type, objects);
 }
 
 } // namespace
@@ -195,8 +196,22 @@ void TOpenDisplay::Settle() const
 QList<QObject*> TOpenDisplay::Quantities() const
 {
     QList<QObject*> quantities;
-    AddQuantities(Content(), quantities);
+    AddObjects(Content(), "TQuantity", quantities);
     return quantities;
+}
+
+QStringList TOpenDisplay::ExampleTexts() const
+{
+    QList<QObject*> models;
+    AddObjects(Content(), "TQuantityModel", models);
+    QStringList texts;
+    for (const QObject* object : models) {
+        const auto& model = *qobject_cast<const QAbstractItemModel*>(object);
+        const int role = model.roleNames().key("text");
+        for (int row = 0; row < model.rowCount(); ++row)
+            texts.append(model.data(model.index(row, 0), role).toString());
+    }
+    return texts;
 }
 
 QQmlEngine& TOpenDisplay::Engine() const { return m_State->session->Engine(); }

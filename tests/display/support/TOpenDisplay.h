@@ -67,6 +67,9 @@ public:
     /// The Quantity objects of the pages that exist now.
     QList<QObject*> Quantities() const;
 
+    /// The texts of the lists of all quantities that the pages have now.
+    QStringList ExampleTexts() const;
+
     /// Of the terminal, with the singletons of QML.
     QQmlEngine& Engine() const;
 
