@@ -7,6 +7,8 @@ import "../../controls"
 Panel {
     id: tile
 
+    property var row
+
     signal clicked()
 
     activeFocusOnTab: true
@@ -17,8 +19,8 @@ Panel {
     Keys.onEnterPressed: clicked()
     Keys.onSpacePressed: clicked()
 
-    Quantity { id: latitude; kind: Quantity.Latitude; value: Work.latitude }
-    Quantity { id: longitude; kind: Quantity.Longitude; value: Work.longitude }
+    Quantity { id: latitude; kind: tile.row.lines[0].kind; value: Work[tile.row.lines[0].source] }
+    Quantity { id: longitude; kind: tile.row.lines[1].kind; value: Work[tile.row.lines[1].source] }
 
     Column {
         anchors { left: parent.left; right: parent.right; margins: Sizes.margin; verticalCenter: parent.verticalCenter }
@@ -27,8 +29,11 @@ Panel {
             model: [latitude.text, longitude.text]
 
             TextLabel {
+                objectName: "position"
                 width: parent.width
                 text: modelData
+                // Not a figure's size: a line has up to 16 signs, which at 48 px are wider than two cells, and two such
+                // lines are higher than one. A position is read at a standstill, not at a glance.
                 size: Sizes.row
                 horizontalAlignment: Text.AlignRight
             }

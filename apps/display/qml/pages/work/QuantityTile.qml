@@ -17,7 +17,7 @@ FigureTile {
 
     // A figure with more digits than the tile has room for has fewer decimals.
     function fit() {
-        if (isTooWide && quantity.precision !== 0)
+        while (isTooWide && quantity.precision !== 0)
             quantity.precision = quantity.precision < 0 ? 1 : 0
     }
 

@@ -20,9 +20,15 @@ FigureTile {
     unit: rate.unit
     number: rate.number
 
-    Quantity { id: rate; kind: Quantity.Rate; value: Work.rate }
-    Quantity { id: target; kind: Quantity.Rate; value: Work.rateSet }
-    Quantity { id: deviation; kind: Quantity.RateError; value: Work.rate; error: Work.rateError }
+    Quantity { id: rate; kind: tile.row.kind; value: Work[tile.row.source] }
+    Quantity { id: target; kind: tile.row.set.kind; value: Work[tile.row.set.source] }
+    Quantity {
+        id: deviation
+
+        kind: tile.row.error.kind
+        value: Work[tile.row.source]
+        error: Work[tile.row.error.source]
+    }
 
     Column {
         width: tile.inner
@@ -58,10 +64,13 @@ FigureTile {
             TextLabel {
                 id: words
 
-                text: qsTr("set %1", "the rate that is set").arg(target.number)
+                objectName: "set"
+                // The unit of the rate may depend on the product, that of the requested rate does not.
+                text: qsTr("set %1", "the rate that is set").arg(target.unit === rate.unit ? target.number : target.text)
                 muted: true
             }
             TextLabel {
+                objectName: "error"
                 anchors.right: parent.right
                 text: deviation.errorText
                 muted: true

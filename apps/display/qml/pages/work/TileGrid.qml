@@ -92,7 +92,10 @@ Item {
     Component {
         id: position
 
-        PositionTile { onClicked: grid.chosen() }
+        PositionTile {
+            row: Tiles.row("position")
+            onClicked: grid.chosen()
+        }
     }
     Component {
         id: time
