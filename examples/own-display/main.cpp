@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
+#include <memory>
 
 #include "module/CabQuick.h"
 #include "terminal/DataFolder.h"
@@ -13,7 +14,6 @@ int main(int argc, char* argv[])
     const QGuiApplication application(argc, argv);
     const QString folder = QDir(application.arguments().value(1, QLatin1String("own-display-data"))).absolutePath();
     QDir().mkpath(folder);
-
     QString error;
     const auto store = TSqliteStore::Open(DataFolder::StoreFile(folder), &error);
     if (!store)
@@ -21,13 +21,10 @@ int main(int argc, char* argv[])
     TTerminal terminal(*store); // declared after the store: it closes the logs while the store is still there
     if (!terminal.Start(folder, &error))
         qFatal("%s", qPrintable(error));
-
     CabQuick::Publish(*store, folder);
-    int status = 1;
-    {
-        const QQmlApplicationEngine engine(QUrl(QLatin1String("qrc:/Main.qml")));
-        status = engine.rootObjects().isEmpty() ? 1 : application.exec();
-    }
+    auto engine = std::make_unique<QQmlApplicationEngine>(QUrl(QLatin1String("qrc:/Main.qml")));
+    const int status = engine->rootObjects().isEmpty() ? 1 : application.exec();
+    engine.reset();
     CabQuick::Withdraw(); // after the engine, before the terminal
     return status;
 }

@@ -3,7 +3,7 @@ import CabSettings 1.0
 import "../controls"
 import "parts"
 
-// The newest lines of the logs as they are written. A pause keeps them still; a tap on Export takes the logs to the
+// The newest lines of the logs as they are written. A pause keeps them still. The page of storage takes the logs to the
 // stick.
 //
 //     LogsPage { anchors.fill: parent }
