@@ -74,6 +74,8 @@ QString ReceiverTexts::Dilution(double hdop)
     return std::isnan(hdop) ? QString() : TUnits::GetValueString(hdop, QString(), 1, nullptr).trimmed();
 }
 
+QString ReceiverTexts::Count(double count) { return TUnits::GetValueString(count, QString(), 0, nullptr).trimmed(); }
+
 QString ReceiverTexts::Silent() { return Translated(QT_TRANSLATE_NOOP("Receiver", "The receiver sends nothing.")); }
 
 QString ReceiverTexts::Lost(const QString& reason)

@@ -19,6 +19,9 @@ QString Age(double seconds);
 /// "0.9"; empty for NaN.
 QString Dilution(double hdop);
 
+/// "14": digits alone, as for all numbers of the display.
+QString Count(double count);
+
 // Sentences, with the reason that the host gives.
 QString Silent();
 QString Lost(const QString& reason);

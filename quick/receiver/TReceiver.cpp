@@ -217,5 +217,10 @@ QString TReceiver::StateText() const { return ReceiverTexts::StateText(m_State);
 QString TReceiver::FixText() const { return ReceiverTexts::Fix(Quality(), HasFix()); }
 
 QString TReceiver::HdopText() const { return ReceiverTexts::Dilution(Hdop()); }
+QString TReceiver::SatellitesText() const { return ReceiverTexts::Count(Satellites()); }
+QString TReceiver::LinesText() const { return ReceiverTexts::Count(Lines()); }
+QString TReceiver::SentencesText() const { return ReceiverTexts::Count(Sentences()); }
+QString TReceiver::BadChecksumsText() const { return ReceiverTexts::Count(BadChecksums()); }
+QString TReceiver::DamagedLinesText() const { return ReceiverTexts::Count(DamagedLines()); }
 
 TReceiver& CabQuick::Receiver() { return *SharedObject<TReceiver>(); }

@@ -41,6 +41,7 @@ class CABQUICK_EXPORT TReceiver : public QObject
     Q_PROPERTY(int quality READ Quality NOTIFY fixChanged)
     Q_PROPERTY(QString fixText READ FixText NOTIFY fixChanged)
     Q_PROPERTY(int satellites READ Satellites NOTIFY fixChanged)
+    Q_PROPERTY(QString satellitesText READ SatellitesText NOTIFY fixChanged)
     Q_PROPERTY(double hdop READ Hdop NOTIFY fixChanged)
     Q_PROPERTY(QString hdopText READ HdopText NOTIFY fixChanged)
     Q_PROPERTY(double age READ Age NOTIFY ageChanged)
@@ -52,9 +53,13 @@ class CABQUICK_EXPORT TReceiver : public QObject
     Q_PROPERTY(double course READ Course NOTIFY positionChanged)
     Q_PROPERTY(QString utc READ Utc NOTIFY utcChanged)
     Q_PROPERTY(double lines READ Lines NOTIFY countsChanged)
+    Q_PROPERTY(QString linesText READ LinesText NOTIFY countsChanged)
     Q_PROPERTY(double sentences READ Sentences NOTIFY countsChanged)
+    Q_PROPERTY(QString sentencesText READ SentencesText NOTIFY countsChanged)
     Q_PROPERTY(double badChecksums READ BadChecksums NOTIFY countsChanged)
+    Q_PROPERTY(QString badChecksumsText READ BadChecksumsText NOTIFY countsChanged)
     Q_PROPERTY(double damagedLines READ DamagedLines NOTIFY countsChanged)
+    Q_PROPERTY(QString damagedLinesText READ DamagedLinesText NOTIFY countsChanged)
 
 public:
     enum EState : int
@@ -102,6 +107,7 @@ public:
     int Quality() const { return HasFix() ? m_Quality.kind : 0; }  ///< see tagFixQuality::kind
     QString FixText() const;
     int Satellites() const { return m_Quality.satellites; }
+    QString SatellitesText() const;
     double Hdop() const { return m_Quality.hdop; } ///< NaN when it is not told
     QString HdopText() const;                      ///< "0.9"; empty when it is not told
 
@@ -122,6 +128,10 @@ public:
     double Sentences() const { return static_cast<double>(m_Counts.sentences); }
     double BadChecksums() const { return static_cast<double>(m_Counts.badChecksums); }
     double DamagedLines() const { return static_cast<double>(m_Counts.damagedLines); }
+    QString LinesText() const;
+    QString SentencesText() const;
+    QString BadChecksumsText() const;
+    QString DamagedLinesText() const;
 
 signals:
     void addressChanged();

@@ -95,6 +95,12 @@ QString TClock::SourceText() const
     return Translated(SourceTexts[isKnown ? source : TIME_SOURCE_NONE]);
 }
 
+QString TClock::digits(int part, int count)
+{
+    const int base = 10;
+    return QString::fromLatin1("%1").arg(part, count, base, QLatin1Char('0'));
+}
+
 bool TClock::setDate(int year, int month, int day)
 {
     return Set(QDate(year, month, day), TRegionSettingsProxy().GetTime(),

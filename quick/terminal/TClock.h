@@ -53,6 +53,9 @@ public:
     /// What was wrong with the last call of one of the functions below; empty when it has succeeded.
     QString Error() const { return m_Error; }
 
+    /// A part of a date or a time as it is written with leading zeros: "05" for 5 with two digits.
+    Q_INVOKABLE static QString digits(int part, int count);
+
     // Set the clock as the operator does. False when the date or the time does not exist, is too far from the machine's
     // clock, or could not be stored.
     Q_INVOKABLE bool setDate(int year, int month, int day);

@@ -106,6 +106,7 @@ void ReceiverStates::aPositionIsToldOnceForEachEpoch()
     for (int tenth = 0; tenth < 10; ++tenth)
         QVERIFY(std::abs(latitudes.at(tenth) - (52 + tenth * 0.00001 / 60)) < 1e-9);
     QCOMPARE(terminal.Get("Receiver.satellites").toInt(), 14);
+    QCOMPARE(terminal.Text("Receiver.satellitesText"), QLatin1String("14"));
     QCOMPARE(terminal.Get("Receiver.hdop").toDouble(), 0.8);
     QCOMPARE(terminal.Get("Receiver.hdopText").toString(), QString::fromLatin1("0.8"));
 }
@@ -173,6 +174,10 @@ void ReceiverStates::aRecordingIsPlayedToItsEnd()
     QCOMPARE(terminal.Get("Receiver.sentences").toDouble(), 24.0);
     QCOMPARE(terminal.Get("Receiver.badChecksums").toDouble(), 1.0);
     QCOMPARE(terminal.Get("Receiver.damagedLines").toDouble(), 1.0);
+    QCOMPARE(terminal.Text("Receiver.linesText"), QLatin1String("26"));
+    QCOMPARE(terminal.Text("Receiver.sentencesText"), QLatin1String("24"));
+    QCOMPARE(terminal.Text("Receiver.badChecksumsText"), QLatin1String("1"));
+    QCOMPARE(terminal.Text("Receiver.damagedLinesText"), QLatin1String("1"));
     QVERIFY(terminal.Get("Receiver.running").toBool());
     QVERIFY(!terminal.Text("Receiver.reason").isEmpty());
     QCOMPARE(terminal.Text("Problems.first"), terminal.Text("Receiver.reason"));

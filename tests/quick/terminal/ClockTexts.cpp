@@ -19,6 +19,7 @@ private slots:
     void aReceiverTakesTheDateOver();
     void theOffsetFollowsItsParameters();
     void textsNotifyOnlyWhenTheyChange();
+    void partsHaveLeadingZeros();
 
 private:
     static void SetFromReceiver(const QDateTime& utc)
@@ -141,6 +142,15 @@ void ClockTexts::textsNotifyOnlyWhenTheyChange()
     QCOMPARE(shortTimes.size(), 0);
     QCOMPARE(dates.size(), 0);
     QCOMPARE(sources.size(), 0);
+}
+
+void ClockTexts::partsHaveLeadingZeros()
+{
+    const TQuickTerminal terminal;
+    QCOMPARE(terminal.Text("Clock.digits(5, 2)"), QLatin1String("05"));
+    QCOMPARE(terminal.Text("Clock.digits(0, 2)"), QLatin1String("00"));
+    QCOMPARE(terminal.Text("Clock.digits(59, 2)"), QLatin1String("59"));
+    QCOMPARE(terminal.Text("Clock.digits(2026, 4)"), QLatin1String("2026"));
 }
 
 QTEST_GUILESS_MAIN(ClockTexts)

@@ -111,7 +111,7 @@ Item {
 
                 Fact { title: qsTr("Fix"); text: Receiver.fixText; isMain: true }
                 Fact { title: qsTr("Age"); text: Receiver.ageText; isMain: true }
-                Fact { title: qsTr("Satellites"); text: Receiver.satellites; isMain: true }
+                Fact { title: qsTr("Satellites"); text: Receiver.satellitesText; isMain: true }
                 Fact { title: qsTr("HDOP"); text: Receiver.hdopText; isMain: true }
                 Fact { title: qsTr("Time (UTC)"); text: Receiver.utc; isMain: true }
             }
@@ -128,10 +128,10 @@ Item {
             Facts {
                 width: parent.width
 
-                Fact { title: qsTr("Lines"); text: Receiver.lines }
-                Fact { title: qsTr("Sentences"); text: Receiver.sentences }
-                Fact { title: qsTr("Bad checksums"); text: Receiver.badChecksums }
-                Fact { title: qsTr("Damaged lines"); text: Receiver.damagedLines }
+                Fact { title: qsTr("Lines"); text: Receiver.linesText }
+                Fact { title: qsTr("Sentences"); text: Receiver.sentencesText }
+                Fact { title: qsTr("Bad checksums"); text: Receiver.badChecksumsText }
+                Fact { title: qsTr("Damaged lines"); text: Receiver.damagedLinesText }
             }
         }
     }

@@ -20,6 +20,7 @@ Overlay {
     readonly property int first: Clock.canSetDate ? 0 : 3
     readonly property var least: [2000, 1, 1, 0, 0]
     readonly property var greatest: [2099, 12, new Date(parts[0], parts[1], 0).getDate(), 23, 59]
+    readonly property var digits: [4, 2, 2, 2, 2]
     readonly property var titles: [qsTr("Year"), qsTr("Month"), qsTr("Day"), qsTr("Hour"), qsTr("Minute")]
 
     function ask() {
@@ -75,7 +76,7 @@ Overlay {
                         anchors.horizontalCenter: parent.horizontalCenter
                         size: Sizes.title
                         font.bold: true
-                        text: setting.parts[place]
+                        text: Clock.digits(setting.parts[place], setting.digits[place])
                     }
 
                     IconButton {
