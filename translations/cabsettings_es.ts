@@ -328,7 +328,7 @@
         <translation>Detalles para asistencia: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Es posible: %4</translation>
     </message>
     <message>
@@ -879,6 +879,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: volver al valor de fábrica</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -939,7 +943,7 @@
         <translation>Por encima del valor máximo.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>No puede ser nombre de archivo. Es posible: %1</translation>
     </message>
     <message>

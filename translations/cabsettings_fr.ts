@@ -328,7 +328,7 @@
         <translation>Détails pour l&apos;assistance&#xa0;: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Nom possible&#xa0;: %4</translation>
     </message>
     <message>
@@ -879,6 +879,10 @@
         <source>%1: back to the first value</source>
         <translation>%1&#xa0;: retour à la valeur d&apos;usine</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -939,7 +943,7 @@
         <translation>Au-dessus de la valeur maximale.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Ce nom de fichier est impossible. Nom possible&#xa0;: %1</translation>
     </message>
     <message>

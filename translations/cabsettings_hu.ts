@@ -328,7 +328,7 @@
         <translation>Részletek a szerviznek: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Lehetséges: %4</translation>
     </message>
     <message>
@@ -877,6 +877,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: vissza a gyári értékre</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Megnyitás</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -937,7 +941,7 @@
         <translation>A legnagyobb érték felett.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Ez nem lehet fájlnév. Lehetséges: %1</translation>
     </message>
     <message>

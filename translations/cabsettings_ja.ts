@@ -328,7 +328,7 @@
         <translation>サポート用の詳細：%1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 使える名前：%4</translation>
     </message>
     <message>
@@ -877,6 +877,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: 初期値に戻す</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -937,7 +941,7 @@
         <translation>最大値を上回っています。</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>この名前はファイルに使えません。使える名前：%1</translation>
     </message>
     <message>

@@ -328,7 +328,7 @@
         <translation>Informacija servisui: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Galimas: %4</translation>
     </message>
     <message>
@@ -881,6 +881,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: grįžti prie pradinės reikšmės</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Atverti</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -941,7 +945,7 @@
         <translation>Daugiau už didžiausią reikšmę.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Failas negali turėti tokio vardo. Galimas: %1</translation>
     </message>
     <message>

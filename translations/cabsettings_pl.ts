@@ -328,7 +328,7 @@
         <translation>Szczegóły dla serwisu: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Możliwa jest: %4</translation>
     </message>
     <message>
@@ -881,6 +881,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: powrót do wartości domyślnej</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Otwórz</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -941,7 +945,7 @@
         <translation>Powyżej maksimum.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Plik nie może mieć takiej nazwy. Możliwa jest: %1</translation>
     </message>
     <message>

@@ -328,7 +328,7 @@
         <translation>Сведения для техподдержки: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Возможно: %4</translation>
     </message>
     <message>
@@ -881,6 +881,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: вернуть исходное значение</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -941,7 +945,7 @@
         <translation>Больше наибольшего значения.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Такое имя файла невозможно. Возможно: %1</translation>
     </message>
     <message>

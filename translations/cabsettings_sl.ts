@@ -328,7 +328,7 @@
         <translation>Podrobnosti za podporo: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Mogoče je: %4</translation>
     </message>
     <message>
@@ -883,6 +883,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: nazaj na začetno vrednost</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Odpri</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -943,7 +947,7 @@
         <translation>Nad največjo vrednostjo.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Datoteka se ne more tako imenovati. Mogoče je: %1</translation>
     </message>
     <message>

@@ -328,7 +328,7 @@
         <translation>Uppgifter för service: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Möjligt är: %4</translation>
     </message>
     <message>
@@ -879,6 +879,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: tillbaka till startvärdet</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Öppna</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -939,7 +943,7 @@
         <translation>Över största värdet.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Så kan en fil inte heta. Möjligt är: %1</translation>
     </message>
     <message>

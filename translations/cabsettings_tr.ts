@@ -328,7 +328,7 @@
         <translation>Destek için ayrıntı: %1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 Olabilecek ad: %4</translation>
     </message>
     <message>
@@ -877,6 +877,10 @@
         <source>%1: back to the first value</source>
         <translation>%1: varsayılana dön</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Aç</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -937,7 +941,7 @@
         <translation>En büyük değerin üstünde.</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>Dosya adı böyle olamaz. Olabilecek ad: %1</translation>
     </message>
     <message>

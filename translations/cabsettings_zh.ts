@@ -328,7 +328,7 @@
         <translation>供技术支持的详情：%1</translation>
     </message>
     <message>
-        <source>%3 Possible is: %4</source>
+        <source>%3 Try: %4</source>
         <translation>%3 可用：%4</translation>
     </message>
     <message>
@@ -877,6 +877,10 @@
         <source>%1: back to the first value</source>
         <translation>%1：恢复默认值</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
 </context>
 <context>
     <name>ParameterTexts</name>
@@ -937,7 +941,7 @@
         <translation>高于最大值。</translation>
     </message>
     <message>
-        <source>This cannot be the name of a file. Possible is: %1</source>
+        <source>This cannot be the name of a file. Try: %1</source>
         <translation>文件不能用这个名称。可用：%1</translation>
     </message>
     <message>

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What operators try first of what a name must not contain.
+/// The characters that a name must not contain and that operators type most often.
 const char* const NotInNames = "/ \\ : * ? \" < > |";
 
 QString Translated(const char* text) { return QCoreApplication::translate("ParameterTexts", text); }
@@ -63,7 +63,7 @@ QString Problem(const tagParameter& parameter, const QString& entered)
     if (HasRange(parameter))
         return RangeProblem(parameter, entered);
     if (parameter.mostBytes > 0) {
-        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "This cannot be the name of a file. Possible is: %1"))
+        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "This cannot be the name of a file. Try: %1"))
             .arg(ItemNames::Suggestion(entered, parameter.mostBytes));
     }
     return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not accepted. Expected: %1."))

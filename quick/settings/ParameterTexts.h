@@ -13,7 +13,8 @@ namespace ParameterTexts {
 /// The value as a text: "Hectare", "30 %", "#1d4f7c". Empty when there is no value.
 QString Shown(const tagParameter& parameter, const QVariant& value);
 
-/// The name of an item as a text: a name that stands for none, as on a first start, in the language of the display.
+/// The name of an item as the operator reads it. "No Vehicle" and the other names that mean that nothing is selected
+/// are in the language of the display; any other name stays as it is.
 QString ItemName(const QString& item);
 
 /// Which values are accepted, as words that can follow "Expected:".

@@ -64,7 +64,7 @@ TProblemWatch::tagLook TProblemWatch::LookNow(TSqliteStore& store)
 void TProblemWatch::Look()
 {
     TSqliteStore& store = TParameterHub::Instance().Store();
-    const tagStickProblems before = {m_Problems.Coming(StickProblem), m_Problems.Coming(NoStickProblem)};
+    const tagStickProblems before = {m_Problems.Appearance(StickProblem), m_Problems.Appearance(NoStickProblem)};
     TBackground::Lane("problems")
         .Run(
             this, [&store] { return LookNow(store); }, [this, before](const tagLook& look) { Take(look, before); });
@@ -87,8 +87,8 @@ void TProblemWatch::Take(const tagLook& look, const tagStickProblems& before)
 void TProblemWatch::TakeStick(bool hasStick, const tagStickProblems& before)
 {
     const QLatin1String over = hasStick ? NoStickProblem : StickProblem;
-    const int coming = m_Problems.Coming(over);
-    if (coming != 0 && coming == (hasStick ? before.withoutStick : before.withStick))
+    const int appearance = m_Problems.Appearance(over);
+    if (appearance != 0 && appearance == (hasStick ? before.withoutStick : before.withStick))
         m_Problems.Clear(over);
 }
 

@@ -33,7 +33,7 @@ private:
         QString writeFailure;
     };
 
-    /// The comings of the problems of the stick when a look began.
+    /// The appearances of the problems of the stick when a look began.
     struct tagStickProblems
     {
         int withStick;

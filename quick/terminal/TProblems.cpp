@@ -27,7 +27,7 @@ void TProblems::Set(const QString& key, const QString& text)
     const int row = RowOf(key);
     if (row < 0) {
         beginInsertRows(QModelIndex(), 0, 0);
-        m_Problems.prepend({key, text, TRegionSettingsProxy().GetTimeString(), ++m_Comings});
+        m_Problems.prepend({key, text, TRegionSettingsProxy().GetTimeString(), ++m_Appearances});
         endInsertRows();
         emit countChanged();
     } else if (m_Problems.at(row).text != text) {
@@ -58,10 +58,10 @@ void TProblems::Keep(const QString& key, bool isThere, const QString& text)
         Clear(key);
 }
 
-int TProblems::Coming(const QString& key) const
+int TProblems::Appearance(const QString& key) const
 {
     const int row = RowOf(key);
-    return row < 0 ? 0 : m_Problems.at(row).coming;
+    return row < 0 ? 0 : m_Problems.at(row).appearance;
 }
 
 QString TProblems::First() const { return m_Problems.isEmpty() ? QString() : m_Problems.first().text; }

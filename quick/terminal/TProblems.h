@@ -32,9 +32,10 @@ public:
     /// Sets the problem while @p isThere, else clears it.
     void Keep(const QString& key, bool isThere, const QString& text);
 
-    /// Which time the problem has come, counted over all problems; 0 when there is no such problem. Whoever looks
-    /// whether a problem is over asks before and after the look: it may have come again meanwhile.
-    int Coming(const QString& key) const;
+    /// The number of this appearance of the problem; each new appearance of any problem has a larger one. 0 when there
+    /// is no such problem. A look whether a problem is over compares the numbers before and after: the problem may have
+    /// come again meanwhile.
+    int Appearance(const QString& key) const;
 
     int Count() const { return static_cast<int>(m_Problems.size()); }
 
@@ -55,12 +56,12 @@ private:
         QString key;
         QString text;
         QString since;
-        int coming;
+        int appearance;
     };
 
     int RowOf(const QString& key) const;
     void TellFirst(const QString& before);
 
     QList<tagProblem> m_Problems;
-    int m_Comings = 0;
+    int m_Appearances = 0;
 };

@@ -62,7 +62,8 @@ public:
     /// The names that can be selected, in order, the selected one among them. Reads the disk.
     Q_INVOKABLE QStringList list(const QString& kind) const;
 
-    /// A name as the operator reads it: one that stands for none, such as "No Vehicle", in the language of the display.
+    /// A name as the operator reads it. "No Vehicle" and the other names that mean that nothing is selected are in the
+    /// language of the display; any other name stays as it is.
     Q_INVOKABLE QString shown(const QString& name) const;
 
 signals:

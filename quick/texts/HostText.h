@@ -8,7 +8,7 @@ namespace CabQuick {
 
 /// What a display shows in place of @p english, a reason that the host gives. The host speaks English to programs, to
 /// the tool and to logs, whatever the display's language is. An operator reads whole sentences in the language of the
-/// display, so that one can stand behind the other in any language.
+/// display, so that two of them can follow each other in any language.
 ///
 /// @code
 /// QString error;

@@ -13,7 +13,7 @@ using HostTextRows::tagRow;
 /// What is more special stands before what is more general.
 constexpr tagRow Host[] = {
     // names
-    {"invalid %1 \"%2\": the name %3; did you mean \"%4\"?", QT_TRANSLATE_NOOP("Host", "%3 Possible is: %4"), 3},
+    {"invalid %1 \"%2\": the name %3; did you mean \"%4\"?", QT_TRANSLATE_NOOP("Host", "%3 Try: %4"), 3},
     {"invalid path \"%1\": %2", QT_TRANSLATE_NOOP("Host", "This name is not possible.")},
     {"the name of the %1 is empty", QT_TRANSLATE_NOOP("Host", "The name is empty.")},
     {"refers to another folder", QT_TRANSLATE_NOOP("Host", "This name stands for another folder.")},
@@ -92,6 +92,9 @@ constexpr tagRow Host[] = {
     // the file of the settings
     {"another program has locked it for longer than the timeout",
      QT_TRANSLATE_NOOP("Host", "Another program has locked it.")},
+    {"another program has locked %1 for longer than the timeout",
+     QT_TRANSLATE_NOOP("Host", "Another program uses %1.")},
+    {"the journal of %1 cannot be read: %2", QT_TRANSLATE_NOOP("Host", "%1 cannot be read. %2"), 2},
     {"it is no longer there", QT_TRANSLATE_NOOP("Host", "It is no longer there.")},
     {"%1 is no longer there", QT_TRANSLATE_NOOP("Host", "%1 is no longer there.")},
     {"%1 cannot be read: %2", QT_TRANSLATE_NOOP("Host", "%1 cannot be read. %2"), 2},

@@ -2,20 +2,25 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLoggingCategory>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr const char* InputMethodVariable = "QT_IM_MODULE";
 constexpr const char* InputMethod = "qtvirtualkeyboard";
 
+/// What the keyboard is made of; a package of its own each.
+constexpr const char* Modules[] = {"QtQuick/VirtualKeyboard", "Qt/labs/folderlistmodel", "QtQuick/Layouts"};
+
 /// Keeps the keyboard from opening a window of its own, with a second keyboard in it.
 constexpr const char* NoWindowVariable = "QT_VIRTUALKEYBOARD_DESKTOP_DISABLE";
 
-/// Looks where Qt will look. To ask for a plugin that is not there would leave the program without any input method.
-bool IsInstalled()
+bool HasPlugin()
 {
     const QStringList folders = QCoreApplication::libraryPaths();
     return std::any_of(folders.begin(), folders.end(), [](const QString& folder) {
@@ -23,6 +28,25 @@ bool IsInstalled()
         return !plugins.entryList({QLatin1String("*qtvirtualkeyboardplugin.*")}, QDir::Files).isEmpty();
     });
 }
+
+bool HasModules()
+{
+    QStringList folders = QString::fromLocal8Bit(qgetenv("QML2_IMPORT_PATH")).split(QDir::listSeparator());
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    folders.append(QLibraryInfo::location(QLibraryInfo::Qml2ImportsPath));
+#else
+    folders.append(QLibraryInfo::path(QLibraryInfo::QmlImportsPath));
+#endif
+    return std::all_of(std::begin(Modules), std::end(Modules), [&folders](const char* module) {
+        return std::any_of(folders.begin(), folders.end(), [module](const QString& folder) {
+            return QFileInfo::exists(folder + QLatin1Char('/') + QLatin1String(module) + QLatin1String("/qmldir"));
+        });
+    });
+}
+
+/// Looks where Qt will look. To ask for a keyboard that is not there, or only half of it, would leave the program
+/// without any input method.
+bool IsInstalled() { return HasPlugin() && HasModules(); }
 
 /// The one of the country that gave the language its name, else the first one of the language.
 QString LocaleFor(const QString& language, const QStringList& available)

@@ -61,7 +61,7 @@ QString ReadPage(const QString& value, tagDisplayOptions& options)
 {
     if (FindPage(value) == nullptr && FindOverlay(value) == nullptr)
         return QString::fromLatin1("unknown page \"%1\"; expected %2")
-            .arg(value, PageNames().join(QLatin1String(", ")));
+            .arg(value, (PageNames() + OverlayNames()).join(QLatin1String(", ")));
     options.page = value;
     return {};
 }

@@ -52,7 +52,8 @@ constexpr int ZoomSteps = 2;
 constexpr int Attempts = 20;
 constexpr int StepsOfClock = 60;
 constexpr int StepMs = 20;
-constexpr int SettleMs = 100; // until a page has asked for what it shows
+constexpr int StepsOfWork = 3000; // a minute
+constexpr int SettleMs = 100;     // until a page has asked for what it shows
 
 void Wait(int milliseconds)
 {
@@ -166,8 +167,14 @@ QImage GrabAtMoment(QQuickItem& item)
 bool WritePicture(QQuickItem& display, const QString& path, QString* error)
 {
     Wait(SettleMs);
-    while (CabQuick::IsBusy())
+    for (int step = 0; CabQuick::IsBusy(); ++step) {
+        if (step == StepsOfWork) {
+            *error =
+                QString::fromLatin1("cannot write the picture \"%1\": what it shows is still being read").arg(path);
+            return false;
+        }
         Wait(StepMs);
+    }
     const QImage image = GrabAtMoment(display);
     if (!image.isNull() && image.save(path))
         return true;

@@ -186,7 +186,7 @@ QString VisibleItems::WhatIsCutOff(const QQuickItem& text)
     // A text input moves its text within itself.
     if (!text.inherits("QQuickText"))
         return QString();
-    // Japanese and Chinese are written without blanks; a line may end behind most signs.
+    // Japanese and Chinese are written without blanks; a line may end after most characters.
     static const QRegularExpression between(QLatin1String("[\\s/.,:-]|[\\p{Han}\\p{Hiragana}\\p{Katakana}]"));
     if (text.property("lineCount").toInt() > 1 && !Text(text).contains(between))
         return QLatin1String("broken within a word");

@@ -279,7 +279,7 @@ void ParameterObjects::problemsAreSentences_data()
     row("display.night-lightbar", "99999999999", "Above the greatest value. 0 to 100 %");
     row("log.user-number", "0", "Below the least value. 1 to 99999");
     row("system.implement-folder", "x", "Not a whole number.");
-    row("active.job", "a/b", "This cannot be the name of a file. Possible is: a_b");
+    row("active.job", "a/b", "This cannot be the name of a file. Try: a_b");
     row("colors.day.map", "blurple", "Not accepted. Expected: a colour: #rrggbb, #aarrggbb or a name such as navy.");
     row("display.night-lightbar", "100", "");
     row("units.area", "acre", "");

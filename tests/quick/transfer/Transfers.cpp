@@ -286,7 +286,7 @@ void Transfers::aFullStickIsSaid()
     QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Get("Problems.count").toInt(), 0, Patience);
 }
 
-/// However briefly it was there: no look at the drives need have seen it.
+/// However briefly it was there, even when no look at the drives has seen it.
 void Transfers::theProblemOfAStickEndsWithIt()
 {
     MakeLargeLog(10000000);

@@ -18,6 +18,7 @@ FocusScope {
     readonly property real roomHeight: Sizes.height - Sizes.keyboard - 2 * padding - 2 * Sizes.gap
 
     property Item _before: null
+    property bool _wasTyping: false
 
     signal opened()
     signal closed()
@@ -26,6 +27,7 @@ FocusScope {
         if (visible)
             return
         _before = Window.window ? Window.window.activeFocusItem : null
+        _wasTyping = Qt.inputMethod.visible
         parent = Sizes.overlay
         ++Sizes.overlay.count
         visible = true
@@ -40,6 +42,9 @@ FocusScope {
         if (_before)
             _before.forceActiveFocus()
         _before = null
+        // A field of text raises the keyboard when it gets the focus, also when the operator has put it away.
+        if (!_wasTyping)
+            Qt.inputMethod.hide()
         closed()
     }
 

@@ -24,7 +24,7 @@ Item {
 
     readonly property bool isPressed: tap.pressed && tap.containsMouse
     readonly property color ground: primary ? Scheme.accentGround : checked ? Scheme.goodGround : Scheme.button
-    // What is on stays to be seen where it cannot be changed.
+    // A checked button is not dimmed when it is disabled: it still says what is on.
     readonly property bool isDim: !enabled && !checked
     readonly property color ink: primary ? Scheme.accentGroundText : checked ? Scheme.goodGroundText
                                  : isFlat ? Scheme.text : Scheme.buttonText

@@ -74,7 +74,7 @@ Item {
         x: from + (page.free.width - from - width) / 2
         y: Sizes.margin
         room: page.free.width - from - 2 * Sizes.margin
-        // Nobody is led without a position.
+        // Without a position no line is followed.
         visible: Work.hasLine && Work.hasPosition
     }
     Panel {

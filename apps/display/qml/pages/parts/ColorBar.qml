@@ -58,7 +58,7 @@ Item {
         anchors.right: more.left
         anchors.margins: Sizes.gap
         anchors.verticalCenter: less.verticalCenter
-        // At night a bar is as narrow as a finger finds it: it shows bright colours too.
+        // At night a bar is as low as a finger can still hit: it shows bright colours too.
         height: Scheme.isDay ? Sizes.target - 2 * Sizes.gap : Sizes.target / 3
 
         Repeater {

@@ -77,7 +77,7 @@ SettingRow {
         ValueButton {
             objectName: parameter.name
             room: Math.min(parent ? parent.room : 0, Sizes.row * 16)
-            value: row.isList ? qsTranslate("StoragePage", "Open") : parameter.shownText !== "" ? parameter.shownText : "—"
+            value: row.isList ? qsTr("Open") : parameter.shownText !== "" ? parameter.shownText : "—"
             accessibleName: parameter.title
             onClicked: row.navigator.edit(parameter)
         }
