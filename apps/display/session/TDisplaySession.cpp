@@ -19,10 +19,25 @@
 #include <QDir>
 #include <QQuickWindow>
 
+#include <algorithm>
+#include <cstdio>
+
 namespace {
 
 /// How long a tap may wait for another program that has the settings locked. What is not written then is tried again.
 const int StorePatienceMs = 500;
+
+/// The patience of an opening would be that of each tap. So a store that is locked is awaited by an opening of its own,
+/// and then opened again.
+std::unique_ptr<TSqliteStore> OpenStore(const QString& path, QString* error, int patience)
+{
+    std::unique_ptr<TSqliteStore> store = TSqliteStore::Open(path, error, std::min(patience, StorePatienceMs));
+    if (store || patience <= StorePatienceMs)
+        return store;
+    std::fprintf(stderr, "cabdisplay: %s; it is tried for %d s\n", qUtf8Printable(*error), patience / 1000);
+    const bool isThere = TSqliteStore::Open(path, error, patience) != nullptr; // fails at once if it is not locked
+    return isThere ? TSqliteStore::Open(path, error, StorePatienceMs) : nullptr;
+}
 
 /// Stores what the command line says as the pages of the settings would. An empty text leaves the parameter as it is.
 bool StoreOption(TSqliteStore& store, EParamID id, const QString& text, QString* error)
@@ -44,13 +59,13 @@ TDisplaySession::~TDisplaySession()
     CabQuick::Withdraw();
 }
 
-bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error)
+bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error, int patience)
 {
     if (!QDir().mkpath(options.dataFolder)) {
         *error = QString::fromLatin1("cannot create the data folder \"%1\"").arg(options.dataFolder);
         return false;
     }
-    m_Store = TSqliteStore::Open(DataFolder::StoreFile(options.dataFolder), error, StorePatienceMs);
+    m_Store = OpenStore(DataFolder::StoreFile(options.dataFolder), error, patience);
     if (!m_Store || !StoreOption(*m_Store, PARAM_RECEIVER_ADDRESS, options.receiver, error) ||
         !StoreOption(*m_Store, PARAM_LANGUAGE, options.language, error))
         return false;

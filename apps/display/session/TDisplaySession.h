@@ -34,7 +34,9 @@ public:
 
     /// Makes the data folder when it is missing, stores what the options say of receiver and language, and starts the
     /// terminal. False, with the reason in @p error, when something fails.
-    bool Start(const tagDisplayOptions& options, QString* error);
+    /// @param patience how many milliseconds it waits while another program has the settings locked, which it says on
+    ///        standard error.
+    bool Start(const tagDisplayOptions& options, QString* error, int patience = 10000);
 
     /// Opens the window with the page that the options name. To be called after Start(). False, with the reason in
     /// @p error, when the pages cannot be loaded.
