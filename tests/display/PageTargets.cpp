@@ -31,6 +31,7 @@ void AddSizes()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("least");
     QTest::newRow("800x480") << QSize(800, 480) << LeastSizeOfLowScreen;
+    QTest::newRow("480x800") << QSize(480, 800) << LeastSizeOfLowScreen;
     QTest::newRow("800x1280") << QSize(800, 1280) << LeastSize;
     QTest::newRow("1024x768") << QSize(1024, 768) << LeastSize;
     QTest::newRow("1280x800") << QSize(1280, 800) << LeastSize;
@@ -55,6 +56,8 @@ void PageTargets::areLargeEnough()
     QFETCH(int, least);
     TOpenDisplay display(size);
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    QVERIFY(display.Window().minimumWidth() <= size.width() && display.Window().minimumHeight() <= size.height());
+    QCOMPARE(display.Window().size(), size);
     display.MakeExample();
     QStringList found;
     for (const QString& view : TOpenDisplay::Views()) {

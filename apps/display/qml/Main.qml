@@ -13,7 +13,7 @@ Window {
 
     width: 1280
     height: 800
-    minimumWidth: 800
+    minimumWidth: 480
     minimumHeight: 480
     visible: true
     title: qsTr("Cab display")
