@@ -18,10 +18,15 @@ Item {
     // A sentence in the colour of attention below the meaning: why the last value was refused.
     property string error
     property bool hasLine: true
+    // The height that there is; 0 is any. A row that would be higher leaves out the meaning.
+    property real most: 0
     default property alias control: place.data
 
     readonly property bool isStacked: place.childrenRect.width > 0 && width - place.childrenRect.width < 14 * Sizes.row
     readonly property real wordsWidth: isStacked ? width : width - place.childrenRect.width - 2 * Sizes.margin
+
+    readonly property bool hasRoomForMeaning: most === 0 || !isStacked
+        || 3 * Sizes.gap + name.height + purpose.height + (reason.visible ? reason.height : 0) + place.height <= most
 
     implicitWidth: 20 * Sizes.row
     implicitHeight: 2 * Sizes.gap + (isStacked ? words.height + Sizes.gap + place.height
@@ -34,19 +39,22 @@ Item {
         width: row.wordsWidth
 
         TextLabel {
+            id: name
             width: parent.width
             text: row.title
             size: Sizes.row
             wraps: true
         }
         TextLabel {
+            id: purpose
             width: parent.width
-            visible: text !== ""
+            visible: text !== "" && row.hasRoomForMeaning
             text: row.meaning
             muted: true
             wraps: true
         }
         TextLabel {
+            id: reason
             width: parent.width
             visible: text !== ""
             text: row.error

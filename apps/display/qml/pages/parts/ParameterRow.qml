@@ -20,6 +20,7 @@ SettingRow {
     readonly property alias parameter: parameter
 
     objectName: "parameter row"
+    most: ListView.view ? ListView.view.height : 0
     title: parameter.title
     meaning: parameter.meaning
     error: parameter.error
