@@ -15,6 +15,8 @@ Rectangle {
         { page: "settings", file: "SettingsPage.qml", icon: "settings", title: qsTr("Settings") }
     ]
 
+    readonly property int leastWidthOfWords: 640
+
     signal open(string page)
 
     function row(page) { return rows.find(row => row.page === page) }
@@ -40,6 +42,7 @@ Rectangle {
                 height: parent.height
                 title: modelData.title
                 icon: modelData.icon
+                hasWord: band.width >= band.leastWidthOfWords
                 isOpen: band.page === modelData.page
                 onClicked: band.open(modelData.page)
             }

@@ -56,8 +56,10 @@ Item {
     Column {
         id: rows
 
+        readonly property real margin: Sizes.isNarrow ? Sizes.gap : Sizes.gap * 3
+
         anchors { left: parent.left; right: turner.left; verticalCenter: parent.verticalCenter }
-        anchors { leftMargin: Sizes.gap * 3; rightMargin: Sizes.gap * 3 }
+        anchors { leftMargin: margin; rightMargin: margin }
 
         Repeater {
             id: quantities
