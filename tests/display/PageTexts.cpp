@@ -22,7 +22,7 @@ private slots:
 
 namespace {
 
-const QSize Sizes[] = {QSize(800, 480), QSize(1280, 800), QSize(1920, 1200), QSize(800, 1280), QSize(480, 800)};
+const QSize Sizes[] = {QSize(800, 480), QSize(1280, 800), QSize(1920, 1200), QSize(800, 1280)};
 
 /// The smallest text, and the smallest figure of a tile.
 const int LeastText = 24;
