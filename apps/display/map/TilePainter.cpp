@@ -200,15 +200,16 @@ void PaintGuidance(QPainter& painter, const tagTilePlace& place, const QColor& c
         QColor pale = color;
         pale.setAlphaF(NeighbourStrength);
         painter.setPen(QPen(pale, NeighbourWidth * place.detail, Qt::SolidLine, Qt::FlatCap));
-        double line = std::ceil((across - half) / spacing);
+        double first = std::ceil((across - half) / spacing);
         double last = std::floor((across + half) / spacing);
         if (spacing < AllPixelsLeast * place.detail) {
-            line = std::max(line, double(guidance.activeLine) - NextLines);
+            first = std::max(first, double(guidance.activeLine) - NextLines);
             last = std::min(last, double(guidance.activeLine) + NextLines);
         }
-        for (; line <= last; ++line)
-            if (line != guidance.activeLine)
-                draw(line);
+        const int count = last >= first ? static_cast<int>(last - first) + 1 : 0;
+        for (int i = 0; i < count; ++i)
+            if (first + i != guidance.activeLine)
+                draw(first + i);
     }
     painter.setPen(QPen(color, ActiveLineWidth * place.detail, Qt::SolidLine, Qt::FlatCap));
     draw(guidance.activeLine);
