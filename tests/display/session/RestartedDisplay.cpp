@@ -17,12 +17,22 @@
 #include <QtTest>
 
 #include <cmath>
+#include <limits>
 #include <memory>
 
 namespace {
 
 const int Patience = 60000;
-const double LeastDistance = 10; ///< in the unit of the tile
+const double LeastDistance = 10; // metres
+
+struct tagUnit
+{
+    const char* text;
+    double metres;
+};
+
+/// Those of the tile of the driven distance.
+constexpr tagUnit Units[] = {{"mm", 0.001}, {"cm", 0.01}, {"m", 1}, {"km", 1000}};
 
 QString Text(const char* text) { return QString::fromLatin1(text); }
 
@@ -83,16 +93,19 @@ public:
         return QJsonDocument::fromJson(Ask(QByteArray("texts ") + below)).toVariant().toStringList();
     }
 
-    /// The number of that tile; 0 while it is not shown.
+    /// What that tile shows, in metres; not a number while it shows none.
     double Distance()
     {
-        for (const QString& text : Texts("tile.distance")) {
+        const QStringList texts = Texts("tile.distance");
+        for (const QString& text : texts) {
             bool isNumber = false;
             const double number = text.toDouble(&isNumber);
-            if (isNumber)
-                return number;
+            for (const tagUnit& unit : Units) {
+                if (isNumber && texts.contains(Text(unit.text)))
+                    return number * unit.metres;
+            }
         }
-        return 0;
+        return std::numeric_limits<double>::quiet_NaN();
     }
 
     bool Tap(const char* name)
@@ -192,6 +205,7 @@ void RestartedDisplay::showsTheNewLanguageAndLosesNothing()
     QVERIFY(store->SetParameter(PARAM_LANGUAGE, LANGUAGE_GERMAN, true));
     QVERIFY(QTest::qWaitFor([&] { return display.Texts().contains(Text("Restart")); }, Patience));
     const double distance = display.Distance();
+    QVERIFY(distance > LeastDistance);
     const QMap<QString, QVariant> values = Values(*store);
     const QMap<QString, qint64> files = Files(display.DataFolder());
 
