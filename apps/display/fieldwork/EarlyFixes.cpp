@@ -27,17 +27,18 @@ std::vector<tagCoverageStrip> StripsOf(const TEarlyFixes& fixes, const TLocalPla
     return strips;
 }
 
-void StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job)
+bool StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job)
 {
     if (fixes.empty())
-        return;
+        return true;
     LoadHeldCoverage(job);
     const tagJob& used = job->later ? *job->later : *job;
     if (!used.coverage)
-        return;
+        return !job->isChosen;
     const tagGeoPoint origin = used.origin.value_or(job->origin.value_or(fixes.front().place));
     used.coverage->SetOrigin(origin); // only the first one counts
     TStripMaker maker;
     for (const tagCoverageStrip& strip : StripsOf(fixes, TLocalPlane(origin.latitude, origin.longitude), &maker))
         used.coverage->Add(strip);
+    return used.coverage->Flush();
 }

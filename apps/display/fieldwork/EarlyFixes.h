@@ -28,6 +28,8 @@ using TEarlyFixes = std::vector<tagEarlyFix>;
 /// @endcode
 std::vector<tagCoverageStrip> StripsOf(const TEarlyFixes& fixes, const TLocalPlane& plane, TStripMaker* maker);
 
-/// Adds the ground to the coverage of a job that was loaded and is not shown any more. A coverage that another program
-/// had open is tried once more. Does nothing when it cannot be used. May be called from any thread.
-void StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job);
+/// Adds the ground to the coverage of a job that was loaded and is not shown any more, and waits until it is on the
+/// disk. A coverage that another program had open is tried once more. May be called from any thread.
+/// @return false when the ground is lost, because the coverage cannot be used or written. Ground without a job is of no
+/// coverage, and not lost.
+bool StoreEarlyFixes(const TEarlyFixes& fixes, tagJob* job);

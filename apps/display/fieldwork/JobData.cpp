@@ -85,6 +85,7 @@ tagJobPlaces ActivePlaces()
 
 void LoadJob(const tagJobPlaces& places, tagJob* job)
 {
+    job->isChosen = !places.coverage.isEmpty();
     if (!places.coverage.isEmpty())
         LoadCoverage(places.coverage, job);
     job->boundary = Read(ReadBoundary, places.boundary, job);

@@ -39,6 +39,7 @@ QString ActiveLinePath();
 /// What the files of a job hold.
 struct tagJob
 {
+    bool isChosen = false;                   ///< false: there is no job, and so no coverage
     std::unique_ptr<TCoverageFile> coverage; ///< null without a job, and when the file cannot be used
     std::optional<tagGeoPoint> origin;       ///< of the coverage; else a corner of the boundary; nothing without both
     QVector<tagMapStrip> strips;

@@ -63,7 +63,8 @@ TWork::~TWork()
 {
     m_Disk.waitForDone();
     if (!m_Job || IsCoverageHeld())
-        StoreEarlyFixes(m_EarlyFixes, m_Latest.get());
+        if (!StoreEarlyFixes(m_EarlyFixes, m_Latest.get()))
+            qWarning("%s", qPrintable(GroundIsNotStored()));
 }
 
 bool TWork::Flush() { return m_Job && m_Job->coverage && m_Job->coverage->Flush(); }

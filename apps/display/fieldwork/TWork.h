@@ -184,6 +184,7 @@ private:
     QString FreeLineName();
     void CheckCoverage();
     QString CoverageProblem() const;
+    static QString GroundIsNotStored();
 
     // Position
     void TakePosition();

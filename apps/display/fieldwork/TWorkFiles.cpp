@@ -20,6 +20,7 @@ const int NoticeMs = 60000;
 
 const QLatin1String CoverageKey("coverage");
 const QLatin1String CoverageEndKey("coverage-end");
+const QLatin1String EarlyKey("coverage-early");
 const QLatin1String FieldKey("field-files");
 const QLatin1String FlagsKey("flags");
 const QLatin1String ImplementKey("implement");
@@ -61,6 +62,11 @@ void TWork::FollowSelections()
         Load();
 }
 
+QString TWork::GroundIsNotStored()
+{
+    return tr("The coverage of this job cannot be used: what is covered is not stored.");
+}
+
 /// Reads the job in the thread of the disk, after the one before it is written and closed: it may be the same file.
 void TWork::Load()
 {
@@ -74,7 +80,9 @@ void TWork::Load()
     m_EarlyFixes.clear();
     m_Disk.start([this, before, job, places, early] {
         if (before) {
-            StoreEarlyFixes(*early, before.get()); // it was chosen, but never there
+            // It was chosen, but never there.
+            if (!StoreEarlyFixes(*early, before.get()))
+                CabQuick::SetProblem(EarlyKey, GroundIsNotStored());
             before->coverage.reset();
             before->later.reset();
         }
@@ -82,6 +90,7 @@ void TWork::Load()
         QMetaObject::invokeMethod(
             this,
             [this, job] {
+                QTimer::singleShot(NoticeMs, this, [] { CabQuick::ClearProblem(EarlyKey); });
                 if (job == m_Latest)
                     TakeJob(job);
             },
@@ -368,7 +377,7 @@ QString TWork::CoverageProblem() const
         return tr("The coverage is kept in memory until it can be stored. %1")
             .arg(CabQuick::HostText(m_Job->holdReason));
     if (!m_Job->coverage)
-        return m_IsWorking ? tr("The coverage of this job cannot be used: what is covered is not stored.") : QString();
+        return m_IsWorking ? GroundIsNotStored() : QString();
     const tagCoverageState state = m_Job->coverage->State();
     if (state.lost > 0)
         return tr("The coverage cannot be stored, and strips are lost: %1").arg(state.lost);

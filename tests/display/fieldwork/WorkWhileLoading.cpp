@@ -85,6 +85,7 @@ private slots:
     void eachPieceHasTheWidthOfItsTime();
     void theGroundBelongsToTheJobThatWasChosen();
     void aJobThatIsChosenAgainHasItsGround();
+    void groundThatCannotBeStoredIsSaid();
     void theEndOfTheProgramLosesNothing();
     void groundWithoutAJobIsOfNoJob();
     void nothingIsSetThatTheJobWouldReplace();
@@ -232,6 +233,23 @@ void WorkWhileLoading::aJobThatIsChosenAgainHasItsGround()
     QCOMPARE(room.work->Map()->Strips().size(), 2 * (Early - 1));
     QCOMPARE(StripsOfJob(room, "J_2"), Later - 1);
     QCOMPARE(StripsOfJob(room, "J_1"), 2 * (Early - 1));
+}
+
+void WorkWhileLoading::groundThatCannotBeStoredIsSaid()
+{
+    TWorkRoom room;
+    QFile coverage(room.FieldFile("Jobs/J_1/J_1.cov"));
+    QVERIFY(QDir().mkpath(QFileInfo(coverage).path()));
+    QVERIFY(coverage.open(QIODevice::WriteOnly) && coverage.write("no coverage") > 0);
+    coverage.close();
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    room.work->SetWorking(true);
+    room.Drive(Early);
+    room.work->SetWorking(false);
+    Choose(room, "J_2"); // J_1 was never there
+    slow.LetGo();
+    QVERIFY(room.HasProblem("what is covered is not stored"));
 }
 
 void WorkWhileLoading::theEndOfTheProgramLosesNothing()
