@@ -49,9 +49,11 @@ const int SampleSteps = 5;
 const double BytesPerStrip = 64;
 const double BytesPerFlag = 850;
 
-/// No frame takes more of the processor in a run of this length or longer. Those that do are told in any run: a short
-/// one may share the processor with other tests, whose memory takes the place of its own in the caches.
+/// No frame takes more of the processor.
 const double SlowMilliseconds = 100;
+
+/// Runs of this length or longer fail by a slow frame or by memory that grows. Any run tells of both: in a short one,
+/// other tests may take the place of its memory in the caches of the processor, and its own caches still fill.
 const int LengthToJudge = 10;
 
 /// How many of ten steps tap something that can be tapped, and how many tap anywhere; the others press keys.
@@ -142,11 +144,12 @@ void StartWork(const TOpenDisplay& display)
 }
 
 /// The restart that an operator may ask for ends the program. Here no event loop would run any more, and no frame be
-/// drawn.
+/// drawn. Something has to hear of it all the same: the engine warns of an end that nobody hears of.
 void GoOnAtRestart(const TOpenDisplay& display)
 {
-    const QQmlEngine& engine = *qmlEngine(&display.Window());
+    QQmlEngine& engine = *qmlEngine(&display.Window());
     QObject::disconnect(&engine, &QQmlEngine::exit, QCoreApplication::instance(), nullptr);
+    QObject::connect(&engine, &QQmlEngine::exit, &engine, [] { qDebug("restart asked for"); });
 }
 
 /// Taps hardly ever last long enough to unlock the screen: all steps that follow would meet the lock only.
@@ -321,9 +324,10 @@ void RandomTaps::leaveNoWarning()
                                .arg(Megabytes(trend.growth), 0, 'f', 3)
                                .arg(Megabytes(trend.noise), 0, 'f', 3);
     qDebug("%s", qPrintable(growth));
+    if (TestLength() < LengthToJudge)
+        return;
     QVERIFY2(!HeapTrend::IsGrowing(trend), qPrintable(growth));
-    if (TestLength() >= LengthToJudge)
-        QVERIFY2(slow.isEmpty(), qPrintable(slow.join(QLatin1Char('\n'))));
+    QVERIFY2(slow.isEmpty(), qPrintable(slow.join(QLatin1Char('\n'))));
 }
 
 QTEST_MAIN(RandomTaps)
