@@ -1,10 +1,20 @@
 #pragma once
 
+#include <QPointer>
 #include <QQuickItem>
+#include <QQuickWindow>
+#include <QRectF>
 
-/// Moves the keyboard's focus among what is below it with the arrow keys that nobody else takes. Fills the window.
+#include <array>
+
+/// Moves the keyboard's focus among what is below it: with Tab, and with the arrow keys that nobody else takes. Fills
+/// the window.
 ///
 ///     FocusKeys { anchors.fill: parent; WorkPage {} }
+///
+/// Who works by keys always sees where: when what has the focus goes away, is disabled or scrolled away, or a page or
+/// question takes the focus without a stop of its own, its "firstStop" has it, or the stop nearest to the last one. Who
+/// works by taps sees no focus, except in a field that is typed into.
 class TFocusKeys : public QQuickItem
 {
     Q_OBJECT
@@ -12,6 +22,24 @@ class TFocusKeys : public QQuickItem
 public:
     explicit TFocusKeys(QQuickItem* parent = nullptr);
 
+    /// Sees the keys and taps of the window first.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
+
+private:
+    void Watch(QQuickWindow* window);
+    bool MoveByTab(const QKeyEvent& event);
+    void FollowFocus();
+    void KeepFocusLater();
+    void KeepFocus();
+
+    QPointer<QQuickWindow> m_Window;
+    QPointer<QQuickItem> m_Stop; ///< that had the focus last
+    QRectF m_Place;              ///< of that stop, in the scene
+    std::array<QMetaObject::Connection, 2> m_StopChanges;
+    bool m_IsByKeys = false; ///< the focus was last moved by a key, and nothing was tapped since
+    bool m_IsKeeping = false;
 };

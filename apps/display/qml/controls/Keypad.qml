@@ -22,6 +22,7 @@ Overlay {
     id: keypad
 
     objectName: "keypad"
+    firstStop: field
 
     property string title: parameter ? parameter.title : ""
     property QtObject quantity: null
@@ -148,11 +149,19 @@ Overlay {
                     muted: true
                 }
                 Rectangle {
+                    id: field
+
                     width: parent.width
                     height: Sizes.key
                     radius: Sizes.radius
                     color: Scheme.button
                     border { width: 2 * Sizes.line; color: keypad.problem !== "" ? Scheme.attention : Scheme.accent }
+                    // Here Enter sets what is typed.
+                    activeFocusOnTab: true
+                    Accessible.role: Accessible.EditableText
+                    Accessible.name: keypad.title
+
+                    FocusRing {}
 
                     TextLabel {
                         objectName: "entry"

@@ -13,6 +13,8 @@ FocusScope {
     default property alias content: panel.data
     property real padding: Sizes.isCompact ? 2 * Sizes.gap : 3 * Sizes.gap
     readonly property bool isOpen: visible
+    // What has the focus first where it is opened by a key; null is what lies nearest.
+    property Item firstStop: null
     // The largest content that fits the window, above the keyboard on the screen.
     readonly property real roomWidth: Sizes.width - 2 * padding - 2 * Sizes.gap
     readonly property real roomHeight: Sizes.height - Sizes.keyboard - 2 * padding - 2 * Sizes.gap

@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import QtQuick.Window 2.15
 import CabSettings 1.0
 import "../controls"
 
@@ -11,7 +12,10 @@ FocusScope {
 
     readonly property int holdMilliseconds: 1200
 
+    property Item _before: null
+
     function open() {
+        _before = Window.window ? Window.window.activeFocusItem : null
         parent = Sizes.overlay
         ++Sizes.overlay.count
         visible = true
@@ -20,6 +24,9 @@ FocusScope {
     function close() {
         visible = false
         --Sizes.overlay.count
+        if (_before)
+            _before.forceActiveFocus()
+        _before = null
     }
 
     anchors.fill: visible ? parent : undefined

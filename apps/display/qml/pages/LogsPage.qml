@@ -45,8 +45,23 @@ Item {
         ListView {
             id: lines
 
+            objectName: "lines"
+
             // Follows the newest line unless the operator has paged up.
             property bool follows: true
+            readonly property real wholePage: height - Sizes.row
+            // How far a key scrolls.
+            readonly property var steps: ({
+                [Qt.Key_Up]: -2 * Sizes.row, [Qt.Key_Down]: 2 * Sizes.row,
+                [Qt.Key_PageUp]: -wholePage, [Qt.Key_PageDown]: wholePage,
+                [Qt.Key_Home]: -Infinity, [Qt.Key_End]: Infinity
+            })
+
+            function scroll(by) {
+                const end = originY + Math.max(0, contentHeight - height)
+                contentY = Math.max(originY, Math.min(end, contentY + by))
+                follows = atYEnd
+            }
 
             anchors.left: parent.left
             anchors.right: turner.left
@@ -54,7 +69,19 @@ Item {
             height: parent.height
             clip: true
             focus: true
+            activeFocusOnTab: true
+            // A current row would take the focus from the list.
+            keyNavigationEnabled: false
+            currentIndex: -1
             boundsBehavior: Flickable.StopAtBounds
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Logs")
+            Keys.onPressed: function (event) {
+                const by = lines.steps[event.key]
+                event.accepted = by !== undefined && (by < 0 ? !atYBeginning : !atYEnd)
+                if (event.accepted)
+                    lines.scroll(by)
+            }
             model: log
             delegate: TextLabel {
                 width: ListView.view.width
@@ -79,20 +106,18 @@ Item {
             color: Scheme.panel
         }
 
+        FocusRing {
+            anchors.fill: lines
+            target: lines
+        }
+
         PageTurner {
             id: turner
             anchors.right: parent.right
             hasUp: !lines.atYBeginning
             hasDown: !lines.atYEnd
-            onUp: {
-                lines.follows = false
-                lines.contentY = Math.max(lines.originY, lines.contentY - lines.height + Sizes.row)
-            }
-            onDown: {
-                lines.contentY = Math.min(lines.originY + Math.max(0, lines.contentHeight - lines.height),
-                                          lines.contentY + lines.height - Sizes.row)
-                lines.follows = lines.atYEnd
-            }
+            onUp: lines.scroll(-lines.wholePage)
+            onDown: lines.scroll(lines.wholePage)
         }
     }
 }

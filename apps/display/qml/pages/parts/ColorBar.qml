@@ -2,7 +2,8 @@ import QtQuick 2.15
 import CabSettings 1.0
 import "../../controls"
 
-// One part of a colour: its bar from 0 to 1, a button for less and one for more. A tap on the bar takes its place there.
+// One part of a colour: its bar from 0 to 1, a button for less and one for more. A tap on the bar takes its place there;
+// the left and the right arrow key change it too.
 //
 //     ColorBar { title: qsTr("Hue"); value: 0.3; step: 0.025; colorAt: function (at) { return Qt.hsla(at, 1, 0.5, 1) }
 //                onMoved: function (to) { hue = to } }
@@ -87,8 +88,13 @@ Item {
         anchors.right: strip.right
         anchors.top: less.top
         height: Sizes.target
+        activeFocusOnTab: true
         Accessible.role: Accessible.Slider
         Accessible.name: bar.title
+        Keys.onLeftPressed: bar.move(bar.value - bar.step)
+        Keys.onRightPressed: bar.move(bar.value + bar.step)
+
+        FocusRing {}
 
         TapArea {
             onClicked: function (mouse) { bar.move(mouse.x / width) }

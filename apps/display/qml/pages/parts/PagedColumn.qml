@@ -97,6 +97,16 @@ FocusScope {
         onTriggered: list.measure()
     }
 
+    // Before the rows, so that Tab reaches it without a walk through all of them.
+    PageTurner {
+        id: turner
+        anchors.right: parent.right
+        hasUp: list.firstRow > 0
+        hasDown: list.lastRow < list.shownCount - 1
+        onUp: list.turnUp()
+        onDown: list.turnDown()
+    }
+
     Item {
         id: whole
         anchors.left: parent.left
@@ -122,14 +132,5 @@ FocusScope {
                 onHeightChanged: measuring.restart()
             }
         }
-    }
-
-    PageTurner {
-        id: turner
-        anchors.right: parent.right
-        hasUp: list.firstRow > 0
-        hasDown: list.lastRow < list.shownCount - 1
-        onUp: list.turnUp()
-        onDown: list.turnDown()
     }
 }

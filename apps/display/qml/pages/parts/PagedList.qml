@@ -27,11 +27,37 @@ FocusScope {
     function turnUp() {
         if (firstRow > 0) {
             view.positionViewAtIndex(firstRow - 1, ListView.End)
-            var first = view.indexAt(0, view.contentY + view.spacing + 1)
-            var row = view.itemAtIndex(first)
-            view.positionViewAtIndex(row && row.y < view.contentY - 1 ? first + 1 : first, ListView.Beginning)
+            beginWithWholeRow()
         }
         measure()
+    }
+
+    function beginWithWholeRow() {
+        var first = view.indexAt(0, view.contentY + view.spacing + 1)
+        var row = view.itemAtIndex(first)
+        view.positionViewAtIndex(row && row.y < view.contentY - 1 ? first + 1 : first, ListView.Beginning)
+    }
+
+    // FocusKeys calls it before a key moves the focus down or up: the next row comes into view, else there is none.
+    function reveal(isDown) {
+        var row = focusedRow()
+        if (isDown && row >= 0 && row === lastRow && lastRow < view.count - 1) {
+            view.positionViewAtIndex(lastRow + 1, ListView.End)
+            beginWithWholeRow()
+            measure()
+        } else if (!isDown && row > 0 && row === firstRow) {
+            view.positionViewAtIndex(row - 1, ListView.Beginning)
+            measure()
+        }
+    }
+
+    // Of the row that has the focus; -1 without.
+    function focusedRow() {
+        for (var item = focused; item; item = item.parent) {
+            if (item.parent === view.contentItem)
+                return view.indexAt(0, item.y + 1)
+        }
+        return -1
     }
 
     function show(index) {
@@ -57,22 +83,27 @@ FocusScope {
 
     // The keyboard reaches rows that are not whole.
     onFocusedChanged: {
-        for (var item = focused; item; item = item.parent) {
-            if (item.parent === view.contentItem) {
-                show(view.indexAt(0, item.y + 1))
-                return
-            }
-        }
+        var row = focusedRow()
+        if (row >= 0)
+            show(row)
     }
 
     Keys.onPressed: function (event) {
-        if (event.key !== Qt.Key_PageDown && event.key !== Qt.Key_PageUp)
-            return
+        event.accepted = event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp
         if (event.key === Qt.Key_PageDown)
             turnDown()
-        else
+        else if (event.key === Qt.Key_PageUp)
             turnUp()
-        event.accepted = true
+    }
+
+    // Before the rows, so that Tab reaches it without a walk through all of them.
+    PageTurner {
+        id: turner
+        anchors.right: parent.right
+        hasUp: list.firstRow > 0
+        hasDown: list.lastRow < list.count - 1
+        onUp: list.turnUp()
+        onDown: list.turnDown()
     }
 
     Item {
@@ -88,6 +119,9 @@ FocusScope {
             width: parent.width - Sizes.line
             height: list.height
             cacheBuffer: 0
+            // Its current row would take the focus, also where that is no button.
+            keyNavigationEnabled: false
+            currentIndex: -1
             boundsBehavior: Flickable.StopAtBounds
             snapMode: ListView.SnapToItem
             // The last page too begins with a whole row.
@@ -112,14 +146,5 @@ FocusScope {
                 onTriggered: list.measure()
             }
         }
-    }
-
-    PageTurner {
-        id: turner
-        anchors.right: parent.right
-        hasUp: list.firstRow > 0
-        hasDown: list.lastRow < list.count - 1
-        onUp: list.turnUp()
-        onDown: list.turnDown()
     }
 }
