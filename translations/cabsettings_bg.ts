@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Изчакване на позиция</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Карта</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Warten auf eine Position</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Αναμονή για θέση</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Χάρτης</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

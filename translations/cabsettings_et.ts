@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Asukoha ootel</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Kaart</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

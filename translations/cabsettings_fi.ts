@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Odotetaan sijaintia</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Kartta</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>En attente d&apos;une position</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

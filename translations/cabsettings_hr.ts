@@ -3241,6 +3241,10 @@
         <source>Waiting for a position</source>
         <translation>Čeka se položaj</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Karta</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

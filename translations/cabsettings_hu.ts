@@ -3233,6 +3233,10 @@
         <source>Waiting for a position</source>
         <translation>Várakozás pozícióra</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Térkép</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>In attesa di una posizione</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Mappa</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

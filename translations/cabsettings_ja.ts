@@ -3233,6 +3233,10 @@
         <source>Waiting for a position</source>
         <translation>位置を待っています</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

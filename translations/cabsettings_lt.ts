@@ -3241,6 +3241,10 @@
         <source>Waiting for a position</source>
         <translation>Laukiama padėties</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Žemėlapis</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

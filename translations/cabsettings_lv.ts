@@ -3241,6 +3241,10 @@
         <source>Waiting for a position</source>
         <translation>Gaida pozīciju</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Venter på en posisjon</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Kart</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

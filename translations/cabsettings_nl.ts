@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Wachten op een positie</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Kaart</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

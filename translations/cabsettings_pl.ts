@@ -3241,6 +3241,10 @@
         <source>Waiting for a position</source>
         <translation>Oczekiwanie na pozycję</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

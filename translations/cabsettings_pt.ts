@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Esperando uma posição</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3241,6 +3241,10 @@
         <source>Waiting for a position</source>
         <translation>Se așteaptă o poziție</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Hartă</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3241,6 +3241,10 @@
         <source>Waiting for a position</source>
         <translation>Ожидание позиции</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Карта</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3245,6 +3245,10 @@
         <source>Waiting for a position</source>
         <translation>Čakanje na položaj</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Karta</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

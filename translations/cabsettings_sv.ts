@@ -3237,6 +3237,10 @@
         <source>Waiting for a position</source>
         <translation>Väntar på en position</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Karta</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

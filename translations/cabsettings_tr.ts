@@ -3233,6 +3233,10 @@
         <source>Waiting for a position</source>
         <translation>Konum bekleniyor</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>Harita</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -3233,6 +3233,10 @@
         <source>Waiting for a position</source>
         <translation>等待位置</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
 </context>
 <context>
     <name>WorkingButton</name>

@@ -112,7 +112,7 @@ QQuickItem* NextFocus(QQuickItem* root, QQuickItem* from, EFocusDirection direct
     double least = std::numeric_limits<double>::infinity();
     for (const tagStop& stop : stops) {
         const bool isInList = list && ListOf(stop.item) == list;
-        if (!isInList && !IsFocusSeen(*stop.item))
+        if ((!isInList && !IsFocusSeen(*stop.item)) || stop.item->property("takesArrows").toBool())
             continue;
         const double distance = current == stops.cend() ? stop.place.left() + SideWeight * stop.place.top()
                                                         : Distance(current->place, stop.place, direction);

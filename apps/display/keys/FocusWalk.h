@@ -21,7 +21,8 @@ bool IsFocusSeen(const QQuickItem& item);
 
 /// The stop of Tab below @p root that lies nearest to @p from in this direction, as the eye sees it. Items that are
 /// hidden or disabled are no stops; what is scrolled away is passed over, except in the list that has @p from, whose
-/// other rows come first above and below it. Null when none lies there. With a @p from that is null or no stop, the
+/// other rows come first above and below it. What has
+/// the property takesArrows is passed over too. Null when none lies there. With a @p from that is null or no stop, the
 /// first stop from the top left.
 QQuickItem* NextFocus(QQuickItem* root, QQuickItem* from, EFocusDirection direction);
 

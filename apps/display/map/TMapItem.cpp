@@ -2,6 +2,7 @@
 
 #include "display/map/TMapNode.h"
 
+#include <QKeyEvent>
 #include <QQuickWindow>
 
 #include <algorithm>
@@ -32,6 +33,7 @@ TMapItem::TMapItem(QQuickItem* parent) : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
     setClip(true); // tiles reach beyond the item
+    setActiveFocusOnTab(true);
     m_View.metresPerPixel = PixelMetres();
     m_Tiles.SetColors(m_Colors);
 }
@@ -125,6 +127,39 @@ void TMapItem::pan(double dx, double dy)
     const QPointF place = m_View.PlaceAt(m_View.anchor - QPointF(dx, dy));
     m_View.centre = {std::clamp(place.x(), -Farthest, Farthest), std::clamp(place.y(), -Farthest, Farthest)};
     Redraw();
+}
+
+void TMapItem::keyPressEvent(QKeyEvent* event)
+{
+    const auto* const row = std::find_if(MapKeys.begin(), MapKeys.end(),
+                                         [event](const tagMapKey& known) { return known.key == event->key(); });
+    const bool isOther = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::NoModifier;
+    event->setAccepted(row != MapKeys.end() && !isOther);
+    if (event->isAccepted())
+        Do(row->action);
+}
+
+void TMapItem::Do(EMapAction action)
+{
+    const double look = LookPart * std::min(FreeOrAll().width(), FreeOrAll().height());
+    switch (action) {
+    case MAP_LOOK_LEFT:
+        return pan(look, 0);
+    case MAP_LOOK_RIGHT:
+        return pan(-look, 0);
+    case MAP_LOOK_UP:
+        return pan(0, look);
+    case MAP_LOOK_DOWN:
+        return pan(0, -look);
+    case MAP_ZOOM_IN:
+        return zoomIn();
+    case MAP_ZOOM_OUT:
+        return zoomOut();
+    case MAP_FOLLOW:
+        return recentre();
+    case MAP_TURN:
+        emit turnWanted();
+    }
 }
 
 void TMapItem::SetColor(QColor tagMapColors::*color, const QColor& value)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "display/map/MapKeys.h"
 #include "display/map/MapPictures.h"
 #include "display/map/MapScale.h"
 #include "display/map/MapView.h"
@@ -10,7 +11,7 @@
 
 /// The map: it draws a TMapModel from image nodes, which every renderer of Qt Quick has. Ground, grid, coverage, areas
 /// and guidance lines are tiles that are painted once and turned with the map; the vehicle, flags and cross hairs stand
-/// on them.
+/// on them. It is a stop of Tab; while it has the focus, the keys of MapKeys act on it.
 ///
 ///     MapView { model: Work.map; headingUp: true; mapColor: Scheme.map; coverageColor: Scheme.coverage }
 class TMapItem : public QQuickItem
@@ -132,8 +133,10 @@ signals:
     void freeChanged();
     void scaleChanged();
     void colorsChanged();
+    void turnWanted(); ///< a key asks for the heading up where north is, or for north where the heading is
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void updatePolish() override;
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
     void itemChange(ItemChange change, const ItemChangeData& value) override;
@@ -144,6 +147,7 @@ protected:
 #endif
 
 private:
+    void Do(EMapAction action);
     void SetColor(QColor tagMapColors::*color, const QColor& value);
     void Redraw();
     void RedrawTiles();

@@ -47,6 +47,7 @@ private slots:
     void initTestCase();
     void dayAndNightChangeByOneTap();
     void theMapZoomsAndTurns();
+    void theMapGoesByKeys();
     void aLineIsSetAndFollowed();
     void aFlagIsSet();
     void workingIsSwitched();
@@ -127,6 +128,36 @@ void WorkPageTaps::theMapZoomsAndTurns()
     QMetaObject::invokeMethod(map, "pan", Q_ARG(double, 80.0), Q_ARG(double, 40.0));
     QCOMPARE(map->property("follow").toBool(), false);
     Tap("recentre");
+    QCOMPARE(map->property("follow").toBool(), true);
+}
+
+void WorkPageTaps::theMapGoesByKeys()
+{
+    QQuickWindow& window = *m_Session->Window();
+    window.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QQuickItem* const map = Find("map");
+    for (int step = 0; step < 100 && window.activeFocusItem() != map; ++step)
+        QTest::keyClick(&window, Qt::Key_Tab);
+    QCOMPARE(window.activeFocusItem(), map);
+    const int zoom = map->property("zoom").toInt();
+    QTest::keyClick(&window, Qt::Key_Plus);
+    QCOMPARE(map->property("zoom").toInt(), zoom + 1);
+    QTest::keyClick(&window, Qt::Key_Minus);
+    QTest::keyClick(&window, Qt::Key_Right);
+    QCOMPARE(map->property("follow").toBool(), false);
+    QTest::keyClick(&window, Qt::Key_N);
+    QTRY_COMPARE(map->property("headingUp").toBool(), false);
+    QTest::keyClick(&window, Qt::Key_N);
+    QTRY_COMPARE(map->property("headingUp").toBool(), true);
+    QTest::keyClick(&window, Qt::Key_Home);
+    QCOMPARE(map->property("follow").toBool(), true);
+    QCOMPARE(window.activeFocusItem(), map);
+    QTest::keyClick(&window, Qt::Key_Tab);
+    QVERIFY(window.activeFocusItem() != map);
+    QTest::keyClick(&window, Qt::Key_Right);
+    QTest::keyClick(&window, Qt::Key_Down);
+    QVERIFY(window.activeFocusItem() != map);
     QCOMPARE(map->property("follow").toBool(), true);
 }
 

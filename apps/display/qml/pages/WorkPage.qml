@@ -21,6 +21,8 @@ Item {
     // Where nothing covers the map.
     readonly property rect free: Qt.rect(0, 0, width - tilesWidth, freeHeight)
 
+    function turn() { headingUp.value = headingUp.value !== true }
+
     MapView {
         id: map
 
@@ -41,6 +43,18 @@ Item {
         exclusionZoneColor: Scheme.exclusionZone
         vehicleColor: Scheme.vehicle
         crossHairsColor: Scheme.crossHairs
+
+        // Its keys act only while it has the focus, which an arrow key does not take there: it could not lead away.
+        readonly property bool takesArrows: true
+
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("Map")
+        onTurnWanted: page.turn()
+
+        FocusRing {
+            anchors { rightMargin: map.width - map.free.width; bottomMargin: map.height - map.free.height }
+            radius: 0
+        }
     }
     Quantity {
         id: length
@@ -101,7 +115,7 @@ Item {
         room: page.freeHeight - 2 * Sizes.margin
         map: map
         headingUp: headingUp.value === true
-        onTurn: headingUp.value = headingUp.value !== true
+        onTurn: page.turn()
     }
     LineButtons {
         id: lineButtons
