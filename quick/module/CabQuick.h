@@ -5,6 +5,7 @@
 #include "terminal/Storage.h"
 
 #include <QString>
+#include <QVariantList>
 
 #include <optional>
 
@@ -17,6 +18,16 @@ struct tagShownDrives
     std::optional<tagSpace> stick; ///< empty without a stick
     tagSpace memory;
     double load; ///< 0 to 1
+};
+
+/// A transfer as it is shown; see CabQuick::ShowTransfer(). The first one that is there counts: it runs, it has failed,
+/// it is done.
+struct tagShownTransfer
+{
+    std::optional<double> progress; ///< 0 to 1
+    QString error;
+    QString result;
+    QVariantList profiles; ///< as Transfer.profiles() lists them; empty: those that are on the stick
 };
 
 /// The QML module CabSettings: every setting of the terminal as an object that QML binds to.
@@ -55,6 +66,10 @@ CABQUICK_EXPORT void ClearProblem(const QString& key);
 /// Shows these drives in QML in place of those that are there, from now on: for pictures and tests, which need the same
 /// ones each time. Call it while a terminal is published.
 CABQUICK_EXPORT void ShowDrives(const tagShownDrives& drives);
+
+/// Shows this in every object Transfer of QML in place of its own, until it is called with an empty one: for pictures
+/// and tests, which can wait for no stick. Transfers themselves go on as ever. Call it while a terminal is published.
+CABQUICK_EXPORT void ShowTransfer(const tagShownTransfer& transfer);
 
 /// Whether the module reads or writes something in its threads, so that what QML shows may still change by itself: for
 /// pictures and tests. Call it in the thread of the application object while a terminal is published.

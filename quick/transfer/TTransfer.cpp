@@ -1,9 +1,11 @@
 #include "transfer/TTransfer.h"
 
+#include "module/SharedObject.h"
 #include "module/TBackground.h"
 #include "module/TParameterHub.h"
 #include "parameters/ItemNames.h"
 #include "texts/HostText.h"
+#include "transfer/TShownTransfer.h"
 
 #include <cmath>
 #include <memory>
@@ -24,7 +26,35 @@ ProfileImport::EResolution ResolutionOf(const QString& name)
 
 } // namespace
 
-TTransfer::TTransfer(QObject* parent) : QObject(parent) {}
+TTransfer::TTransfer(QObject* parent) : QObject(parent), m_Shown(*SharedObject<TShownTransfer>())
+{
+    for (const auto told : {&TTransfer::stateChanged, &TTransfer::progressChanged, &TTransfer::profilesChanged})
+        connect(&m_Shown, &TShownTransfer::changed, this, told);
+}
+
+TTransfer::EState TTransfer::State() const
+{
+    const tagShownTransfer& shown = m_Shown.Transfer();
+    if (shown.progress)
+        return Running;
+    if (!shown.error.isEmpty())
+        return Failed;
+    return shown.result.isEmpty() ? m_State : Done;
+}
+
+double TTransfer::Progress() const { return m_Shown.Transfer().progress.value_or(m_Progress); }
+
+QString TTransfer::Error() const
+{
+    const QString& shown = m_Shown.Transfer().error;
+    return shown.isEmpty() && State() == Failed ? m_Text : shown;
+}
+
+QString TTransfer::Result() const
+{
+    const QString& shown = m_Shown.Transfer().result;
+    return shown.isEmpty() && State() == Done ? m_Text : shown;
+}
 
 template <class Job>
 void TTransfer::Begin(Job job, EState after)
@@ -71,6 +101,8 @@ void TTransfer::writeSupport(bool anonymous)
 
 QVariantList TTransfer::profiles()
 {
+    if (!m_Shown.Transfer().profiles.isEmpty())
+        return m_Shown.Transfer().profiles;
     if (!m_IsLooking) {
         m_IsLooking = true;
         TBackground::Lane(Lane).Run(

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QVariantList>
 
+class TShownTransfer;
+
 /// Exports to the stick, and imports from it. In QML it is Transfer.
 ///
 /// A transfer is done in a thread of its own, one after the other for all objects. It is Done only when all of it is on
@@ -33,10 +35,10 @@ public:
 
     explicit TTransfer(QObject* parent = nullptr);
 
-    EState State() const { return m_State; }
-    double Progress() const { return m_Progress; } ///< 0 to 1
-    QString Error() const { return m_State == Failed ? m_Text : QString(); }
-    QString Result() const { return m_State == Done ? m_Text : QString(); }
+    EState State() const;
+    double Progress() const; ///< 0 to 1
+    QString Error() const;   ///< empty when it has not failed
+    QString Result() const;  ///< empty when it is not done
 
     /// Of the last comparison or import: maps of name, title, ours, theirs and base, with texts as the operator reads
     /// them. A conflict was changed here and in the profile; it is not among the changes unless it is resolved to
@@ -86,6 +88,7 @@ private:
     void SetProgress(double progress);
     void Take(const tagTransferResult& result, EState after);
 
+    const TShownTransfer& m_Shown;
     EState m_State = Idle;
     double m_Progress = 0;
     QString m_Text;

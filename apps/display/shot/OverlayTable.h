@@ -1,5 +1,7 @@
 #pragma once
 
+#include "display/shot/ExampleTransfers.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -48,6 +50,17 @@ inline constexpr std::array Overlays = {
     tagOverlay{"lock", "work", {"lock"}, "", "lockLayer", false},
     tagOverlay{"problem", "work", {}, "", "problem", false, OverlayChanges::SetLongProblem},
     tagOverlay{"restart", "work", {}, "", "restart", false, OverlayChanges::SetNewLanguage},
+    tagOverlay{"export-running", "settings-storage", {}, "", "transferRunning", false, ExampleTransfers::SetRunning},
+    tagOverlay{"export-done", "settings-storage", {}, "", "transferEnd", false, ExampleTransfers::SetLogsDone},
+    tagOverlay{"export-failed", "settings-storage", {}, "", "transferEnd", false, ExampleTransfers::SetLogsFailed},
+    tagOverlay{"profile-running", "settings-profiles", {}, "", "transferRunning", false, ExampleTransfers::SetRunning},
+    tagOverlay{"profile-done", "settings-profiles", {}, "", "transferEnd", false, ExampleTransfers::SetProfileDone},
+    tagOverlay{"profile-failed", "settings-profiles", {}, "", "transferEnd", false, ExampleTransfers::SetProfileFailed},
+    tagOverlay{"import", "settings-profiles", {"profile"}, "", "difference", false, ExampleTransfers::SetProfiles},
+    tagOverlay{
+        "import-done", "settings-profiles", {"profile"}, "", "transferEnd", false, ExampleTransfers::SetImportDone},
+    tagOverlay{
+        "import-failed", "settings-profiles", {"profile"}, "", "transferEnd", false, ExampleTransfers::SetImportFailed},
     tagOverlay{"messages", "work", {}, "", "restart", false, OverlayChanges::SetEverything},
 };
 

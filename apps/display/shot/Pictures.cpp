@@ -4,6 +4,7 @@
 #include "display/fieldwork/TWork.h"
 #include "display/map/TMapItem.h"
 #include "display/session/TDisplaySession.h"
+#include "display/shot/ExampleTransfers.h"
 #include "display/shot/OpenOverlay.h"
 #include "display/shot/PageTable.h"
 
@@ -36,10 +37,6 @@
 #include <cmath>
 
 namespace {
-
-/// Room on the drives and in the memory, which would change from one picture to the next.
-const tagShownDrives Drives = {
-    {28000000000, 12300000000}, tagSpace{8000000000, 7400000000}, {2000000000, 1400000000}, 0.2};
 
 const QDateTime Moment(QDate(2024, 5, 1), QTime(12, 5), Qt::UTC);
 constexpr int SecondsFromUtc = 2 * 60 * 60;
@@ -234,7 +231,7 @@ bool WritePictures(const tagDisplayOptions& options, QString* error)
         *error = QStringLiteral("cannot write the files of the example");
         return false;
     }
-    CabQuick::ShowDrives(Drives);
+    CabQuick::ShowDrives(ExampleTransfers::Drives());
     // A cursor that blinks would be in some of the pictures only.
     QGuiApplication::styleHints()->setCursorFlashTime(0);
     const QStringList names = options.page.isEmpty() ? AllPictures() : QStringList{options.page};

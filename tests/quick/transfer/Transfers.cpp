@@ -35,6 +35,7 @@ private slots:
     void aPulledStickIsSaid();
     void anObjectMayGoWhileItsTransferRuns();
     void aSecondTransferWaits();
+    void aPictureHasATransferOfItsOwn();
 
 private:
     QString State() const { return m_Terminal->Text("['idle', 'running', 'done', 'failed'][self.state]"); }
@@ -332,6 +333,37 @@ void Transfers::aSecondTransferWaits()
     m_Terminal->Get("self.exportProfile('ignored', [])"); // while one of the object is running
     QTRY_COMPARE_WITH_TIMEOUT(State(), QLatin1String("done"), Patience);
     QVERIFY(!QFileInfo::exists(OnStick("ignored.profile")));
+}
+
+void Transfers::aPictureHasATransferOfItsOwn()
+{
+    QSignalSpy states(m_Terminal->Object(), SIGNAL(stateChanged()));
+    QSignalSpy progress(m_Terminal->Object(), SIGNAL(progressChanged()));
+    QSignalSpy lists(m_Terminal->Object(), SIGNAL(profilesChanged()));
+    CabQuick::ShowTransfer({0.4, {}, {}, {}});
+    QCOMPARE(State(), QLatin1String("running"));
+    QCOMPARE(m_Terminal->Get("self.progress").toDouble(), 0.4);
+    CabQuick::ShowTransfer({{}, QLatin1String("No room."), {}, {}});
+    QCOMPARE(State(), QLatin1String("failed"));
+    QCOMPARE(m_Terminal->Text("self.error"), QLatin1String("No room."));
+    QCOMPARE(m_Terminal->Text("self.result"), QString());
+    const QVariantMap profile = {{QLatin1String("name"), QLatin1String("a")}};
+    CabQuick::ShowTransfer({{}, {}, QLatin1String("It is there."), {profile}});
+    QCOMPARE(State(), QLatin1String("done"));
+    QCOMPARE(m_Terminal->Text("self.result"), QLatin1String("It is there."));
+    QCOMPARE(m_Terminal->Text("self.error"), QString());
+    QCOMPARE(ListedNames(), QStringList{QLatin1String("a")});
+    QCOMPARE(states.size(), 3);
+    QCOMPARE(progress.size(), 3);
+    QCOMPARE(lists.size(), 3);
+
+    // Objects made later show it, too, and those that have a state of their own go back to it.
+    m_Terminal->Load("Transfer {}");
+    QCOMPARE(State(), QLatin1String("done"));
+    CabQuick::ShowTransfer({});
+    QCOMPARE(State(), QLatin1String("idle"));
+    QCOMPARE(m_Terminal->Get("self.progress").toDouble(), 0.0);
+    QVERIFY(HasFailed("self.exportLogs()"));
 }
 
 int main(int argc, char* argv[])

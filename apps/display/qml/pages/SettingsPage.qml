@@ -96,7 +96,8 @@ FocusScope {
         id: list
         x: Sizes.margin
         y: Sizes.margin
-        width: page.isWide ? Sizes.target * 3.1 : parent.width - 2 * x
+        // Its rows keep their width when there are too many of them, as below a message.
+        width: page.isWide ? Sizes.target * 3.1 + turnerWidth : parent.width - 2 * x
         height: parent.height - 2 * y
         visible: page.isWide || (page.shownSection === "" && !page.hasInner)
         model: page.sections

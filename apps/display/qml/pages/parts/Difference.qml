@@ -8,6 +8,8 @@ import "../../controls"
 SettingRow {
     id: row
 
+    objectName: "difference"
+
     property string ours
     property string theirs
     property string kept

@@ -16,6 +16,8 @@ FocusScope {
 
     property int firstRow: 0
     property int lastRow: -1
+    // What the two buttons take of its width; 0 while they are not there.
+    readonly property real turnerWidth: turner.visible ? turner.width + Sizes.gap * 2 : 0
     readonly property Item focused: Window.activeFocusItem
 
     function turnDown() {
@@ -109,8 +111,8 @@ FocusScope {
     Item {
         id: whole
         anchors.left: parent.left
-        anchors.right: turner.visible ? turner.left : parent.right
-        anchors.rightMargin: (turner.visible ? Sizes.gap * 2 : 0) - Sizes.line
+        anchors.right: parent.right
+        anchors.rightMargin: list.turnerWidth - Sizes.line
         clip: true
 
         ListView {

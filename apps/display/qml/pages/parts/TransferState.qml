@@ -17,6 +17,7 @@ Item {
 
     Gauge {
         id: gauge
+        objectName: "transferRunning"
         width: parent.width
         visible: state.isRunning
         title: qsTr("Writing")
@@ -26,6 +27,7 @@ Item {
 
     TextLabel {
         id: words
+        objectName: "transferEnd"
         width: parent.width
         visible: !state.isRunning
         size: Sizes.row

@@ -71,6 +71,7 @@ SettingsPanel {
         model: transfer.conflicts.concat(transfer.changes)
         delegate: Difference {
             width: ListView.view.width
+            most: ListView.view.height
             title: modelData.title
             ours: modelData.ours
             theirs: modelData.theirs

@@ -15,6 +15,7 @@ SettingsPanel {
     hasBack: true
 
     tools: PushButton {
+        objectName: "export"
         icon: "export"
         text: qsTr("Export")
         enabled: Drives.hasStick && transfer.state !== Transfer.Running
@@ -58,6 +59,7 @@ SettingsPanel {
         model: page.files
         spacing: Sizes.gap
         delegate: ListRow {
+            objectName: "profile"
             width: ListView.view.width
             title: modelData.name
             detail: modelData.text

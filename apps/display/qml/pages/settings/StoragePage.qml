@@ -21,8 +21,18 @@ SettingsPanel {
         id: transfer
     }
 
+    // Above the rows, which have more than one page in a small window: it is seen from each of them.
+    TransferState {
+        id: state
+        width: parent.width
+        transfer: transfer
+    }
+
     PagedColumn {
-        anchors.fill: parent
+        anchors.top: state.visible ? state.bottom : parent.top
+        anchors.topMargin: state.visible ? Sizes.gap * 2 : 0
+        anchors.bottom: parent.bottom
+        width: parent.width
         focus: true
         spacing: Sizes.gap * 2
 
@@ -48,11 +58,6 @@ SettingsPanel {
             text: Drives.memoryText
             fraction: page.used(Drives.memoryFree, Drives.memoryTotal)
             needsAttention: fraction > 0.9
-        }
-
-        TransferState {
-            width: parent.width
-            transfer: transfer
         }
 
         SettingRow {
