@@ -1,6 +1,8 @@
+#include "support/GivenTexts.h"
 #include "support/TOpenDisplay.h"
 #include "support/VisibleItems.h"
 
+#include "platform/EDecimalPoint.h"
 #include "units/TUnitAbbreviations.h"
 #include "units/TUnits.h"
 #include "units/table/UnitTable.h"
@@ -10,13 +12,15 @@
 
 #include <algorithm>
 
-/// Everything that a page shows with a unit is in the operator's system, and comes from the library.
+/// Everything that a page shows with a unit is in the operator's system, and comes from the library. So does every
+/// other number.
 class PageUnits : public QObject
 {
     Q_OBJECT
 
 private slots:
     void everyUnitIsSeen();
+    void everyNumberIsSeen();
     void areTheChosenOnesAndTheLibrarys_data();
     void areTheChosenOnesAndTheLibrarys();
 };
@@ -25,6 +29,15 @@ namespace {
 
 /// As many as the tractor takes for a part of a pass.
 const int Positions = 600;
+
+const QSize Size(1280, 800);
+
+const EDecimalPoint Sign = CABSETTINGS_DECIMAL_POINT;
+
+/// What is stored before the display starts: a process keeps the decimal sign that it finds first.
+QMap<QString, QVariant> First() { return {{QStringLiteral("region.decimal-point"), int{Sign}}}; }
+
+QString DecimalSign() { return QLatin1String(Sign == DECIMAL_POINT_COMMA ? "," : "."); }
 
 struct tagChoice
 {
@@ -113,11 +126,30 @@ QStringList UnitsOf(const QQuickItem& item)
     return item.objectName() == QLatin1String("unit") ? QStringList(text) : UnitsIn(text);
 }
 
+/// Texts whose numbers no object gives as they are shown, by the object name of the text or of an item around it.
+constexpr const char* OwnNumbers[] = {
+    "key0",       "key1", "key2", "key3", "key4", "key5", "key6", "key7", "key8", "key9",
+    "entry",      // what is typed
+    "sentence",   // the ends of the range, which the page asks the quantity for one by one
+    "clockEntry", // the parts of a date and a time, whole numbers of two or four digits
+};
+
+bool HasOwnNumbers(const QQuickItem* item)
+{
+    for (; item; item = item->parentItem()) {
+        const QString name = item->objectName();
+        if (std::any_of(std::begin(OwnNumbers), std::end(OwnNumbers),
+                        [&name](const char* own) { return name == QLatin1String(own); }))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 void PageUnits::everyUnitIsSeen()
 {
-    const TOpenDisplay display(QSize(1280, 800)); // the terminal gives the units their names
+    const TOpenDisplay display(Size, QString(), First()); // the terminal gives the units their names
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
     const double value = 12.5;
     const int precision = 2;
@@ -131,6 +163,16 @@ void PageUnits::everyUnitIsSeen()
     QCOMPARE(UnitsIn(TUnits::GetLongitudeString(value)), QStringList());
 }
 
+void PageUnits::everyNumberIsSeen()
+{
+    const QStringList given = {QLatin1String("12.5 km"), QLatin1String("12.5"), QLatin1String("J_1"),
+                               QLatin1String("2")};
+    for (const char* text : {"", "----", "Area", "12.5", "2", "12.5 km", "12.5 km, 2", "J_1, 12.5 m", "2 of 2."})
+        QCOMPARE(GivenTexts::Rest(QLatin1String(text), given), QString());
+    for (const char* text : {"12.50", "12", "12,5", "112.5", "22", "2.2", "J_12", "3 of 2", "0.2"})
+        QVERIFY2(!GivenTexts::Rest(QLatin1String(text), given).isEmpty(), text);
+}
+
 void PageUnits::areTheChosenOnesAndTheLibrarys_data()
 {
     QTest::addColumn<int>("system");
@@ -141,25 +183,31 @@ void PageUnits::areTheChosenOnesAndTheLibrarys_data()
 void PageUnits::areTheChosenOnesAndTheLibrarys()
 {
     QFETCH(int, system);
-    TOpenDisplay display(QSize(1280, 800));
+    const tagSystem chosen = Systems().at(system);
+    TOpenDisplay display(Size, QString(), First());
     QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
     display.MakeExample();
-    const tagSystem chosen = Systems().at(system);
     Choose(display, chosen);
     display.Drive(Positions);
     const QStringList others = chosen.isMetric ? OtherUnits() : MetricUnits();
     int found = 0;
+    QStringList strange;
     for (const QString& view : TOpenDisplay::Views()) {
         display.Show(view);
         QStringList given = display.ExampleTexts();
-        for (const QObject* quantity : display.Quantities())
+        for (const QObject* quantity : display.Quantities()) {
+            QCOMPARE(quantity->property("decimalSign").toString(), DecimalSign());
             given << quantity->property("text").toString() << quantity->property("unit").toString();
+        }
+        const QStringList numbers = GivenTexts::All(display);
         for (const QQuickItem* item : VisibleItems::Texts(display.Content())) {
             const QString text = VisibleItems::Text(*item);
+            const QString what = view + QLatin1String(": ") + VisibleItems::Describe(*item);
+            if (!HasOwnNumbers(item) && !GivenTexts::Rest(text, numbers).isEmpty())
+                strange.append(what);
             const QStringList units = UnitsOf(*item);
             if (units.isEmpty())
                 continue;
-            const QString what = view + QLatin1String(": ") + VisibleItems::Describe(*item);
             ++found;
             for (const QString& unit : units)
                 QVERIFY2(!others.contains(unit), qPrintable(what));
@@ -169,6 +217,8 @@ void PageUnits::areTheChosenOnesAndTheLibrarys()
             QVERIFY2(isGiven, qPrintable(what));
         }
     }
+    strange.removeDuplicates(); // what is on every page
+    QVERIFY2(strange.isEmpty(), qPrintable(strange.join(QLatin1Char('\n'))));
     // A walk that finds no unit proves nothing: the work page alone has seven tiles.
     const int least = 12;
     QVERIFY(found >= least);

@@ -14,6 +14,7 @@
 #include "receiver/SimulatedField.h"
 #include "receiver/TReceiver.h"
 #include "stores/TSqliteStore.h"
+#include "terminal/DataFolder.h"
 
 #include <QAbstractItemModel>
 #include <QGuiApplication>
@@ -44,6 +45,18 @@ void Complain(QtMsgType type, const QMessageLogContext& context, const QString& 
     BeforeComplaints(type, context, text);
 }
 
+bool StoreFirst(const QString& dataFolder, const QMap<QString, QVariant>& values, QString* problem)
+{
+    if (values.isEmpty())
+        return true;
+    const auto store = TSqliteStore::Open(DataFolder::StoreFile(dataFolder), problem);
+    for (auto value = values.begin(); store && value != values.end(); ++value) {
+        if (!store->SetParameter(TParameterCatalogue::Find(value.key())->id, value.value(), true))
+            *problem = value.key() + QLatin1String(" is not stored");
+    }
+    return problem->isEmpty();
+}
+
 /// The rows of lists belong to their list as items only, not as objects.
 void AddObjects(const QQuickItem& item, const char* type, QList<QObject*>& objects)
 {
@@ -71,11 +84,13 @@ struct TOpenDisplay::tagState
     QQuickWindow* Window() const { return session ? session->Window() : nullptr; }
 };
 
-TOpenDisplay::TOpenDisplay(const QSize& size, const QString& language)
+TOpenDisplay::TOpenDisplay(const QSize& size, const QString& language, const QMap<QString, QVariant>& first)
     : m_State(std::make_unique<tagState>(size, language))
 {
     Complaints().clear();
     BeforeComplaints = qInstallMessageHandler(Complain);
+    if (!StoreFirst(m_State->folder.Path(), first, &m_State->problem))
+        return;
     Start();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QList>
+#include <QMap>
 #include <QPointF>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -29,7 +30,9 @@ class TOpenDisplay
 {
 public:
     /// @param language such as "de"; empty for that of a first start.
-    explicit TOpenDisplay(const QSize& size, const QString& language = QString());
+    /// @param first values of parameters, by their names, that are stored before the start.
+    explicit TOpenDisplay(const QSize& size, const QString& language = QString(),
+                          const QMap<QString, QVariant>& first = {});
     ~TOpenDisplay();
 
     TOpenDisplay(const TOpenDisplay&) = delete;
