@@ -117,7 +117,8 @@ QStringList Walk(const TOpenDisplay& display, const QString& view, bool isForwar
             found.append(name + QLatin1String(" is no stop"));
     }
     QQuickItem* const cover = CoverOf(display, view);
-    QQuickItem* const first = TabFocus(cover ? cover : &display.Content(), nullptr, true);
+    // The last stop: the first one may be a button that turns a list, which goes away at the list's end.
+    QQuickItem* const first = TabFocus(cover ? cover : &display.Content(), nullptr, false);
     first->forceActiveFocus(Qt::TabFocusReason);
     QQuickItem* stop = nullptr;
     for (int step = 0; step < MostStops && stop != first; ++step) {
