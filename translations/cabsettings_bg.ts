@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Създаване</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отказ</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Данните за обработеното остават в паметта до записването им. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Задачата все още се чете.</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Nový</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zastavit</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3081,6 +3096,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Zpracovaná plocha zůstává v paměti, dokud ji nelze uložit. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Zakázka se ještě načítá.</translation>
     </message>
 </context>
 <context>

@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Ny</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Det behandlede areal holdes i hukommelsen, til det kan gemmes. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Jobbet læses stadig ind.</translation>
     </message>
 </context>
 <context>

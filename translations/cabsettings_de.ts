@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Die bearbeitete Fläche bleibt im Arbeitsspeicher, bis sie gespeichert werden kann. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Der Auftrag wird noch gelesen.</translation>
     </message>
 </context>
 <context>

@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Νέο</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Ακύρωση</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Διακοπή</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Η κάλυψη μένει στη μνήμη μέχρι να μπορεί να αποθηκευτεί. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Η εργασία διαβάζεται ακόμη.</translation>
     </message>
 </context>
 <context>

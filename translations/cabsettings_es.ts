@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>La cobertura queda en memoria hasta que se pueda guardar. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>La tarea todavía se está leyendo.</translation>
     </message>
 </context>
 <context>

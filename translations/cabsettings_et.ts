@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Uus</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Loobu</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Peata</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Töödeldud pindala hoitakse muutmälus, kuni selle saab salvestada. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Ülesannet alles loetakse.</translation>
     </message>
 </context>
 <context>

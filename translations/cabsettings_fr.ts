@@ -754,6 +754,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3077,6 +3092,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>La couverture reste en mémoire jusqu&apos;à ce qu&apos;elle puisse être enregistrée. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>La tâche est encore en cours de lecture.</translation>
     </message>
 </context>
 <context>

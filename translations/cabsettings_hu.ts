@@ -752,6 +752,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Új</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Mégse</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Leállítás</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3073,6 +3088,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>A lefedettség a memóriában marad, amíg menthető nem lesz. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>A feladat beolvasása még tart.</translation>
     </message>
 </context>
 <context>

@@ -752,6 +752,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>新規</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3073,6 +3088,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>作業済みの記録は、保存できるまでメモリに保持されます。%1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>タスクはまだ読み込み中です。</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Naujas</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Atšaukti</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stabdyti</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3081,6 +3096,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Apdirbtas plotas laikomas atmintyje, kol jį bus galima įrašyti. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Užduotis dar skaitoma.</translation>
     </message>
 </context>
 <context>

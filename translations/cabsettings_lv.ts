@@ -756,6 +756,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Jauns</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Atcelt</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Apturēt</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3081,6 +3096,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Apstrādātā platība paliek atmiņā, līdz to varēs saglabāt. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Uzdevums vēl tiek nolasīts.</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Nou</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anulare</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Oprire</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3081,6 +3096,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Acoperirea rămâne în memorie până poate fi salvată. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Lucrarea este încă în curs de citire.</translation>
     </message>
 </context>
 <context>

@@ -756,6 +756,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Создать</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3081,6 +3096,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Данные обработки остаются в памяти до сохранения. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Задание ещё читается.</translation>
     </message>
 </context>
 <context>

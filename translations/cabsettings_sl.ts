@@ -758,6 +758,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Prekliči</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3085,6 +3100,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>Podatki o obdelanem ostanejo v pomnilniku, dokler jih ni mogoče shraniti. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Naloga se še bere.</translation>
     </message>
 </context>
 <context>

@@ -752,6 +752,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>Yeni</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3073,6 +3088,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>İşlenen alan, kaydedilebilene kadar bellekte tutuluyor. %1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>Görev hâlâ okunuyor.</translation>
     </message>
 </context>
 <context>

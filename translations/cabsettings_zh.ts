@@ -752,6 +752,21 @@
     </message>
 </context>
 <context>
+    <name>LineChoice</name>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
     <name>LinePanel</name>
     <message>
         <source>%1 to the left</source>
@@ -3073,6 +3088,10 @@
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
         <translation>已作业记录保留在内存中，直到可以保存。%1</translation>
+    </message>
+    <message>
+        <source>The job is still being read.</source>
+        <translation>任务仍在读取中。</translation>
     </message>
 </context>
 <context>

@@ -253,12 +253,16 @@ bool TWork::setB()
     return true;
 }
 
-void TWork::clearLine()
+QString TWork::clearLine()
 {
+    QString problem = LoadingProblem();
+    if (!problem.isEmpty())
+        return problem;
     m_Guidance.Clear();
     ShowGuidance();
     emit guidanceChanged();
     emit moved();
+    return QString();
 }
 
 bool TWork::mark()

@@ -135,14 +135,16 @@ public:
     /// line of that name. False when there is no A, no position, A is nearer than a metre, or the job is not there.
     Q_INVOKABLE bool setB();
 
-    /// Stops following a line; its file stays.
-    Q_INVOKABLE void clearLine();
+    // An empty result is success, else a sentence: also before the job is there.
 
-    /// Saves the line under a name, and selects it. An empty result is success, else a sentence.
+    /// Stops following a line; its file stays, and so does its name: the next start follows it again.
+    Q_INVOKABLE QString clearLine();
+
+    /// Saves the line under a name, and selects it.
     Q_INVOKABLE QString saveLine(const QString& name);
 
-    /// Selects a line and follows it. An empty result is success, else a sentence; a file that cannot be read is a
-    /// problem of the display's list, since it is read later.
+    /// Selects a line and follows it. A name without a file is that of the line that is set next. A file that cannot be
+    /// read is a problem of the display's list.
     Q_INVOKABLE QString loadLine(const QString& name);
 
     /// Marks the place with a flag, which is kept in the field. False without a position, and before the job is there.
@@ -180,6 +182,7 @@ private:
     void SetImplement(const tagImplement& implement);
     void SaveFlags();
     void Save(const QString& problemKey, const std::function<bool(QString*)>& write);
+    QString LoadingProblem() const;
     QString SelectLine(const QString& name);
     QString FreeLineName();
     void CheckCoverage();

@@ -294,6 +294,9 @@ void TWork::SetImplementBehind(double behind)
     SetImplement(implement);
 }
 
+/// The job that is being read brings its own line: what is asked for now would be lost, or saved in another field.
+QString TWork::LoadingProblem() const { return m_Job ? QString() : tr("The job is still being read."); }
+
 /// Empty, or why the line cannot be selected.
 QString TWork::SelectLine(const QString& name)
 {
@@ -324,11 +327,14 @@ QString TWork::FreeLineName()
 
 QString TWork::saveLine(const QString& name)
 {
+    QString problem = LoadingProblem();
+    if (!problem.isEmpty())
+        return problem;
     if (!HasLine())
         return tr("There is no line.");
     if (name.isEmpty())
         return tr("The line has no name.");
-    QString problem = SelectLine(name);
+    problem = SelectLine(name);
     if (!problem.isEmpty())
         return problem;
     const QString path = m_Places.line;
@@ -339,7 +345,10 @@ QString TWork::saveLine(const QString& name)
 
 QString TWork::loadLine(const QString& name)
 {
-    QString problem = SelectLine(name);
+    QString problem = LoadingProblem();
+    if (!problem.isEmpty())
+        return problem;
+    problem = SelectLine(name);
     if (problem.isEmpty())
         LoadLine();
     return problem;

@@ -17,6 +17,7 @@ inline constexpr std::array Icons = {
     tagIcon{"north", "M7 21V13l10 8v-8M12 10V3M9 6l3-3 3 3"},
     tagIcon{"centre", "M12 2v5M12 17v5M2 12h5M17 12h5M12 7a5 5 0 1 0 0 10 5 5 0 0 0 0-10"},
     tagIcon{"flag", "M12 22c-4-5-6-8.5-6-12a6 6 0 0 1 12 0c0 3.5-2 7-6 12z"},
+    tagIcon{"lines", "M4 21L8 3M10 21L14 3M16 21L20 3"},
     tagIcon{"moon", "M20 14.5A8.5 8.5 0 1 1 10 4a6.5 6.5 0 0 0 10 10.5z"},
     tagIcon{"sun", "M12 8a4 4 0 1 0 0 8 4 4 0 0 0 0-8M12 2v2M12 20v2M2 12h2M20 12h2M4.9 4.9l1.4 1.4M17.7 17.7l1.4 "
                    "1.4M4.9 19.1l1.4-1.4M17.7 6.3l1.4-1.4"},

@@ -47,6 +47,7 @@ inline constexpr std::array Overlays = {
     tagOverlay{"implements", "settings-machine", {"active.implement"}, "", "itemPage", false},
     tagOverlay{"new-implement", "settings-machine", {"active.implement", "new"}, "", "nameEntry", false},
     tagOverlay{"line", "work", {}, "", "linePanel", false, OverlayChanges::SetPosition},
+    tagOverlay{"lines", "work", {"lines"}, "", "lineChoice", false},
     tagOverlay{"lock", "work", {"lock"}, "", "lockLayer", false},
     tagOverlay{"problem", "work", {}, "", "problem", false, OverlayChanges::SetLongProblem},
     tagOverlay{"restart", "work", {}, "", "restart", false, OverlayChanges::SetNewLanguage},

@@ -89,6 +89,7 @@ private slots:
     void theEndOfTheProgramLosesNothing();
     void groundWithoutAJobIsOfNoJob();
     void nothingIsSetThatTheJobWouldReplace();
+    void noLineIsChosenThatTheJobWouldReplace();
 };
 
 void WorkWhileLoading::theGroundIsAddedWhenTheJobIsThere()
@@ -299,6 +300,33 @@ void WorkWhileLoading::nothingIsSetThatTheJobWouldReplace()
     QVERIFY(room.work->HasLine());
     QVERIFY(room.work->setA());
     QVERIFY(room.work->mark());
+}
+
+void WorkWhileLoading::noLineIsChosenThatTheJobWouldReplace()
+{
+    TWorkRoom room;
+    room.Drive(1);
+    const double offLine = room.work->OffLine();
+    QVERIFY(room.work->HasLine() && !std::isnan(offLine));
+    TSlowFile slow(Boundary(room));
+    Begin(room);
+    const QString refusal = room.work->loadLine(QStringLiteral("AB_2"));
+    QVERIFY(refusal.contains(QLatin1String("still being read")));
+    QCOMPARE(room.work->saveLine(QStringLiteral("AB_2")), refusal);
+    QCOMPARE(room.work->clearLine(), refusal);
+    const QObject* const selections = room.terminal.Named("Selections");
+    QCOMPARE(selections->property("abLine").toString(), QLatin1String(DemoField::Line));
+    slow.LetGo();
+    room.Load();
+    QVERIFY(room.work->HasLine());
+    QCOMPARE(room.work->clearLine(), QString());
+    QVERIFY(!room.work->HasLine());
+    QCOMPARE(room.work->loadLine(QLatin1String(DemoField::Line)), QString());
+    QVERIFY(room.work->HasLine());
+    QCOMPARE(room.work->loadLine(QStringLiteral("AB_2")), QString()); // the next line's
+    QVERIFY(!room.work->HasA());
+    QCOMPARE(selections->property("abLine").toString(), QLatin1String("AB_2"));
+    QVERIFY(!QFileInfo::exists(TSystemSettingsProxy().GetActiveABLinePath()));
 }
 
 QTEST_MAIN(WorkWhileLoading)

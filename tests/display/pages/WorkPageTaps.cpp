@@ -12,6 +12,7 @@
 #include "receiver/SimulatedField.h"
 #include "receiver/TReceiver.h"
 #include "stores/TSqliteStore.h"
+#include "system/TSystemSettingsProxy.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -49,6 +50,8 @@ private slots:
     void theMapZoomsAndTurns();
     void theMapGoesByKeys();
     void aLineIsSetAndFollowed();
+    void aSavedLineIsChosen();
+    void aLineGetsAName();
     void aFlagIsSet();
     void workingIsSwitched();
     void aTileOpensTheChoiceOfTiles();
@@ -175,6 +178,49 @@ void WorkPageTaps::aLineIsSetAndFollowed()
     QVERIFY(qAbs(m_Work->OffLine()) < 0.05);
 }
 
+void WorkPageTaps::aSavedLineIsChosen()
+{
+    const TSystemSettingsProxy system;
+    QVERIFY(system.GetActiveABLine() != QLatin1String(DemoField::Line)); // that of the test before
+    Tap("lines");
+    QVERIFY(Find("lineChoice"));
+    Tap("line.AB_1");
+    QVERIFY(!Find("lineChoice"));
+    QCOMPARE(system.GetActiveABLine(), QLatin1String(DemoField::Line));
+    QVERIFY(m_Work->HasLine());
+    const QString file = system.GetActiveABLinePath();
+    Tap("lines");
+    Tap("stopLine");
+    QVERIFY(!Find("lineChoice"));
+    QVERIFY(!m_Work->HasLine() && !m_Work->HasA());
+    QVERIFY(QFileInfo::exists(file));
+}
+
+void WorkPageTaps::aLineGetsAName()
+{
+    Tap("lines");
+    Tap("newLine");
+    QVERIFY(Find("nameEntry"));
+    for (const char letter : {'D', 'i', 't', 'c', 'h'})
+        QTest::sendKeyEvent(QTest::Click, m_Session->Window(), Qt::Key_unknown, QString(QLatin1Char(letter)),
+                            Qt::NoModifier);
+    QTest::keyClick(m_Session->Window(), Qt::Key_Return);
+    QVERIFY(!Find("nameEntry") && !Find("lineChoice"));
+    const TSystemSettingsProxy system;
+    QCOMPARE(system.GetActiveABLine(), QLatin1String("Ditch"));
+    QVERIFY(!m_Work->HasA());
+    Tap("setA");
+    Drive(200);
+    Tap("setB");
+    QVERIFY(m_Work->HasLine());
+    QCOMPARE(system.GetActiveABLine(), QLatin1String("Ditch"));
+    QTRY_VERIFY(QFileInfo::exists(system.GetActiveABLinePath()));
+    Tap("lines");
+    QVERIFY(Find("line.Ditch") && Find("line.Ditch")->property("chosen").toBool());
+    QTest::keyClick(m_Session->Window(), Qt::Key_Escape);
+    QVERIFY(!Find("lineChoice"));
+}
+
 void WorkPageTaps::aFlagIsSet()
 {
     auto* const model = static_cast<TMapModel*>(m_Work->Map());
@@ -253,7 +299,7 @@ void WorkPageTaps::everySizeShowsWhatIsNeeded()
     QCoreApplication::processEvents();
     const double least = size.width() >= 1024 ? 76 : 60;
     QVector<QRectF> places;
-    for (const char* const name : {"zoomIn", "zoomOut", "turn", "recentre", "setA", "setB", "mark", "working",
+    for (const char* const name : {"zoomIn", "zoomOut", "turn", "recentre", "setA", "setB", "lines", "mark", "working",
                                    "tile.rate", "tile.speed", "door.work", "door.settings"}) {
         const QQuickItem* const item = Find(name);
         QVERIFY2(item, name);

@@ -12,7 +12,7 @@ Item {
     signal openSettings(string section)
 
     readonly property real freeHeight: height - (Sizes.isPortrait ? tiles.height + Sizes.margin : 0)
-    readonly property real oneColumn: 7 * Sizes.target + 5 * Sizes.gap + 2 * Sizes.margin
+    readonly property real oneColumn: 6 * Sizes.target + 4 * Sizes.gap + 2 * Sizes.margin
                                       + (Sizes.isPortrait ? Sizes.target + 2 * Sizes.margin : 0)
     // Where the buttons have no room in one column, those of the line stand in a row at the foot. A message above the
     // page takes room from it.
@@ -122,8 +122,10 @@ Item {
 
         x: page.isLow ? mapButtons.x + mapButtons.width + Sizes.gap : Sizes.margin
         y: page.isLow ? page.free.height - height - Sizes.margin : mapButtons.y + mapButtons.height + 2 * Sizes.margin
-        columns: page.isLow ? 3 : 1
+        columns: page.isLow ? 4 : 2
+        onChoose: lines.ask()
     }
+    LineChoice { id: lines }
     WorkingButton {
         readonly property bool isSquare: page.isLow || Sizes.isPortrait
 

@@ -3,15 +3,19 @@ import CabSettings 1.0
 import CabDisplay 1.0
 import "../../controls"
 
-// The ends of the guidance line, and a flag where the vehicle is.
+// The ends of the guidance line, the choice of a line that is saved, and a flag where the vehicle is.
 Grid {
     id: buttons
 
     // What is set belongs to the job, which may still be loaded.
     readonly property bool isReady: Work.hasPosition && !Work.loading
 
-    columns: 1
+    signal choose()
+
+    columns: 2
     spacing: Sizes.gap
+
+    Parameter { id: line; name: "active.ab-line" }
 
     IconButton {
         objectName: "setA"
@@ -27,6 +31,13 @@ Grid {
         enabled: buttons.isReady && Work.hasA
         accessibleName: qsTr("Set B, the other end of the line, here")
         onClicked: Work.setB()
+    }
+    IconButton {
+        objectName: "lines"
+        icon: "lines"
+        enabled: !Work.loading
+        accessibleName: line.title
+        onClicked: buttons.choose()
     }
     IconButton {
         objectName: "mark"
