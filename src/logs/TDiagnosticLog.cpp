@@ -301,9 +301,9 @@ TDiagnosticLog::tagExportResult TDiagnosticLog::ExportFile(const QString& target
     if (m_BasePath.isEmpty())
         return result;
     const TLogSeries series(m_BasePath);
-    const std::vector<TLogSeries::tagFile> files = series.GetFiles(m_FileName);
-    if (files.empty() && !series.HasFolder())
-        return result;
+    std::vector<TLogSeries::tagFile> files;
+    if (!series.ReadFiles(m_FileName, &files))
+        return result; // which files there are is not known, so they are not all copied
 
     result.filesFound = static_cast<int>(files.size());
     result.allCopied = true;

@@ -30,7 +30,7 @@ public:
     {
         int filesFound;   ///< files of the series
         int filesHandled; ///< files tried, whether copied or not
-        bool allCopied;   ///< every file found was copied; false when the log's folder does not exist
+        bool allCopied;   ///< every file found was copied; false when the log's folder does not exist or cannot be read
     };
 
     /// What a host needs to keep a log going; see GetState().

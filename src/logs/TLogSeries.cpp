@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstddef>
 #include <memory>
 #include <string_view>
@@ -57,6 +58,13 @@ QString TLogSeries::GetName(int number) const { return m_Stem + GetNumberText(nu
 
 std::vector<TLogSeries::tagFile> TLogSeries::GetFiles(const QString& lastWritten) const
 {
+    std::vector<tagFile> files;
+    ReadFiles(lastWritten, &files);
+    return files;
+}
+
+bool TLogSeries::ReadFiles(const QString& lastWritten, std::vector<tagFile>* files) const
+{
     // Read without Qt, which makes an object for every name: a folder may hold a thousand other files. Names are
     // compared byte by byte. In a wildcard, a "[" of the stem would be more than a letter.
     const QByteArray stem = QFile::encodeName(m_Stem);
@@ -65,9 +73,14 @@ std::vector<TLogSeries::tagFile> TLogSeries::GetFiles(const QString& lastWritten
     const bool isPath = !path.contains('\0'); // the system would end the path at a zero and read another folder
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(isPath ? opendir(path.constData()) : nullptr, &closedir);
 
-    std::vector<tagFile> files;
+    files->clear();
     int greatest = -1;
-    while (const dirent* const entry = folder ? readdir(folder.get()) : nullptr) {
+    const auto next = [&folder] {
+        errno = 0; // readdir() leaves it alone at the end of the folder
+        return folder ? readdir(folder.get()) : nullptr;
+    };
+    const dirent* entry = nullptr;
+    while ((entry = next())) {
         if (!IsOf(View(stem), View(extension), entry->d_name))
             continue;
         struct stat status = {};
@@ -80,18 +93,19 @@ std::vector<TLogSeries::tagFile> TLogSeries::GetFiles(const QString& lastWritten
         bool isNumbered = false; // by the bytes: with Qt 4 a QString also reads the digits of the machine's locale
         const int number = bytes.mid(stem.size(), bytes.size() - stem.size() - extension.size()).toInt(&isNumbered);
         const qint64 modified = static_cast<qint64>(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1000000;
-        files.push_back({name, status.st_size, modified, isNumbered ? std::optional<int>(number) : std::nullopt});
+        files->push_back({name, status.st_size, modified, isNumbered ? std::optional<int>(number) : std::nullopt});
         if (isNumbered)
             greatest = std::max(greatest, number);
     }
+    const bool isRead = folder && errno == 0;
 
     // Files written within one tick of the file system's clock have the same time.
     const QString newest = lastWritten.startsWith(m_Folder) ? lastWritten.mid(m_Folder.size()) : QString();
     const auto key = [&newest, greatest](const tagFile& file) {
         return std::make_tuple(file.modified, file.name == newest, Rank(file.number, greatest), file.name);
     };
-    std::sort(files.begin(), files.end(), [&key](const tagFile& a, const tagFile& b) { return key(a) < key(b); });
-    return files;
+    std::sort(files->begin(), files->end(), [&key](const tagFile& a, const tagFile& b) { return key(a) < key(b); });
+    return isRead;
 }
 
 QString TLogSeries::GetNumberText(int number)

@@ -53,6 +53,10 @@ public:
     /// @param lastWritten path of the file that was written last; empty when it is not known
     std::vector<tagFile> GetFiles(const QString& lastWritten = QString()) const;
 
+    /// The same, for callers that must know whether these are all. False when the folder does not exist or cannot be
+    /// read to its end; @p files receives those that were found.
+    bool ReadFiles(const QString& lastWritten, std::vector<tagFile>* files) const;
+
     /// @p number as it stands in a file name, in at least five digits: "00001".
     static QString GetNumberText(int number);
 
