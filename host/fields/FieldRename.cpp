@@ -3,8 +3,6 @@
 #include "fields/FieldPlaces.h"
 #include "fields/FieldSelection.h"
 #include "fields/FileTree.h"
-#include "platform/DurableCopy.h"
-#include "platform/TUnfinishedCopy.h"
 #include "stores/DurableFiles.h"
 
 #include <QFile>
@@ -14,8 +12,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-
-#include <unistd.h>
 
 namespace {
 
@@ -75,19 +71,6 @@ tagNote FromJson(const QByteArray& json)
                                change.value(BeforeKey).toString(), change.value(AfterKey).toString()});
     }
     return note;
-}
-
-bool Write(const QString& path, const QByteArray& content, QString* error)
-{
-    const QByteArray folder = QFileInfo(path).path().toUtf8();
-    TUnfinishedCopy file(folder);
-    const bool isWritten =
-        file.Descriptor() >= 0 &&
-        write(file.Descriptor(), content.constData(), static_cast<std::size_t>(content.size())) == content.size() &&
-        fsync(file.Descriptor()) == 0 && file.MoveTo(path.toUtf8(), true) && SyncFolder(folder);
-    if (!isWritten)
-        *error = DurableFiles::SystemReason(QLatin1String("cannot write"), path);
-    return isWritten;
 }
 
 /// Whether the library gives a file of an item called @p name the name @p file: "J_1.cov", "J_1_PPD.pbz".
@@ -181,7 +164,7 @@ bool FieldRename::Run(TParameterStore& store, const QString& drive, const QStrin
                       QString* error)
 {
     const tagNote note = {path, name, FieldSelection::AfterRename(path, name)};
-    if (!Write(NotePath(drive), Json(note), error))
+    if (!DurableFiles::Write(NotePath(drive), Json(note), error))
         return false;
     bool isRenamed = FieldSelection::StoreNothing(store, note.selection);
     if (!isRenamed)

@@ -1,5 +1,6 @@
 #include "fields/TFieldLock.h"
 
+#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
 
 #include <QElapsedTimer>
@@ -17,9 +18,10 @@ const unsigned long PauseMs = 20;
 
 } // namespace
 
-TFieldLock::TFieldLock(const QString& clients, EKind kind, int patienceMs)
-    : m_Folder(open(clients.toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+TFieldLock::TFieldLock(const QString& clients, EKind kind, int patienceMs) : m_Folder(-1)
 {
+    const QByteArray path = clients.toUtf8();
+    m_Folder = Uninterrupted([&] { return open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     if (m_Folder < 0) {
         m_Reason = DurableFiles::SystemReason(QLatin1String("cannot open"), clients);
         return;
@@ -27,7 +29,7 @@ TFieldLock::TFieldLock(const QString& clients, EKind kind, int patienceMs)
     QElapsedTimer timer;
     timer.start();
     const int operation = (kind == SHARED ? LOCK_SH : LOCK_EX) | LOCK_NB;
-    while (flock(m_Folder, operation) != 0) {
+    while (Uninterrupted([&] { return flock(m_Folder, operation); }) != 0) {
         if (errno == EWOULDBLOCK && timer.elapsed() < patienceMs) {
             QThread::msleep(PauseMs);
             continue;

@@ -1,5 +1,7 @@
 #include "fields/TOpenDrive.h"
 
+#include "platform/Uninterrupted.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -38,4 +40,7 @@ qint64 TOpenDrive::Free() const
     return static_cast<qint64>(info.f_bavail) * static_cast<qint64>(info.f_frsize);
 }
 
-bool TOpenDrive::Sync() const { return syncfs(m_Folder.Get()) == 0; }
+bool TOpenDrive::Sync() const
+{
+    return Uninterrupted([&] { return syncfs(m_Folder.Get()); }) == 0;
+}

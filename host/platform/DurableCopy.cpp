@@ -2,6 +2,7 @@
 
 #include "platform/TDescriptor.h"
 #include "platform/TUnfinishedCopy.h"
+#include "platform/Uninterrupted.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -18,23 +19,9 @@ namespace {
 /// What file systems answer that cannot sync a folder, or do not let it be opened.
 constexpr int CannotSyncFolders[] = {EINVAL, ENOTSUP, ENOSYS, EBADF, EACCES, EPERM};
 
-bool WriteAll(int fd, const char* data, ssize_t length)
-{
-    while (length > 0) {
-        const ssize_t written = write(fd, data, static_cast<std::size_t>(length));
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        data += written;
-        length -= written;
-    }
-    return true;
-}
-
 bool FillAndSync(const QByteArray& source, int to)
 {
-    const TDescriptor from(open(source.constData(), O_RDONLY | O_CLOEXEC));
+    const TDescriptor from(Uninterrupted([&] { return open(source.constData(), O_RDONLY | O_CLOEXEC); }));
     struct stat status = {};
     if (!from.IsOpen() || fstat(from.Get(), &status) != 0)
         return false;
@@ -44,7 +31,7 @@ bool FillAndSync(const QByteArray& source, int to)
     }
     // The copy is as readable as its source. FAT has no permissions, which is no reason to fail.
     static_cast<void>(fchmod(to, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
-    return CopyContents(from.Get(), to) && fsync(to) == 0;
+    return CopyContents(from.Get(), to) && Uninterrupted([&] { return fsync(to); }) == 0;
 }
 
 QByteArray FolderOf(const QByteArray& path)
@@ -61,12 +48,10 @@ bool CopyContents(int from, int to, const std::function<void(const char*, int)>&
 {
     std::array<char, 0x10000> buffer;
     for (;;) {
-        const ssize_t count = read(from, buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR)
-            continue;
+        const ssize_t count = Uninterrupted([&] { return read(from, buffer.data(), buffer.size()); });
         if (count <= 0)
             return count == 0;
-        if (to >= 0 && !WriteAll(to, buffer.data(), count))
+        if (to >= 0 && !WriteAll(to, buffer.data(), static_cast<std::size_t>(count)))
             return false;
         if (seen)
             seen(buffer.data(), static_cast<int>(count));
@@ -101,8 +86,8 @@ bool RenameWithoutReplacing(const QByteArray& source, const QByteArray& target)
 
 bool SyncFolder(const QByteArray& folder)
 {
-    const TDescriptor fd(open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (fd.IsOpen() && fsync(fd.Get()) == 0)
+    const TDescriptor fd(Uninterrupted([&] { return open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (fd.IsOpen() && Uninterrupted([&] { return fsync(fd.Get()); }) == 0)
         return true;
     return std::find(std::begin(CannotSyncFolders), std::end(CannotSyncFolders), errno) != std::end(CannotSyncFolders);
 }

@@ -1,6 +1,7 @@
 #include "platform/TUnfinishedCopy.h"
 
 #include "platform/DurableCopy.h"
+#include "platform/Uninterrupted.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -30,10 +31,11 @@ bool IsNamed(const QByteArray& path, int descriptor)
 
 void RemoveUnlessInUse(const QByteArray& path)
 {
-    const int file = open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int file =
+        Uninterrupted([&] { return open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); });
     if (file < 0)
         return;
-    if (flock(file, LOCK_EX | LOCK_NB) == 0 && IsNamed(path, file))
+    if (Uninterrupted([&] { return flock(file, LOCK_EX | LOCK_NB); }) == 0 && IsNamed(path, file))
         unlink(path.constData());
     close(file);
 }
@@ -71,8 +73,10 @@ TUnfinishedCopy::~TUnfinishedCopy()
 
 bool TUnfinishedCopy::Make(const QByteArray& folder)
 {
-    m_Path = folder + Prefix + Placeholder;
-    m_Descriptor = mkostemp(m_Path.data(), O_CLOEXEC);
+    m_Descriptor = Uninterrupted([&] {
+        m_Path = folder + Prefix + Placeholder; // mkostemp() may have changed it
+        return mkostemp(m_Path.data(), O_CLOEXEC);
+    });
     if (m_Descriptor < 0)
         m_Path.clear();
     return m_Descriptor >= 0;
@@ -82,7 +86,8 @@ bool TUnfinishedCopy::Make(const QByteArray& folder)
 // system has no locks, no leftovers are removed.
 void TUnfinishedCopy::LockOrDrop()
 {
-    const bool isLockedElsewhere = flock(m_Descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    const bool isLockedElsewhere =
+        Uninterrupted([&] { return flock(m_Descriptor, LOCK_EX | LOCK_NB); }) != 0 && errno == EWOULDBLOCK;
     struct stat status = {};
     const bool isRemoved = fstat(m_Descriptor, &status) == 0 && status.st_nlink == 0;
     if (isLockedElsewhere || isRemoved) {
@@ -97,6 +102,11 @@ void TUnfinishedCopy::Close()
     if (m_Descriptor >= 0)
         close(m_Descriptor);
     m_Descriptor = -1;
+}
+
+bool TUnfinishedCopy::Sync() const
+{
+    return Uninterrupted([&] { return fsync(m_Descriptor); }) == 0;
 }
 
 // The file stays locked until it has its new name.

@@ -24,6 +24,9 @@ public:
     /// The descriptor to write to; -1 when no file could be made, errno then tells why.
     int Descriptor() const { return m_Descriptor; }
 
+    /// Waits until the content is on the disk. Returns false with errno set when that has failed.
+    bool Sync() const;
+
     /// Gives the file the name @p target, in the same folder. An existing target is replaced only when @p overwrite is
     /// true. Returns false with errno set when that is not possible.
     bool MoveTo(const QByteArray& target, bool overwrite);

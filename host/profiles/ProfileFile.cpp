@@ -1,5 +1,6 @@
 #include "profiles/ProfileFile.h"
 
+#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
 
 #include <QCryptographicHash>
@@ -219,7 +220,8 @@ private:
 bool ReadAll(const QString& path, QByteArray* text, TProblems* problems)
 {
     // A pipe without a writer must not stop the program.
-    const int file = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const QByteArray name = path.toUtf8();
+    const int file = Uninterrupted([&] { return open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
     struct stat status = {};
     if (file < 0 || fstat(file, &status) != 0) {
         problems->Add(0, QLatin1String("cannot be read: ") + DurableFiles::SystemText());
@@ -231,7 +233,8 @@ bool ReadAll(const QString& path, QByteArray* text, TProblems* problems)
                              .arg(TProfile::MostBytes));
     } else {
         text->resize(static_cast<int>(status.st_size));
-        const ssize_t length = read(file, text->data(), static_cast<std::size_t>(text->size()));
+        const ssize_t length =
+            Uninterrupted([&] { return read(file, text->data(), static_cast<std::size_t>(text->size())); });
         if (length < 0)
             problems->Add(0, QLatin1String("cannot be read: ") + DurableFiles::SystemText());
         else

@@ -2,6 +2,7 @@
 
 #include "platform/DurableCopy.h"
 #include "platform/TUnfinishedCopy.h"
+#include "platform/Uninterrupted.h"
 
 #include <QFileInfo>
 
@@ -17,21 +18,6 @@ namespace DurableFiles {
 namespace {
 
 const mode_t ReadableByAll = 0644;
-
-bool WriteAll(int descriptor, const QByteArray& content)
-{
-    int written = 0;
-    while (written < content.size()) {
-        const ssize_t count =
-            write(descriptor, content.constData() + written, static_cast<std::size_t>(content.size() - written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        written += static_cast<int>(count);
-    }
-    return true;
-}
 
 } // namespace
 
@@ -66,8 +52,9 @@ bool Exists(const QString& path)
 
 bool SyncContent(const QString& path, QString* reason)
 {
-    const int file = open(path.toUtf8().constData(), O_RDONLY | O_CLOEXEC);
-    const bool isSynced = file >= 0 && fsync(file) == 0;
+    const QByteArray name = path.toUtf8();
+    const int file = Uninterrupted([&] { return open(name.constData(), O_RDONLY | O_CLOEXEC); });
+    const bool isSynced = file >= 0 && Uninterrupted([&] { return fsync(file); }) == 0;
     if (!isSynced)
         *reason = SystemReason(QLatin1String("cannot sync"), path);
     if (file >= 0)
@@ -100,10 +87,11 @@ bool Write(const QString& path, const QByteArray& content, QString* reason)
 {
     const QByteArray folder = QFileInfo(path).path().toUtf8();
     TUnfinishedCopy copy(folder);
-    const bool isWritten = copy.Descriptor() >= 0 && WriteAll(copy.Descriptor(), content);
+    const bool isWritten = copy.Descriptor() >= 0 &&
+                           WriteAll(copy.Descriptor(), content.constData(), static_cast<std::size_t>(content.size()));
     if (isWritten) // FAT has no permissions, which is no reason to fail
         static_cast<void>(fchmod(copy.Descriptor(), ReadableByAll));
-    if (isWritten && fsync(copy.Descriptor()) == 0 && copy.MoveTo(path.toUtf8(), true) && SyncFolder(folder))
+    if (isWritten && copy.Sync() && copy.MoveTo(path.toUtf8(), true) && SyncFolder(folder))
         return true;
     *reason = SystemReason(QLatin1String("cannot write"), path);
     return false;

@@ -1,5 +1,6 @@
 #include "stores/StoreHeader.h"
 
+#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
 #include "stores/StoreTable.h"
 
@@ -30,10 +31,11 @@ qint32 Number(const THeader& header, std::size_t at) { return qFromBigEndian<qin
 // Returns the number of bytes that were read; -1 with errno set when the file cannot be read.
 ssize_t ReadHeader(const QString& path, THeader* header)
 {
-    const int file = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const QByteArray name = path.toUtf8();
+    const int file = Uninterrupted([&] { return open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
     if (file < 0)
         return -1;
-    const ssize_t length = pread(file, header->data(), header->size(), 0);
+    const ssize_t length = Uninterrupted([&] { return pread(file, header->data(), header->size(), 0); });
     const int error = errno;
     close(file);
     errno = error;

@@ -1,5 +1,7 @@
 #include "stores/TStoreLock.h"
 
+#include "platform/Uninterrupted.h"
+
 #include <QList>
 #include <QThread>
 
@@ -34,14 +36,17 @@ TStoreLock::~TStoreLock()
 bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
 {
     for (;;) {
-        m_File = open(m_Path.toUtf8().constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+        const QByteArray path = m_Path.toUtf8();
+        m_File = Uninterrupted([&] {
+            return open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+        });
         if (m_File < 0) {
             *reason = DurableFiles::SystemReason(QLatin1String("cannot make"), m_Path);
             return false;
         }
         if (TryToTake())
             return true;
-        const bool isTaken = errno == EWOULDBLOCK || errno == EINTR;
+        const bool isTaken = errno == EWOULDBLOCK;
         if (!isTaken || deadline.hasExpired()) {
             *reason = isTaken
                           ? QString::fromLatin1("another program has locked %1 for longer than the timeout").arg(m_Path)
@@ -55,10 +60,16 @@ bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
 }
 
 // Returns false with errno set.
+bool TStoreLock::Lock(int kind) const
+{
+    return Uninterrupted([&] { return flock(m_File, kind | LOCK_NB); }) == 0;
+}
+
+// Returns false with errno set.
 bool TStoreLock::TryToTake()
 {
-    m_IsAlone = flock(m_File, LOCK_EX | LOCK_NB) == 0;
-    if (!m_IsAlone && (errno != EWOULDBLOCK || flock(m_File, LOCK_SH | LOCK_NB) != 0))
+    m_IsAlone = Lock(LOCK_EX);
+    if (!m_IsAlone && (errno != EWOULDBLOCK || !Lock(LOCK_SH)))
         return false;
     // The last holder may have removed the file before it was locked here. An exclusive holder may have ended between
     // the two attempts, before it had prepared the file for sharing. In both cases the caller tries again.
@@ -69,21 +80,21 @@ bool TStoreLock::TryToTake()
     }
     m_WasLeftBehind = m_IsAlone && !Note().isEmpty();
     const off_t remainder = m_WasLeftBehind ? 1 : 0; // seen when this program is killed too, and no complete note
-    return !m_IsAlone || ftruncate(m_File, remainder) == 0;
+    return !m_IsAlone || Uninterrupted([&] { return ftruncate(m_File, remainder); }) == 0;
 }
 
 bool TStoreLock::Share(const DurableFiles::tagIdentity& file, QString* reason)
 {
     const QByteArray note = QByteArray::number(static_cast<qulonglong>(file.device)) + Separator +
                             QByteArray::number(static_cast<qulonglong>(file.number)) + End;
-    if (pwrite(m_File, note.constData(), static_cast<size_t>(note.size()), 0) != note.size()) {
+    if (!WriteAllAt(m_File, note.constData(), static_cast<std::size_t>(note.size()), 0)) {
         *reason = DurableFiles::SystemReason(QLatin1String("cannot write"), m_Path);
         return false;
     }
     // flock() does not promise that the change is atomic: another process may have taken the lock exclusively.
     DurableFiles::tagIdentity noted;
     m_IsAlone = false;
-    if (flock(m_File, LOCK_SH | LOCK_NB) == 0 && IsStillThere() && FileInUse(&noted) && noted == file)
+    if (Lock(LOCK_SH) && IsStillThere() && FileInUse(&noted) && noted == file)
         return true;
     Drop();
     return false;
@@ -93,7 +104,7 @@ void TStoreLock::MarkChanged()
 {
     // Every holder writes the same bytes to the same place. Without the mark, the good copy is older than it could be.
     const int place = static_cast<int>(Note().indexOf(End)) + 1;
-    [[maybe_unused]] const ssize_t written = place > 0 ? pwrite(m_File, Mark, sizeof Mark - 1, place) : 0;
+    [[maybe_unused]] const bool isMarked = place > 0 && WriteAllAt(m_File, Mark, sizeof Mark - 1, place);
 }
 
 bool TStoreLock::IsMarkedChanged() const { return Note().endsWith(Mark); }
@@ -101,7 +112,8 @@ bool TStoreLock::IsMarkedChanged() const { return Note().endsWith(Mark); }
 QByteArray TStoreLock::Note() const
 {
     QByteArray note(128, '\0');
-    const ssize_t length = pread(m_File, note.data(), static_cast<size_t>(note.size()), 0);
+    const ssize_t length =
+        Uninterrupted([&] { return pread(m_File, note.data(), static_cast<std::size_t>(note.size()), 0); });
     note.truncate(static_cast<int>(std::max(length, ssize_t{0})));
     return note;
 }
@@ -125,7 +137,7 @@ bool TStoreLock::TakeAlone()
 {
     if (m_File >= 0) {
         flock(m_File, LOCK_UN);
-        m_IsAlone = flock(m_File, LOCK_EX | LOCK_NB) == 0 && IsStillThere();
+        m_IsAlone = Lock(LOCK_EX) && IsStillThere();
         if (!m_IsAlone)
             Drop();
     }

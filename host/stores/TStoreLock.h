@@ -51,6 +51,7 @@ public:
     bool TakeAlone();
 
 private:
+    bool Lock(int kind) const;
     bool TryToTake();
     bool IsStillThere() const;
     QByteArray Note() const;

@@ -67,8 +67,7 @@ bool TZipFile::Finish()
     if (!m_Reason.isEmpty() || !Check(archive_write_close(m_Archive)))
         return false;
     static_cast<void>(fchmod(m_File.Descriptor(), Permissions));
-    const bool isThere =
-        fsync(m_File.Descriptor()) == 0 && m_File.MoveTo(m_Path.toUtf8(), true) && SyncFolder(FolderOf(m_Path));
+    const bool isThere = m_File.Sync() && m_File.MoveTo(m_Path.toUtf8(), true) && SyncFolder(FolderOf(m_Path));
     return isThere || Fail();
 }
 
