@@ -108,12 +108,20 @@ tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
     return finding;
 }
 
-// The same for any file.
+// The same for any file. A drive that cannot be read once may be read the next time: only what is found twice is
+// damage, because the changes since the last good copy are lost with a file that is set aside.
 tagStoreFinding RecogniseAndConnect(const QString& path, const QDeadlineTimer& deadline,
                                     std::unique_ptr<TSqliteConnection>* connection, StoreTable::tagContent* content)
 {
-    tagStoreFinding finding = RecogniseStoreFile(path);
-    return finding.state == STORE_FILE_CLEAN ? Connect(path, deadline, connection, content) : finding;
+    tagStoreFinding finding;
+    for (int look = 0; look < 2; ++look) {
+        finding = RecogniseStoreFile(path);
+        if (finding.state == STORE_FILE_CLEAN)
+            finding = Connect(path, deadline, connection, content);
+        if (finding.state != STORE_FILE_DAMAGED && finding.state != STORE_FILE_FOREIGN)
+            break;
+    }
+    return finding;
 }
 
 bool IsOurs(EStoreFileState state) { return state == STORE_FILE_CLEAN || state == STORE_FILE_DAMAGED; }
