@@ -3,13 +3,11 @@
 #include "blocks/DataBlock.h"
 #include "serialization/TBinarySerializer.h"
 #include "stores/DurableFiles.h"
+#include "stores/DurableFolder.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <cerrno>
 
 namespace {
 
@@ -47,11 +45,8 @@ bool WorkFile::Write(const QString& path, const tagKind& kind, const QByteArray&
     old.close();
 
     const QString folder = QFileInfo(path).path();
-    errno = 0;
-    if (!QDir().mkpath(folder)) {
-        *error = DurableFiles::SystemReason(QLatin1String("cannot make the folder"), folder);
+    if (!MakeFolderDurably(folder, error))
         return false;
-    }
     QByteArray payload;
     QBuffer buffer(&payload);
     buffer.open(QIODevice::WriteOnly);

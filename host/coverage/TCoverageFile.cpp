@@ -3,6 +3,7 @@
 #include "blocks/DataBlock.h"
 #include "coverage/CoverageBlocks.h"
 #include "coverage/TCoverageWriter.h"
+#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
 
 #include <fcntl.h>
@@ -85,7 +86,9 @@ EReading TReading::TakeHeader()
     const bool isBlock = DataBlock::IsBlock(m_Bytes, 0, &version);
     if (isBlock && version != Version)
         return RefuseVersion(version);
-    if (size < likeThis.size() && likeThis.startsWith(m_Bytes.left(DataBlock::BytesBeforePayload))) {
+    const bool isCutOff = size < likeThis.size() && likeThis.startsWith(m_Bytes.left(DataBlock::BytesBeforePayload));
+    const bool isZeros = m_Bytes.count('\0') == size; // a power cut has left the length without the content
+    if (isCutOff || isZeros) {
         Lose(size); // the very first piece was not completed
         return READING_GOOD;
     }
@@ -144,10 +147,9 @@ bool ReadAll(int descriptor, QByteArray* bytes)
     bytes->resize(static_cast<int>(status.st_size));
     int at = 0;
     while (at < bytes->size()) {
+        const std::size_t left = static_cast<std::size_t>(bytes->size() - at);
         const ssize_t count =
-            pread(descriptor, bytes->data() + at, static_cast<std::size_t>(bytes->size() - at), static_cast<off_t>(at));
-        if (count < 0 && errno == EINTR)
-            continue;
+            Uninterrupted([&] { return pread(descriptor, bytes->data() + at, left, static_cast<off_t>(at)); });
         if (count < 0)
             return false;
         if (count == 0)
@@ -161,7 +163,7 @@ bool ReadAll(int descriptor, QByteArray* bytes)
 /// Reads the file, and cuts off what is not complete. Returns the number of good bytes; -1 with @p error.
 qint64 ReadAndCut(int descriptor, const QString& path, tagCoverage* found, QString* error)
 {
-    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    if (Uninterrupted([&] { return flock(descriptor, LOCK_EX | LOCK_NB); }) != 0 && errno == EWOULDBLOCK) {
         *error = QString::fromLatin1("another program has %1 open").arg(path);
         found->isHeld = true;
         return -1;
@@ -177,7 +179,8 @@ qint64 ReadAndCut(int descriptor, const QString& path, tagCoverage* found, QStri
         return -1;
     }
     const bool isCut = reading.GoodBytes() == bytes.size() ||
-                       (ftruncate(descriptor, reading.GoodBytes()) == 0 && fsync(descriptor) == 0);
+                       (Uninterrupted([&] { return ftruncate(descriptor, reading.GoodBytes()); }) == 0 &&
+                        Uninterrupted([&] { return fsync(descriptor); }) == 0);
     if (!isCut) {
         *error = DurableFiles::SystemReason(QLatin1String("cannot cut off the end of"), path);
         return -1;
@@ -191,7 +194,8 @@ std::unique_ptr<TCoverageFile> TCoverageFile::Open(const QString& path, tagCover
 {
     *found = tagCoverage();
     error->clear();
-    const int descriptor = open(path.toUtf8().constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
+    const QByteArray name = path.toUtf8();
+    const int descriptor = Uninterrupted([&] { return open(name.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK); });
     if (descriptor < 0 && errno != ENOENT) {
         *error = DurableFiles::SystemReason(QLatin1String("cannot open"), path);
         return nullptr;

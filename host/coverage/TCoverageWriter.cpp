@@ -1,9 +1,10 @@
 #include "coverage/TCoverageWriter.h"
 
 #include "platform/DurableCopy.h"
+#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
+#include "stores/DurableFolder.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QMutexLocker>
 
@@ -23,22 +24,6 @@ const mode_t ReadableByAll = 0644;
 constexpr int BytesOfStrip = 16;
 constexpr qint64 MillisecondsBeforeWrite = TCoverageFile::WriteSeconds * qint64(1000);
 constexpr int StripsBeforeWrite = TCoverageFile::BytesBeforeWrite / BytesOfStrip;
-
-bool WriteAt(int descriptor, const QByteArray& bytes, qint64 at)
-{
-    int written = 0;
-    while (written < bytes.size()) {
-        const ssize_t count =
-            pwrite(descriptor, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written),
-                   static_cast<off_t>(at + written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        written += static_cast<int>(count);
-    }
-    return true;
-}
 
 } // namespace
 
@@ -179,13 +164,15 @@ void TCoverageWriter::run()
 bool TCoverageWriter::Make(QString* reason)
 {
     const QString folder = QFileInfo(m_Path).path();
-    errno = 0;
-    if (!QDir().mkpath(folder)) {
-        *reason = DurableFiles::SystemReason(QLatin1String("cannot make the folder"), folder);
+    if (!MakeFolderDurably(folder, reason))
         return false;
-    }
-    const int descriptor = open(m_Path.toUtf8().constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, ReadableByAll);
-    if (descriptor < 0 || (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)) {
+    const QByteArray path = m_Path.toUtf8();
+    const int descriptor =
+        Uninterrupted([&] { return open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, ReadableByAll); });
+    const bool isLockedElsewhere = descriptor >= 0 &&
+                                   Uninterrupted([&] { return flock(descriptor, LOCK_EX | LOCK_NB); }) != 0 &&
+                                   errno == EWOULDBLOCK;
+    if (descriptor < 0 || isLockedElsewhere) {
         *reason = DurableFiles::SystemReason(QLatin1String("cannot make"), m_Path);
         if (descriptor >= 0)
             close(descriptor);
@@ -193,7 +180,6 @@ bool TCoverageWriter::Make(QString* reason)
     }
     m_Descriptor = descriptor;
     SyncFolder(folder.toUtf8());
-    SyncFolder(QFileInfo(folder).path().toUtf8());
     return true;
 }
 
@@ -205,7 +191,9 @@ qint64 TCoverageWriter::WritePieces(QString* reason)
     qint64 end = m_End;
     qint64 strips = 0;
     std::size_t count = 0;
-    while (count < m_Pieces.size() && WriteAt(m_Descriptor, m_Pieces[count].bytes, end)) {
+    while (count < m_Pieces.size() &&
+           WriteAllAt(m_Descriptor, m_Pieces[count].bytes.constData(),
+                      static_cast<std::size_t>(m_Pieces[count].bytes.size()), static_cast<off_t>(end))) {
         end += m_Pieces[count].bytes.size();
         strips += m_Pieces[count].strips;
         ++count;
@@ -213,11 +201,12 @@ qint64 TCoverageWriter::WritePieces(QString* reason)
     if (count < m_Pieces.size()) {
         *reason = DurableFiles::SystemReason(QLatin1String("cannot write"), m_Path);
         // The next try writes to the same place. If there is none, this spares the next opening a cut.
-        static_cast<void>(ftruncate(m_Descriptor, static_cast<off_t>(end)) == 0);
+        static_cast<void>(Uninterrupted([&] { return ftruncate(m_Descriptor, static_cast<off_t>(end)); }) == 0);
     }
     if (count == 0)
         return 0;
-    if (fsync(m_Descriptor) != 0) { // nobody knows what is on the disk now: all of it is written again
+    if (Uninterrupted([&] { return fsync(m_Descriptor); }) !=
+        0) { // nobody knows what is on the disk now: all of it is written again
         *reason = DurableFiles::SystemReason(QLatin1String("cannot sync"), m_Path);
         return 0;
     }

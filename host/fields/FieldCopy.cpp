@@ -6,7 +6,9 @@
 #include "parameters/ItemNames.h"
 #include "platform/DurableCopy.h"
 #include "platform/TUnfinishedCopy.h"
+#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
+#include "stores/DurableFolder.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -38,7 +40,8 @@ QByteArray Checksum(int file)
 
 QByteArray ChecksumOfFile(const QString& path)
 {
-    const TDescriptor file(open(path.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    const QByteArray name = path.toUtf8();
+    const TDescriptor file(Uninterrupted([&] { return open(name.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
     return file.IsOpen() ? Checksum(file.Get()) : QByteArray();
 }
 
@@ -194,7 +197,7 @@ bool TFieldCopy::CopyMissing(QString* error)
             folders.append(entry.path);
     }
     for (const QString& folder : folders) {
-        if (!FileTree::MakeFolder(m_To.Path(folder), error))
+        if (!MakeFolderDurably(m_To.Path(folder), error))
             return false;
         RemoveUnfinishedCopies(m_To.Path(folder).toUtf8());
     }
@@ -205,7 +208,8 @@ bool TFieldCopy::CopyMissing(QString* error)
 
 bool TFieldCopy::CopyFile(const QString& path, QString* error)
 {
-    const TDescriptor source(open(m_From.Path(path).toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    const QByteArray from = m_From.Path(path).toUtf8();
+    const TDescriptor source(Uninterrupted([&] { return open(from.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
     struct stat status = {};
     if (!source.IsOpen() || fstat(source.Get(), &status) != 0)
         return Fail("cannot read", path, error);
@@ -222,7 +226,7 @@ bool TFieldCopy::CopyFile(const QString& path, QString* error)
     if (copy.Descriptor() < 0 || !CopyContents(source.Get(), copy.Descriptor(), take))
         return Fail("cannot copy", path, error);
     TakeOver(status, copy.Descriptor());
-    if (fsync(copy.Descriptor()) != 0)
+    if (!copy.Sync())
         return Fail("cannot copy", path, error);
     if (ChecksumReadBack(copy.Descriptor()) != hash.result()) {
         *error =

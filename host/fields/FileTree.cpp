@@ -17,7 +17,6 @@ namespace Std = std::filesystem;
 using DurableFiles::SystemReason;
 
 const QLatin1Char Separator('/');
-const mode_t FolderMode = 0777; // less the umask
 
 Std::path Native(const QString& path) { return Std::path(path.toUtf8().constData()); }
 
@@ -118,21 +117,6 @@ bool FileTree::Exists(const QString& path)
 {
     struct stat status = {};
     return lstat(path.toUtf8().constData(), &status) == 0;
-}
-
-bool FileTree::MakeFolder(const QString& path, QString* reason)
-{
-    struct stat status = {};
-    if (stat(path.toUtf8().constData(), &status) == 0 && S_ISDIR(status.st_mode))
-        return true;
-    const QString parent = Parent(path);
-    if (parent != path && !MakeFolder(parent, reason))
-        return false;
-    if (mkdir(path.toUtf8().constData(), FolderMode) != 0 && errno != EEXIST) {
-        *reason = SystemReason(QLatin1String("cannot create"), path);
-        return false;
-    }
-    return Sync(parent, reason);
 }
 
 bool FileTree::Rename(const QString& source, const QString& target, QString* reason)

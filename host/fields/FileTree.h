@@ -32,9 +32,6 @@ QStringList Files(const QString& folder);
 bool IsFolder(const QString& path);
 bool Exists(const QString& path);
 
-/// Makes a folder and those above it, on the disk when this returns.
-bool MakeFolder(const QString& path, QString* reason);
-
 /// Renames a file or a folder; both folders are on the disk when this returns. False when @p target exists.
 bool Rename(const QString& source, const QString& target, QString* reason);
 

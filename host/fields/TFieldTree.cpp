@@ -10,6 +10,7 @@
 #include "fields/TFieldLock.h"
 #include "platform/TUnfinishedCopy.h"
 #include "stores/DurableFiles.h"
+#include "stores/DurableFolder.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -58,7 +59,7 @@ bool Enter(TParameterStore& store, tagWorkshop* workshop, QString* error)
     if (!FieldDrives::Find(FIELD_DRIVE_INTERNAL, &workshop->drive, error))
         return false;
     const QString clients = ClientsFolder(workshop->drive);
-    if (!FileTree::MakeFolder(clients, error))
+    if (!MakeFolderDurably(clients, error))
         return false;
     workshop->lock = std::make_unique<TFieldLock>(clients, TFieldLock::ALONE, PatienceMs);
     if (!workshop->lock->IsHeld()) {
@@ -138,7 +139,7 @@ EFieldResult TFieldTree::Add(const QStringList& path, QString* error)
     }
     if (!FieldDrives::HasPlaceFor(workshop.drive, path, QString(), error))
         return FIELD_FAILED;
-    return FileTree::MakeFolder(folder, error) ? FIELD_DONE : FIELD_FAILED;
+    return MakeFolderDurably(folder, error) ? FIELD_DONE : FIELD_FAILED;
 }
 
 EFieldResult TFieldTree::Rename(const QStringList& path, const QString& name, QString* error)

@@ -253,7 +253,7 @@ void FieldCopies::aReadOnlyStickIsSaid()
 {
     QVERIFY(m_Stick->MountAgain(MS_RDONLY, StickOptions));
     QCOMPARE(Copy("Smith"), FIELD_FAILED);
-    QCOMPARE(Error(), QString::fromLatin1("cannot create %1/Clients: Read-only file system")
+    QCOMPARE(Error(), QString::fromLatin1("cannot make the folder %1/Clients: Read-only file system")
                           .arg(m_Terminal->folder.Path(QLatin1String("usb"))));
 }
 
