@@ -1,6 +1,7 @@
 #include "terminal/TTerminal.h"
 
 #include "diagnostics/KeptLogs.h"
+#include "diagnostics/LogTimes.h"
 #include "diagnostics/TOneLineLogAccessor.h"
 #include "parameters/ItemNames.h"
 #include "platform/TLocalTime.h"
@@ -125,6 +126,8 @@ void TTerminal::PublishSettings(const QString& softwareVersion, const QString& c
     TSystemSettingsProxy().SetSoftwareVersion(softwareVersion);
     TSystemSettingsProxy().SetCFFRoot(clientRoot);
     Settings->Initialise();
+    OrderLogTimes(TSystemSettingsProxy().GetInternalUserLogPath());
+    OrderLogTimes(TSystemSettingsProxy().GetInternalNemaLogPath());
     Settings->Restore();
     for (const auto& selection : selections)
         m_Store.SetParameter(selection.first, selection.second, true);

@@ -80,6 +80,7 @@ private slots:
     void filesAreListedInTheirOrder();
     void theLogGoesOnInTheNewestFileOfTheList_data();
     void theLogGoesOnInTheNewestFileOfTheList();
+    void aClockThatWasSetBackDoesNotReorderTheLog();
     void anEmptyListIsNoFailure();
     void logsAreExported();
     void anExportThatFailsSaysSo_data();
@@ -495,7 +496,6 @@ void ConsoleLogs::theLogGoesOnInTheNewestFileOfTheList_data()
     QTest::addColumn<QStringList>("oldestFirst");
     const auto row = [](const char* name, const char* files) { QTest::newRow(name) << Words(files); };
     row("by number", "User00001.csv User00002.csv");
-    row("after the clock was set back", "User00002.csv User00001.csv");
     row("round the last number", "User99999.csv User00001.csv");
     row("without a number", "User00001.csv User-copy.csv");
     row("of another spelling", "user00009.csv User00009.CSV User00001.csv");
@@ -513,6 +513,18 @@ void ConsoleLogs::theLogGoesOnInTheNewestFileOfTheList()
     QCOMPARE(Run(console, "log add next").status, 0);
     QVERIFY(Contents(newest.value(Utf8("path")).toString()).endsWith(",next,\r\n"));
     QVERIFY(Run(console, "log tail user -n 1").output.endsWith(Utf8(",next,\n")));
+}
+
+// The second file was written after the first one, by a clock that had been set back.
+void ConsoleLogs::aClockThatWasSetBackDoesNotReorderTheLog()
+{
+    const TConsole console;
+    WriteAt(console, "User00002.csv", "a\r\n", 0);
+    WriteAt(console, "User00001.csv", "a\r\n", 1);
+    QCOMPARE(Run(console, "log add next").status, 0);
+    const QJsonObject newest = Array(Run(console, "log list user --json")).last().toObject();
+    QCOMPARE(newest.value(Utf8("file")).toString(), Utf8("User00002.csv"));
+    QVERIFY(Contents(newest.value(Utf8("path")).toString()).endsWith(",next,\r\n"));
 }
 
 void ConsoleLogs::anEmptyListIsNoFailure()
