@@ -6,6 +6,7 @@
 #include "console/terminal/Session.h"
 
 #include "diagnostics/UserLogEntries.h"
+#include "fields/TOpenDrive.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 
@@ -47,10 +48,12 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
 }
 
 /// Copies one log, and reports it as a line or in @p array. False, after a message, when not every file could be
-/// copied.
+/// copied. Files that were copied after a stick was pulled are not in its empty mount point.
 bool ExportOne(TDiagnosticLogProxy& log, const char* name, const char* title, const QString& target, QJsonArray* array)
 {
-    const TDiagnosticLog::tagExportResult result = log.Export(target);
+    const TOpenDrive drive(target);
+    TDiagnosticLog::tagExportResult result = log.Export(drive.Path(QLatin1String(".")));
+    result.allCopied = result.allCopied && drive.IsThere();
     if (array) {
         array->append(QJsonObject{{QLatin1String("log"), QLatin1String(name)},
                                   {QLatin1String("files"), result.filesFound},
