@@ -1,0 +1,197 @@
+#include "DiskRecord.h"
+#include "FaultResults.h"
+#include "FileCalls.h"
+#include "Operations.h"
+#include "TSilence.h"
+#include "TTemporaryFolder.h"
+#include "TestLength.h"
+#include "TestSeed.h"
+
+#include <QtTest>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+#include <numeric>
+#include <random>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace FileCalls;
+
+constexpr unsigned Names = CALL_RENAME | CALL_REMOVE | CALL_FOLDER;
+constexpr unsigned Changes = CALL_MAKE | CALL_ALTER | CALL_WRITE | CALL_CUT | CALL_SYNC | Names;
+constexpr unsigned AllCalls = Changes | CALL_OPEN | CALL_READ | CALL_LIST | CALL_LOCK;
+constexpr unsigned Interruptible = CALL_OPEN | CALL_MAKE | CALL_ALTER | CALL_READ | CALL_WRITE | CALL_CUT | CALL_LOCK;
+
+constexpr tagFault Faults[] = {
+    {"input or output fails once", STOP_ERROR, EIO, AllCalls},
+    {"input and output fail from then on", STOP_ERROR_ON, EIO, AllCalls},
+    {"no room from then on", STOP_ERROR_ON, ENOSPC, CALL_MAKE | CALL_WRITE | CALL_CUT | CALL_SYNC | CALL_FOLDER},
+    {"no room in the middle of a write", STOP_SHORT_FULL, ENOSPC, CALL_WRITE},
+    {"no access once", STOP_ERROR, EACCES, CALL_OPEN | CALL_MAKE | CALL_ALTER | CALL_LIST | Names},
+    {"read-only from then on", STOP_ERROR_ON, EROFS, Changes},
+    {"interrupted by a signal", STOP_ERROR, EINTR, Interruptible | CALL_SYNC},
+    {"a part is written", STOP_SHORT, 0, CALL_WRITE},
+    {"killed", STOP_KILL, 0, Changes},
+};
+
+/// What the caller must not notice: the call is to be made again, or to be made for the rest.
+bool IsInvisible(const tagFault& fault) { return fault.error == EINTR || fault.stop == STOP_SHORT; }
+
+/// Points tried in a run of usual length: of an operation of usual cost, and at least.
+constexpr int UsualPoints = 14;
+constexpr int LeastPoints = 3;
+
+// A sanitizer makes each run several times as slow.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int Slowness = 4;
+#else
+constexpr int Slowness = 1;
+#endif
+
+/// The calls at which an operation is stopped that makes @p calls: all, or the first and some others.
+std::vector<int> Points(int calls, int most, std::mt19937& random)
+{
+    std::vector<int> points(static_cast<std::size_t>(calls));
+    std::iota(points.begin(), points.end(), 1);
+    if (TestLength() > 1 || calls <= most)
+        return points;
+    std::shuffle(points.begin() + 1, points.end(), random);
+    points.resize(static_cast<std::size_t>(most));
+    std::sort(points.begin(), points.end());
+    return points;
+}
+
+} // namespace
+
+/// Every file operation of the host is stopped at its first, second, third... call to the system, in every way in which
+/// files fail. Each row tries some of these points; all of them with CABSETTINGS_TEST_LENGTH=2.
+class FailingFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void nothingIsLostAtAnyCall_data();
+    void nothingIsLostAtAnyCall();
+
+private:
+    tagAftermath Stop(const tagOperation& operation, const tagFault& fault, int nth, bool* isReached);
+    bool RunInChild(const tagOperation& operation, const tagFault& fault, int nth);
+
+    const std::vector<tagOperation> m_Operations = AllOperations();
+    TPromises m_Promises;
+    std::unique_ptr<TTemporaryFolder> m_Folder;
+    QString m_Room;
+};
+
+void FailingFiles::initTestCase()
+{
+    if (QFileInfo(QLatin1String("/dev/shm")).isWritable()) // thousands of files are synced
+        qputenv("TMPDIR", "/dev/shm");
+    m_Folder = std::make_unique<TTemporaryFolder>();
+    m_Room = m_Folder->Path(QLatin1String("room"));
+}
+
+void FailingFiles::nothingIsLostAtAnyCall_data()
+{
+    QTest::addColumn<int>("operation");
+    QTest::addColumn<int>("fault");
+    for (int operation = 0; operation < static_cast<int>(m_Operations.size()); ++operation) {
+        for (int fault = 0; fault < static_cast<int>(std::size(Faults)); ++fault)
+            QTest::addRow("%s: %s", m_Operations[static_cast<std::size_t>(operation)].name, Faults[fault].name)
+                << operation << fault;
+    }
+}
+
+/// In a process of its own, since it is killed.
+bool FailingFiles::RunInChild(const tagOperation& operation, const tagFault& fault, int nth)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        const bool isDone = operation.run(
+            m_Room, [&] { Arm(fault, nth); }, m_Promises);
+        _exit(isDone ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    int status = 0;
+    if (child < 0 || waitpid(child, &status, 0) != child)
+        qFatal("no child");
+    return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+}
+
+tagAftermath FailingFiles::Stop(const tagOperation& operation, const tagFault& fault, int nth, bool* isReached)
+{
+    m_Promises.Begin();
+    bool isDone = false;
+    if (fault.stop == STOP_KILL) {
+        isDone = RunInChild(operation, fault, nth);
+        *isReached = !isDone;
+    } else {
+        isDone = operation.run(
+            m_Room, [&] { Arm(fault, nth); }, m_Promises);
+        *isReached = Disarm();
+    }
+    return {INTERRUPTION_OF_PROGRAM, m_Promises.All(), isDone, Refused(CALL_LIST | CALL_REMOVE)};
+}
+
+void FailingFiles::nothingIsLostAtAnyCall()
+{
+    QFETCH(int, operation);
+    QFETCH(int, fault);
+    const tagOperation& tried = m_Operations[static_cast<std::size_t>(operation)];
+    tagFault stopped = Faults[fault];
+    if (tried.isOfDatabase && stopped.error == EINTR)
+        stopped.calls &= ~unsigned{CALL_SYNC};
+    const TSilence silence;
+    const std::string room = QFile::encodeName(m_Room).toStdString();
+    WriteFolder(room, {});
+    tried.prepare(m_Room);
+    const TFolderContent before = ReadFolder(room);
+    Watch(QFile::encodeName(m_Room));
+
+    m_Promises.Begin();
+    QVERIFY(tried.run(
+        m_Room,
+        [&] {
+            Arm({"", STOP_ERROR, 0, stopped.calls}, INT_MAX);
+        },
+        m_Promises));
+    const int calls = Counted();
+    Disarm();
+    std::mt19937 random(TestSeed() + static_cast<unsigned>(operation * 100 + fault));
+    const std::vector<int> points = Points(calls, std::max(UsualPoints / tried.cost / Slowness, LeastPoints), random);
+
+    tagFaultResult result = {"FailingFiles", tried.name, stopped.name};
+    for (const int nth : points) {
+        WriteFolder(room, before);
+        bool isReached = false;
+        const tagAftermath after = Stop(tried, stopped, nth, &isReached);
+        QByteArray broken = tried.broken(m_Room, after);
+        if (broken.isEmpty() && IsInvisible(stopped) && !after.isDone)
+            broken = "the caller is told of what is to be repeated";
+        result.points += isReached ? 1 : 0;
+        result.done += isReached && after.isDone ? 1 : 0;
+        result.broken += broken.isEmpty() ? 0 : 1;
+        if (!broken.isEmpty())
+            QTest::qFail(
+                ("call " + QByteArray::number(nth) + " of " + QByteArray::number(calls) + ": " + broken).constData(),
+                __FILE__, __LINE__);
+    }
+    Ignore();
+    result.Append();
+}
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    FailingFiles test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "FailingFiles.moc"
