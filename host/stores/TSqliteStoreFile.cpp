@@ -115,10 +115,13 @@ tagStoreFinding RecogniseAndConnect(const QString& path, const QDeadlineTimer& d
 {
     tagStoreFinding finding;
     for (int look = 0; look < 2; ++look) {
+        connection->reset();
         finding = RecogniseStoreFile(path);
         if (finding.state == STORE_FILE_CLEAN)
             finding = Connect(path, deadline, connection, content);
-        if (finding.state != STORE_FILE_DAMAGED && finding.state != STORE_FILE_FOREIGN)
+        const bool isDamaged = finding.state == STORE_FILE_DAMAGED || finding.state == STORE_FILE_FOREIGN ||
+                               (finding.state == STORE_FILE_CLEAN && !content->journalDamage.isEmpty());
+        if (!isDamaged)
             break;
     }
     return finding;
