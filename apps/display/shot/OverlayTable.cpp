@@ -13,6 +13,15 @@
 
 #include <algorithm>
 
+namespace {
+
+/// A restart is needed for a language other than that of the start. Each has its other, so that a second change brings
+/// the first language back, and nothing has to be kept meanwhile.
+static_assert(LANGUAGE_ENGLISH == 0 && LANGUAGE_SLOVENIAN % 2 == 1, "the languages are pairs");
+int OtherLanguage(int language) { return language % 2 == 0 ? language + 1 : language - 1; }
+
+} // namespace
+
 void OverlayChanges::SetServer(TSqliteStore& store, bool isThere)
 {
     store.SetParameter(PARAM_RECEIVER_ADDRESS,
@@ -38,13 +47,9 @@ void OverlayChanges::SetLongProblem(TSqliteStore& /*store*/, bool isThere)
                                                  "no space left on device"));
 }
 
-void OverlayChanges::SetNewLanguage(TSqliteStore& store, bool isThere)
+void OverlayChanges::SetNewLanguage(TSqliteStore& store, bool /*isThere*/)
 {
-    static int before = LANGUAGE_ENGLISH;
-    if (isThere)
-        before = store.GetParameter(PARAM_LANGUAGE).toInt();
-    const int other = before == LANGUAGE_GERMAN ? LANGUAGE_FRENCH : LANGUAGE_GERMAN;
-    store.SetParameter(PARAM_LANGUAGE, isThere ? other : before, true);
+    store.SetParameter(PARAM_LANGUAGE, OtherLanguage(store.GetParameter(PARAM_LANGUAGE).toInt()), true);
 }
 
 /// As many messages as the display ever shows above a page.

@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::size_t Blocks = 8;
 
-/// Student's distribution of as many blocks, less two for the line, has 0.00001 beyond it.
+/// In standard errors, which have no unit. Student's distribution of as many blocks, less two for the line, has 0.00001
+/// beyond it.
 constexpr double NoiseAllowed = 12;
 
 std::vector<double> BlockMeans(const std::vector<double>& samples)

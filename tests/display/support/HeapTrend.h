@@ -12,8 +12,8 @@ std::size_t BytesInUse();
 
 struct tagTrend
 {
-    double growth; ///< from the first sample to the last one, along the line
-    double noise;  ///< the standard error of the growth
+    double growth; ///< from the first sample to the last one, along the line; in the unit of the samples
+    double noise;  ///< the standard error of the growth, in the same unit: bytes of samples in bytes
 };
 
 /// The line through the samples, which were taken at equal distances. Neighbours that depend on each other, such as
