@@ -5,12 +5,19 @@
 #include "guidance/GuidanceLine.h"
 #include "nmea/NmeaAddress.h"
 #include "parameters/ItemNames.h"
+#include "platform/EParamID.h"
 #include "profiles/TProfile.h"
+#include "stores/TSqliteStore.h"
 #include "texts/HostText.h"
 #include "texts/HostTextRows.h"
 
 #include <QDirIterator>
 #include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QtTest>
 
 #include <cerrno>
@@ -36,6 +43,10 @@ private slots:
     void namesThatAreRefused();
     void reasonsOfTheSystem_data();
     void reasonsOfTheSystem();
+    void reasonsOfConnections();
+    void reasonsOfTheDatabase_data();
+    void reasonsOfTheDatabase();
+    void aStoreThatAnotherProgramHolds();
     void addressesThatAreRefused_data();
     void addressesThatAreRefused();
     void profilesThatAreRefused_data();
@@ -49,6 +60,8 @@ private:
 };
 
 namespace {
+
+const int Patience = 30000; ///< milliseconds
 
 const QRegularExpression& Marker()
 {
@@ -80,6 +93,34 @@ QString HostLiterals()
     all.remove(QRegularExpression(Text("\"\\s*\n\\s*\"")));
     return all.replace(Text("\\\""), Text("\""));
 }
+
+/// A connection to an SQLite file.
+class TDatabase
+{
+public:
+    explicit TDatabase(const QString& path)
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), Name());
+        database.setDatabaseName(path);
+        database.open();
+    }
+
+    ~TDatabase() { QSqlDatabase::removeDatabase(Name()); }
+
+    TDatabase(const TDatabase&) = delete;
+    TDatabase& operator=(const TDatabase&) = delete;
+
+    /// Runs a statement. Empty, or why it has failed.
+    QString Run(const QString& statement) const
+    {
+        QSqlQuery query(QSqlDatabase::database(Name()));
+        query.exec(statement);
+        return query.lastError().databaseText();
+    }
+
+private:
+    static QString Name() { return QStringLiteral("sentences"); }
+};
 
 void AddRefusals(std::initializer_list<const char*> texts)
 {
@@ -207,6 +248,65 @@ void HostSentences::reasonsOfTheSystem()
 {
     QFETCH(int, number);
     QCOMPARE(Problem(Text("cannot read /data/a: ") + Text(strerrordesc_np(number))), QString());
+}
+
+/// Another Qt may say them in other words.
+void HostSentences::reasonsOfConnections()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    QTcpSocket client;
+    client.connectToHost(server.serverAddress(), server.serverPort());
+    QVERIFY(server.waitForNewConnection(Patience));
+    QVERIFY(client.waitForConnected(Patience));
+    delete server.nextPendingConnection();
+    QVERIFY(client.state() == QAbstractSocket::UnconnectedState || client.waitForDisconnected(Patience));
+    QCOMPARE(client.error(), QAbstractSocket::RemoteHostClosedError);
+    QCOMPARE(Problem(client.errorString()), QString());
+
+    const quint16 port = server.serverPort();
+    server.close();
+    client.connectToHost(QHostAddress(QHostAddress::LocalHost), port);
+    QVERIFY(!client.waitForConnected(Patience));
+    QCOMPARE(client.error(), QAbstractSocket::ConnectionRefusedError);
+    QCOMPARE(Problem(client.errorString()), QString());
+}
+
+void HostSentences::reasonsOfTheDatabase_data()
+{
+    QTest::addColumn<QString>("prepare");
+    QTest::addColumn<QString>("fail");
+    QTest::newRow("full") << Text("PRAGMA max_page_count = 4") << Text("INSERT INTO a VALUES (zeroblob(100000))");
+    QTest::newRow("read only") << Text("PRAGMA query_only = 1") << Text("INSERT INTO a VALUES (1)");
+}
+
+/// Another SQLite may say them in other words.
+void HostSentences::reasonsOfTheDatabase()
+{
+    QFETCH(QString, prepare);
+    QFETCH(QString, fail);
+    const TTemporaryFolder folder;
+    const TDatabase database(folder.Path(Text("a.db")));
+    QCOMPARE(database.Run(Text("CREATE TABLE a (b)")), QString());
+    QCOMPARE(database.Run(prepare), QString());
+    const QString reason = database.Run(fail);
+    QVERIFY(!reason.isEmpty());
+    QCOMPARE(Problem(reason), QString());
+}
+
+void HostSentences::aStoreThatAnotherProgramHolds()
+{
+    const TTemporaryFolder folder;
+    const QString path = folder.Path(Text("settings.db"));
+    const int patience = 50;
+    QString error;
+    const auto store = TSqliteStore::Open(path, &error, patience);
+    QVERIFY2(store, qPrintable(error));
+    const TDatabase other(path);
+    QCOMPARE(other.Run(Text("BEGIN IMMEDIATE")), QString());
+    store->SetParameter(PARAM_METRIC, !store->GetParameter(PARAM_METRIC).toBool(), true);
+    QCOMPARE(Problem(store->WriteFailure()), QString());
+    QCOMPARE(other.Run(Text("ROLLBACK")), QString());
 }
 
 void HostSentences::addressesThatAreRefused_data()
