@@ -17,13 +17,10 @@ private slots:
 
 namespace {
 
-const double LeastContrast = 4.5;
 const double LeastContrastOfFigures = 7;
 
 /// Letters of this size are figures that are read at a glance.
 const int FigureSize = 48;
-
-const double MostLuminanceAtNight = 0.08;
 
 /// As many positions as the tractor takes for the first passes, and the part of the picture that they fill at least.
 const int PositionsOfPasses = 6000;
@@ -72,7 +69,7 @@ void PageColors::textsCanBeRead()
                 continue;
             const bool isFigure = isDay && VisibleItems::ShownSize(*text) >= FigureSize;
             const double contrast = PictureLight::Contrast(picture, place);
-            if (contrast < (isFigure ? LeastContrastOfFigures : LeastContrast))
+            if (contrast < (isFigure ? LeastContrastOfFigures : PictureLight::LeastContrast))
                 found.append(view + QLatin1String(": ") + VisibleItems::Describe(*text) +
                              QString::fromLatin1(" has a contrast of %1").arg(contrast));
         }
@@ -99,7 +96,7 @@ void PageColors::theNightIsDark()
         QVERIFY2(!PictureLight::HasWhite(picture), qPrintable(view));
         const double mean = PictureLight::MeanLuminance(picture);
         qDebug("%s: mean luminance %.4f", qPrintable(view), mean);
-        QVERIFY2(mean < MostLuminanceAtNight, qPrintable(view + QString::fromLatin1(": %1").arg(mean)));
+        QVERIFY2(mean < PictureLight::MostLuminanceAtNight, qPrintable(view + QString::fromLatin1(": %1").arg(mean)));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "support/CutOffTexts.h"
+#include "support/RunInLanguage.h"
 #include "support/TOpenDisplay.h"
 
-#include <QGuiApplication>
 #include <QtTest>
 
 /// All texts of all pages can be read in a language: none is elided, cut off or outside of the screen. The language is
@@ -38,12 +38,6 @@ void PageLanguages::noneIsCutOff()
     QVERIFY2(found.isEmpty(), qPrintable(found.join(QLatin1Char('\n'))));
 }
 
-int main(int argc, char** argv)
-{
-    const QGuiApplication application(argc, argv);
-    QStringList arguments = QCoreApplication::arguments();
-    PageLanguages test(arguments.size() > 1 ? arguments.takeAt(1) : QString());
-    return QTest::qExec(&test, arguments);
-}
+int main(int argc, char** argv) { return RunInLanguage<PageLanguages>(argc, argv); }
 
 #include "PageLanguages.moc"

@@ -1,8 +1,7 @@
 #include "display/keyboard/TScreenKeyboard.h"
 
 #include "display/keyboard/ScreenKeyboard.h"
-
-#include "region/TRegionSettingsProxy.h"
+#include "display/language/DisplayLanguage.h"
 
 #include <QtQml>
 
@@ -16,6 +15,5 @@ bool TScreenKeyboard::IsChosen() const { return ScreenKeyboard::IsChosen(); }
 
 QStringList TScreenKeyboard::locales(const QStringList& available) const
 {
-    const QString language = TRegionSettingsProxy().GetLanguageExtension().mid(1); // without its underscore
-    return ScreenKeyboard::LocalesFor(language, available);
+    return ScreenKeyboard::LocalesFor(DisplayLanguage(), available);
 }

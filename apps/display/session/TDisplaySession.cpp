@@ -4,12 +4,12 @@
 #include "display/fonts/DisplayFont.h"
 #include "display/icons/TIconProvider.h"
 #include "display/keyboard/ScreenKeyboard.h"
+#include "display/language/DisplayLanguage.h"
 #include "display/shot/PageTable.h"
 
 #include "module/CabQuick.h"
 #include "parameters/HostParameters.h"
 #include "parameters/TParameterCatalogue.h"
-#include "region/TRegionSettings.h"
 #include "stores/TChangeAuthor.h"
 #include "stores/TSqliteStore.h"
 #include "terminal/DataFolder.h"
@@ -73,7 +73,7 @@ bool TDisplaySession::Start(const tagDisplayOptions& options, QString* error, in
     if (!m_Terminal->Start(options.dataFolder, error, {QLatin1String(CABSETTINGS_VERSION)}))
         return false;
     CabQuick::Publish(*m_Store, options.dataFolder);
-    InstallDisplayFont(TRegionSettings().GetLanguageExtension().mid(1)); // without its underscore
+    InstallDisplayFont(DisplayLanguage());
     RegisterDisplayTypes();
     const QString fonts = QCoreApplication::translate("Display", "The fonts of the display");
     CabQuick::AddToAbout(QStringLiteral("B612, Noto Sans"), QString(), QStringLiteral("OFL-1.1"), fonts);

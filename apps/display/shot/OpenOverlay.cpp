@@ -1,7 +1,5 @@
 #include "display/shot/OpenOverlay.h"
 
-#include "display/shot/PageTable.h"
-
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -60,19 +58,18 @@ void Type(QQuickWindow& window, const QString& text)
     }
 }
 
-void Open(const QQuickWindow& window, const char* door, const char* section)
+} // namespace
+
+void OpenPage(const QQuickWindow& window, const tagPage& page)
 {
     QMetaObject::invokeMethod(window.findChild<QQuickItem*>(QStringLiteral("display")), "open",
-                              Q_ARG(QVariant, QString::fromLatin1(door)),
-                              Q_ARG(QVariant, QString::fromLatin1(section)));
+                              Q_ARG(QVariant, QString::fromLatin1(page.door)),
+                              Q_ARG(QVariant, QString::fromLatin1(page.section)));
 }
-
-} // namespace
 
 bool OpenOverlay(QQuickWindow& window, TSqliteStore& store, const tagOverlay& overlay, QString* error)
 {
-    const tagPage* const page = FindPage(QLatin1String(overlay.page));
-    Open(window, page->door, page->section);
+    OpenPage(window, *FindPage(QLatin1String(overlay.page)));
     if (overlay.change)
         overlay.change(store, true);
     for (const char* const name : overlay.presses) {
@@ -97,5 +94,5 @@ void CloseOverlay(QQuickWindow& window, TSqliteStore& store, const tagOverlay& o
         QMetaObject::invokeMethod(item, "close");
     if (overlay.change)
         overlay.change(store, false);
-    Open(window, "work", "");
+    OpenPage(window, *FindPage(QStringLiteral("work")));
 }

@@ -1,10 +1,14 @@
 #pragma once
 
 #include "display/shot/OverlayTable.h"
+#include "display/shot/PageTable.h"
 
 #include <QString>
 
 class QQuickWindow;
+
+/// Goes to a page.
+void OpenPage(const QQuickWindow& window, const tagPage& page);
 
 /// Opens an overlay over its page as the operator would: goes to the page, presses the buttons, types the keys. Waits
 /// until it is there.

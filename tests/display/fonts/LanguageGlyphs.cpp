@@ -1,9 +1,9 @@
 #include "../../translations/TCatalogue.h"
+#include "../support/RunInLanguage.h"
 
 #include "display/fonts/DisplayFont.h"
 
 #include <QGlyphRun>
-#include <QGuiApplication>
 #include <QRawFont>
 #include <QTextLayout>
 #include <QtTest>
@@ -131,12 +131,6 @@ void LanguageGlyphs::signsOfChinaAndJapanAreTheirOwn()
     QCOMPARE(Family(runs.first()), QLatin1String(isChinese ? "Noto Sans CJK SC" : "Noto Sans CJK JP"));
 }
 
-int main(int argc, char** argv)
-{
-    const QGuiApplication application(argc, argv);
-    QStringList arguments = QCoreApplication::arguments();
-    LanguageGlyphs test(arguments.size() > 1 ? arguments.takeAt(1) : QString());
-    return QTest::qExec(&test, arguments);
-}
+int main(int argc, char** argv) { return RunInLanguage<LanguageGlyphs>(argc, argv); }
 
 #include "LanguageGlyphs.moc"

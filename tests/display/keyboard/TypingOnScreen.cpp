@@ -37,9 +37,6 @@ private slots:
 
 namespace {
 
-const double MostLuminanceAtNight = 0.08;
-const double LeastContrast = 4.5;
-
 QString Text(const char* text) { return QLatin1String(text); }
 
 const QSize Small(800, 480);
@@ -294,12 +291,13 @@ void TypingOnScreen::theNightStaysDark()
     QVERIFY(!PictureLight::HasWhite(picture));
     const double mean = PictureLight::MeanLuminance(picture);
     qDebug("mean luminance %.4f", mean);
-    QVERIFY2(mean < MostLuminanceAtNight, qPrintable(QString::number(mean)));
+    QVERIFY2(mean < PictureLight::MostLuminanceAtNight, qPrintable(QString::number(mean)));
     for (const QQuickItem* key : ScreenKeys::Keys(display.Content())) {
         if (key == ScreenKeys::KeyOfType(display.Content(), "SpaceKey"))
             continue;
         const QRect face = ScreenKeys::Place(*key).toAlignedRect() & picture.rect();
-        QVERIFY2(PictureLight::Contrast(picture, face) >= LeastContrast, qPrintable(VisibleItems::Describe(*key)));
+        QVERIFY2(PictureLight::Contrast(picture, face) >= PictureLight::LeastContrast,
+                 qPrintable(VisibleItems::Describe(*key)));
     }
     QCOMPARE(display.Warnings(), QStringList());
 }

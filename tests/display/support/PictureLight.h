@@ -7,6 +7,9 @@
 /// What the eye gets from a picture of the display.
 namespace PictureLight {
 
+constexpr double LeastContrast = 4.5;         ///< of a text on its ground
+constexpr double MostLuminanceAtNight = 0.08; ///< the mean of a page
+
 /// The mean luminance of its pixels, 0 (black) to 1 (white), of linear light as sRGB defines it.
 double MeanLuminance(const QImage& picture);
 

@@ -145,9 +145,7 @@ void TOpenDisplay::ShowPage(const QString& page)
 {
     const tagPage* const row = FindPage(page);
     QVERIFY(row);
-    QObject* const display = m_State->Window()->findChild<QObject*>(QLatin1String("display"));
-    QMetaObject::invokeMethod(display, "open", Q_ARG(QVariant, QString::fromLatin1(row->door)),
-                              Q_ARG(QVariant, QString::fromLatin1(row->section)));
+    OpenPage(Window(), *row);
     Settle();
 }
 
