@@ -54,8 +54,8 @@ void ShowFailed(bool isThere, const QString& error)
 
 TProfile ProfileOf(TSqliteStore& store) { return TProfile::Of(store, ProfileGroups::All(), QStringLiteral("1")); }
 
-/// Writes a profile of another terminal into a folder. The first setting of the two is changed here, too, so that it is
-/// in conflict with the profile.
+/// Writes a profile of another terminal into a folder. The backlight is taken from that terminal first, and changed on
+/// both sides since, so it is in conflict; the other differences are changes.
 /// @return the path of the profile.
 QString WriteProfile(TSqliteStore& store, const QTemporaryDir& folder)
 {
