@@ -58,6 +58,13 @@ constexpr int Slowness = 4;
 constexpr int Slowness = 1;
 #endif
 
+// With the thread sanitizer, the child of a program that has threads, as every test has, may not start any.
+#if defined(__SANITIZE_THREAD__)
+constexpr bool CanKill = false;
+#else
+constexpr bool CanKill = true;
+#endif
+
 /// The calls at which an operation is stopped that makes @p calls: all, or the first and some others.
 std::vector<int> Points(int calls, int most, std::mt19937& random)
 {
@@ -112,9 +119,12 @@ void FailingFiles::nothingIsLostAtAnyCall_data()
     QTest::addColumn<int>("operation");
     QTest::addColumn<int>("fault");
     for (int operation = 0; operation < static_cast<int>(m_Operations.size()); ++operation) {
-        for (int fault = 0; fault < static_cast<int>(std::size(Faults)); ++fault)
+        for (int fault = 0; fault < static_cast<int>(std::size(Faults)); ++fault) {
+            if (Faults[fault].stop == STOP_KILL && !CanKill)
+                continue;
             QTest::addRow("%s: %s", m_Operations[static_cast<std::size_t>(operation)].name, Faults[fault].name)
                 << operation << fault;
+        }
     }
 }
 
@@ -178,6 +188,10 @@ void FailingFiles::nothingIsLostAtAnyCall()
         m_Promises));
     const int calls = Counted();
     Disarm();
+    if (stopped.stop == STOP_KILL) { // a child that is not killed does it too
+        WriteFolder(room, before);
+        QVERIFY(RunInChild(tried, stopped, INT_MAX));
+    }
     std::mt19937 random(TestSeed() + static_cast<unsigned>(operation * 100 + fault));
     const std::vector<int> points = Points(calls, std::max(UsualPoints / tried.cost / Slowness, LeastPoints), random);
 
