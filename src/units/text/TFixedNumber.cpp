@@ -2,6 +2,7 @@
 
 #include "platform/QtCompat.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -15,8 +16,9 @@ namespace {
 using std::uint32_t;
 using std::uint64_t;
 
-const int StandardDecimals = 6; // of the number formatter, where no number of decimals is given
-const int StoredBits = 52;      // of the 53; the first is always set
+const int StandardDecimals = 6;       // of the number formatter, where no number of decimals is given
+const int GreatestDecimals = 1000000; // a double has at most 1074 that are not zero
+const int StoredBits = 52;            // of the 53; the first is always set
 const int ExponentOfUnit = 1075;
 const int FractionBits = 60;
 const uint64_t SignBit = 1ULL << 63;
@@ -104,7 +106,8 @@ TFixedNumber::TFixedNumber(double value, int decimals)
     const bool isCounted = decimals >= 0 && decimals <= MostDecimals;
     if (!QtCompat::RoundsTiesAwayFromZero || !isCounted || !IsOfEverydaySize(magnitude, decimals)) {
         // Qt 4.8 reads -2 as 4,294,967,294 decimals. Qt 5 reads -128 as a code for the shortest text.
-        m_Other = QString::number(value, 'f', decimals < 0 ? StandardDecimals : decimals);
+        // With some 2^30 decimals and more, Qt runs out of the length of its texts and aborts.
+        m_Other = QString::number(value, 'f', decimals < 0 ? StandardDecimals : std::min(decimals, GreatestDecimals));
         m_Begin = m_Other.constData();
         m_End = m_Begin + m_Other.size();
         return;

@@ -4,7 +4,7 @@
 #include <QStringBuilder>
 
 /// A number in fixed notation, with exactly the digits of QString::number(value, 'f', decimals). A negative number of
-/// decimals stands for 6.
+/// decimals stands for 6, one above a million for a million.
 ///
 /// It is joined with other texts by %. The sum is allocated once; a number of everyday size is not allocated at all.
 class TFixedNumber
