@@ -3,9 +3,13 @@
 #include <QGeoCoordinate>
 #include <QLocale>
 
+#include <cmath>
+#include <limits>
+
 namespace {
 
 const int FirstYear = 2000;
+const double FullCircle = 360;
 
 /// QtPositioning reads a leap second, and a time of day that does not exist, as midnight of the same date, which is
 /// wrong.
@@ -14,9 +18,12 @@ bool CarriesTime(const QByteArray& line, const QDateTime& utc)
     return line.split(',').value(1).startsWith(QLocale::c().toString(utc.time(), QLatin1String("HHmmss")).toLatin1());
 }
 
-double AttributeOf(const QGeoPositionInfo& info, QGeoPositionInfo::Attribute attribute)
+/// The attribute from 0 to @p greatest. NaN when it is missing, and for any other number, which QtPositioning passes
+/// on.
+double AttributeOf(const QGeoPositionInfo& info, QGeoPositionInfo::Attribute attribute, double greatest)
 {
-    return info.hasAttribute(attribute) ? info.attribute(attribute) : std::numeric_limits<double>::quiet_NaN();
+    const double value = info.hasAttribute(attribute) ? info.attribute(attribute) : -1;
+    return value >= 0 && value <= greatest ? value : std::numeric_limits<double>::quiet_NaN();
 }
 
 } // namespace
@@ -58,12 +65,12 @@ void TFixTracker::TakePosition(const tagReading& reading)
     if (reading.HasPosition()) {
         m_Status.latitude = info.coordinate().latitude();
         m_Status.longitude = info.coordinate().longitude();
-        if (info.coordinate().type() == QGeoCoordinate::Coordinate3D)
+        if (info.coordinate().type() == QGeoCoordinate::Coordinate3D && std::isfinite(info.coordinate().altitude()))
             m_Status.altitude = info.coordinate().altitude();
     }
     if (info.hasAttribute(QGeoPositionInfo::GroundSpeed)) {
-        m_Status.speed = AttributeOf(info, QGeoPositionInfo::GroundSpeed);
-        m_Status.course = AttributeOf(info, QGeoPositionInfo::Direction);
+        m_Status.speed = AttributeOf(info, QGeoPositionInfo::GroundSpeed, std::numeric_limits<double>::max());
+        m_Status.course = AttributeOf(info, QGeoPositionInfo::Direction, FullCircle);
     }
 }
 

@@ -72,8 +72,9 @@ public:
         double latitude = std::numeric_limits<double>::quiet_NaN();  ///< degrees, north positive
         double longitude = std::numeric_limits<double>::quiet_NaN(); ///< degrees, east positive
         double altitude = std::numeric_limits<double>::quiet_NaN();  ///< metres above sea level
-        double speed = std::numeric_limits<double>::quiet_NaN();     ///< metres per second over ground
-        double course = std::numeric_limits<double>::quiet_NaN(); ///< degrees from true north; NaN at a standstill too
+        double speed = std::numeric_limits<double>::quiet_NaN();     ///< metres per second over ground, not negative
+        /// Degrees from true north, 0 to 360; NaN at a standstill too.
+        double course = std::numeric_limits<double>::quiet_NaN();
     };
 
     /// Number of lines without a valid time that count as a minute of the stream.
