@@ -3099,6 +3099,13 @@
     </message>
 </context>
 <context>
+    <name>TileTurner</name>
+    <message>
+        <source>Tiles</source>
+        <translation>Плочки</translation>
+    </message>
+</context>
+<context>
     <name>Tiles</name>
     <message>
         <source>Rate</source>

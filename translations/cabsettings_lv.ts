@@ -3103,6 +3103,13 @@
     </message>
 </context>
 <context>
+    <name>TileTurner</name>
+    <message>
+        <source>Tiles</source>
+        <translation>Flīzes</translation>
+    </message>
+</context>
+<context>
     <name>Tiles</name>
     <message>
         <source>Rate</source>

@@ -3107,6 +3107,13 @@
     </message>
 </context>
 <context>
+    <name>TileTurner</name>
+    <message>
+        <source>Tiles</source>
+        <translation>Ploščice</translation>
+    </message>
+</context>
+<context>
     <name>Tiles</name>
     <message>
         <source>Rate</source>

@@ -3095,6 +3095,13 @@
     </message>
 </context>
 <context>
+    <name>TileTurner</name>
+    <message>
+        <source>Tiles</source>
+        <translation>Kutucuklar</translation>
+    </message>
+</context>
+<context>
     <name>Tiles</name>
     <message>
         <source>Rate</source>

@@ -146,6 +146,7 @@ void TileFigures::theFiguresAreLarge_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("least");
     QTest::newRow("800x480") << QSize(800, 480) << 48;
+    QTest::newRow("480x800") << QSize(480, 800) << 48;
     QTest::newRow("1280x800") << QSize(1280, 800) << 48;
     QTest::newRow("800x1280") << QSize(800, 1280) << 48;
     QTest::newRow("1920x1200") << QSize(1920, 1200) << 72;

@@ -83,6 +83,7 @@ FocusKeys {
         StateBand {
             id: state
 
+            objectName: "stateBand"
             width: parent.width
             onLock: locked.open()
         }

@@ -8,6 +8,7 @@
 #include "module/CabQuick.h"
 #include "nmea/TFieldSimulator.h"
 #include "parameters/HostParameters.h"
+#include "parameters/TParameterCatalogue.h"
 #include "platform/EParamID.h"
 #include "receiver/SimulatedField.h"
 #include "receiver/TReceiver.h"
@@ -37,6 +38,8 @@ QQuickItem* Below(QQuickItem* item, const QString& name)
     return nullptr;
 }
 
+QRectF SceneRect(const QQuickItem& item) { return item.mapRectToScene(QRectF(0, 0, item.width(), item.height())); }
+
 } // namespace
 
 /// The work page: one tap each for what is done while driving, and a screen that can be locked.
@@ -57,10 +60,14 @@ private slots:
     void aTileOpensTheChoiceOfTiles();
     void theTilesAreTheOperators();
     void aLockedScreenTakesNoTaps();
-    void everySizeShowsWhatIsNeeded_data();
+    void everySizeShowsWhatIsNeeded_data() { AddSizes(); }
     void everySizeShowsWhatIsNeeded();
+    void everyTileIsReached_data() { AddSizes(); }
+    void everyTileIsReached();
 
 private:
+    static void AddSizes();
+    void Resize(const QSize& size);
     QQuickItem* Find(const char* name) const { return Below(m_Session->Window()->contentItem(), QLatin1String(name)); }
     void Tap(const char* name) const;
     void Drive(int epochs);
@@ -283,33 +290,87 @@ void WorkPageTaps::aLockedScreenTakesNoTaps()
     Tap("door.work");
 }
 
-void WorkPageTaps::everySizeShowsWhatIsNeeded_data()
+void WorkPageTaps::AddSizes()
 {
     QTest::addColumn<QSize>("size");
-    for (const QSize& size : {QSize(800, 480), QSize(1024, 600), QSize(800, 1280), QSize(1280, 800), QSize(1920, 1200)})
+    for (const QSize& size : {QSize(800, 480), QSize(480, 800), QSize(1024, 600), QSize(800, 1280), QSize(1280, 800),
+                              QSize(1920, 1200), QSize(1200, 1920)})
         QTest::addRow("%dx%d", size.width(), size.height()) << size;
+}
+
+void WorkPageTaps::Resize(const QSize& size)
+{
+    m_Session->Window()->resize(size);
+    QTRY_COMPARE(Display()->size(), QSizeF(size));
+    QCoreApplication::processEvents();
 }
 
 /// Nothing of what is tapped while driving lies outside of the window, over something else, or is too small.
 void WorkPageTaps::everySizeShowsWhatIsNeeded()
 {
     QFETCH(const QSize, size);
-    m_Session->Window()->resize(size);
-    QTRY_COMPARE(Display()->width(), double(size.width()));
-    QCoreApplication::processEvents();
+    Resize(size);
     const double least = size.width() >= 1024 ? 76 : 60;
     QVector<QRectF> places;
     for (const char* const name : {"zoomIn", "zoomOut", "turn", "recentre", "setA", "setB", "lines", "mark", "working",
                                    "tile.rate", "tile.speed", "door.work", "door.settings"}) {
         const QQuickItem* const item = Find(name);
         QVERIFY2(item, name);
-        const QRectF place = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        const QRectF place = SceneRect(*item);
         QVERIFY2(QRectF(QPointF(0, 0), QSizeF(size)).contains(place), name);
         QVERIFY2(place.width() >= least && place.height() >= least, name);
         for (const QRectF& other : std::as_const(places))
             QVERIFY2(!place.adjusted(-7, -7, 7, 7).intersects(other), name);
         places.append(place);
     }
+}
+
+/// All tiles that are chosen show, on as many pages as the window needs, each within the window and beside the others.
+/// A key turns the page as a tap does.
+void WorkPageTaps::everyTileIsReached()
+{
+    QFETCH(const QSize, size);
+    const QStringList all = TParameterCatalogue::Find(PARAM_TILES)->names;
+    m_Session->Store().SetParameter(PARAM_TILES, all.join(QLatin1Char(',')), true);
+    Resize(size);
+    // All of them have room on no page.
+    QTRY_VERIFY(Find("turnTiles"));
+    QStringList found;
+    bool byKey = false;
+    for (int page = 0; found.size() < all.size(); ++page) {
+        QVERIFY2(page < all.size(), qPrintable(found.join(QLatin1Char(' '))));
+        QVector<QRectF> places = {SceneRect(*Find("turnTiles")), SceneRect(*Find("working")),
+                                  SceneRect(*Find("zoomIn")), SceneRect(*Find("setA"))};
+        for (const QString& name : all) {
+            const QQuickItem* const tile = Find(qPrintable(QLatin1String("tile.") + name));
+            if (!tile)
+                continue;
+            QVERIFY2(!found.contains(name), qPrintable(name));
+            found.append(name);
+            const QRectF place = SceneRect(*tile);
+            QVERIFY2(QRectF(QPointF(0, 0), QSizeF(size)).contains(place), qPrintable(name));
+            for (const QRectF& other : std::as_const(places))
+                QVERIFY2(!place.adjusted(-7, -7, 7, 7).intersects(other), qPrintable(name));
+            places.append(place);
+        }
+        if (byKey) {
+            Find("turnTiles")->forceActiveFocus();
+            QTest::keyClick(m_Session->Window(), Qt::Key_Return);
+        } else {
+            Tap("turnTiles");
+        }
+        byKey = !byKey;
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(QSet<QString>(found.begin(), found.end()), QSet<QString>(all.begin(), all.end()));
+    // After the last page the first one comes again.
+    QVERIFY(Find("tile.rate"));
+    m_Session->Store().SetParameter(PARAM_TILES, QLatin1String("speed"), true);
+    QTRY_VERIFY(Find("tile.speed") && !Find("tile.rate"));
+    QVERIFY(!Find("turnTiles"));
+    m_Session->Store().SetParameter(PARAM_TILES,
+                                    TParameterCatalogue::FirstValue(*TParameterCatalogue::Find(PARAM_TILES)), true);
+    QTRY_VERIFY(Find("tile.rate"));
 }
 
 QTEST_MAIN(WorkPageTaps)

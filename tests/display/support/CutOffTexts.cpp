@@ -8,6 +8,36 @@
 
 namespace {
 
+/// The smallest text, and the smallest figure of a tile.
+const int LeastText = 24;
+const int LeastFigure = 48;
+
+/// What of the display a text belongs to: the pages, or the questions above them.
+const QQuickItem* Layer(const QQuickItem& text)
+{
+    const QQuickItem* item = &text;
+    while (item->parentItem() && item->parentItem()->objectName() != QLatin1String("display"))
+        item = item->parentItem();
+    return item;
+}
+
+/// Texts of a layer that have letters on those of another one.
+void LookForOverlaps(const QList<QQuickItem*>& texts, const QString& view, QStringList* found)
+{
+    const double tolerance = 2; // a line is a little higher than its letters
+    for (int first = 0; first < texts.size(); ++first) {
+        for (int second = first + 1; second < texts.size(); ++second) {
+            const QQuickItem& one = *texts.at(first);
+            const QQuickItem& other = *texts.at(second);
+            const QRectF shared = VisibleItems::Letters(one) & VisibleItems::SeenPart(one) &
+                                  VisibleItems::Letters(other) & VisibleItems::SeenPart(other);
+            if (Layer(one) == Layer(other) && shared.width() > tolerance && shared.height() > tolerance)
+                found->append(view + QLatin1String(": ") + VisibleItems::Describe(one) + QLatin1String(" is on ") +
+                              VisibleItems::Describe(other));
+        }
+    }
+}
+
 void Look(TOpenDisplay& display, const QString& view, QStringList* found)
 {
     const QList<QQuickItem*> texts = VisibleItems::Texts(display.Content());
@@ -17,7 +47,13 @@ void Look(TOpenDisplay& display, const QString& view, QStringList* found)
         const QString problem = VisibleItems::WhatIsCutOff(*text);
         if (!problem.isEmpty())
             found->append(view + QLatin1String(": ") + VisibleItems::Describe(*text) + QLatin1String(" is ") + problem);
+        const int letters = VisibleItems::ShownSize(*text);
+        const bool isFigure = text->objectName() == QLatin1String("figure");
+        if (letters < (isFigure ? LeastFigure : LeastText))
+            found->append(view + QLatin1String(": ") + VisibleItems::Describe(*text) +
+                          QString::fromLatin1(" has letters of %1").arg(letters));
     }
+    LookForOverlaps(texts, view, found);
 }
 
 QStringList LookAtAll(TOpenDisplay& display, int mostPagesOfList)

@@ -53,26 +53,6 @@ void Collect(QQuickItem& item, const Accepts& accepts, QList<QQuickItem*>& found
 
 QRectF InWindow(const QQuickItem& item) { return item.mapRectToScene(QRectF(0, 0, item.width(), item.height())); }
 
-/// Where the letters are: a text may be larger or smaller than its item.
-QRectF Letters(const QQuickItem& text)
-{
-    const double width = text.property("contentWidth").toDouble();
-    const double height = text.property("contentHeight").toDouble();
-    const int horizontal = text.property("effectiveHorizontalAlignment").toInt();
-    const int vertical = text.property("verticalAlignment").toInt();
-    double x = text.property("leftPadding").toDouble();
-    if (horizontal & Qt::AlignRight)
-        x = text.width() - width - text.property("rightPadding").toDouble();
-    else if (horizontal & Qt::AlignHCenter)
-        x = (text.width() - width) / 2;
-    double y = text.property("topPadding").toDouble();
-    if (vertical & Qt::AlignBottom)
-        y = text.height() - height - text.property("bottomPadding").toDouble();
-    else if (vertical & Qt::AlignVCenter)
-        y = (text.height() - height) / 2;
-    return text.mapRectToScene(QRectF(x, y, width, height));
-}
-
 bool Scrolls(const QQuickItem& area)
 {
     return area.inherits("QQuickFlickable") && area.property("contentHeight").toDouble() > area.height();
@@ -162,6 +142,25 @@ QString VisibleItems::Describe(const QQuickItem& item)
         .arg(place.y())
         .arg(place.width())
         .arg(place.height());
+}
+
+QRectF VisibleItems::Letters(const QQuickItem& text)
+{
+    const double width = text.property("contentWidth").toDouble();
+    const double height = text.property("contentHeight").toDouble();
+    const int horizontal = text.property("effectiveHorizontalAlignment").toInt();
+    const int vertical = text.property("verticalAlignment").toInt();
+    double x = text.property("leftPadding").toDouble();
+    if (horizontal & Qt::AlignRight)
+        x = text.width() - width - text.property("rightPadding").toDouble();
+    else if (horizontal & Qt::AlignHCenter)
+        x = (text.width() - width) / 2;
+    double y = text.property("topPadding").toDouble();
+    if (vertical & Qt::AlignBottom)
+        y = text.height() - height - text.property("bottomPadding").toDouble();
+    else if (vertical & Qt::AlignVCenter)
+        y = (text.height() - height) / 2;
+    return text.mapRectToScene(QRectF(x, y, width, height));
 }
 
 QString VisibleItems::WhatIsCutOff(const QQuickItem& text)

@@ -39,6 +39,9 @@ int ShownSize(const QQuickItem& text);
 /// A name for the messages of a test: class, text and place.
 QString Describe(const QQuickItem& item);
 
+/// Where the letters of a text are, in the window's coordinates: a text may be larger or smaller than its item.
+QRectF Letters(const QQuickItem& text);
+
 /// What is wrong with how a text is shown: it is elided, wider than its item, broken within a word, or outside of
 /// what is seen of the window; empty when nothing is. A text in an area that scrolls may go on above and below what is
 /// seen of the area.

@@ -15,6 +15,8 @@ Panel {
     property bool isMain: false
     // What stands below the figure.
     default property alias detail: below.data
+    // What stands at the left of the figure, where there is room.
+    property alias beside: beside.data
 
     readonly property real inner: width - 2 * Sizes.margin
     readonly property bool isTooWide: inner > 0 && widest.advanceWidth(number) > inner
@@ -44,31 +46,53 @@ Panel {
         width: tile.inner
 
         Item {
+            // Words that are too wide together get narrower letters, which stay as high as others.
+            readonly property real squeeze: Math.min(1, (width - Sizes.gap) / (name.implicitWidth + unit.implicitWidth))
+
             width: parent.width
             height: Math.round(Sizes.text * 1.4)
 
             TextLabel {
+                id: name
+
                 anchors.bottom: parent.bottom
                 text: tile.title
                 muted: true
+                transform: Scale { xScale: name.parent.squeeze }
             }
             TextLabel {
+                id: unit
+
                 objectName: "unit"
                 anchors { bottom: parent.bottom; right: parent.right }
                 text: tile.unit
                 muted: true
+                transform: Scale { origin.x: unit.width; xScale: unit.parent.squeeze }
             }
         }
-        TextLabel {
-            objectName: "figure"
+        Item {
             width: parent.width
-            // A line of the font is higher than its digits; the room below them is not needed.
-            height: Math.round(size * 1.16)
-            size: tile.isMain ? Sizes.main : Sizes.figure
-            text: tile.number
-            font.bold: true
-            horizontalAlignment: Text.AlignRight
-            verticalAlignment: Text.AlignVCenter
+            height: figure.height
+
+            TextLabel {
+                id: figure
+
+                objectName: "figure"
+                width: parent.width
+                // A line of the font is higher than its digits; the room below them is not needed.
+                height: Math.round(size * 1.16)
+                size: tile.isMain ? Sizes.main : Sizes.figure
+                text: tile.number
+                font.bold: true
+                horizontalAlignment: Text.AlignRight
+                verticalAlignment: Text.AlignVCenter
+            }
+            Item {
+                id: beside
+
+                width: parent.width - figure.contentWidth - Sizes.margin
+                height: parent.height
+            }
         }
         Item {
             id: below

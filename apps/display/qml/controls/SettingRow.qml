@@ -9,7 +9,7 @@ import "."
 //         Segments { room: parent.room; choices: parameter.choices; value: parameter.value }
 //     }
 //
-// The control finds the width that there is for it in parent.room.
+// The control finds the width that there is for it in parent.room, and in parent.isStacked whether it stands below.
 Item {
     id: row
 
@@ -40,6 +40,7 @@ Item {
 
         TextLabel {
             id: name
+            objectName: "name"
             width: parent.width
             text: row.title
             size: Sizes.row
@@ -66,6 +67,7 @@ Item {
         id: place
 
         readonly property real room: row.width
+        readonly property bool isStacked: row.isStacked
 
         x: row.isStacked ? 0 : row.width - width
         y: row.isStacked ? row.height - height - Sizes.gap : (row.height - height) / 2

@@ -21,8 +21,10 @@ QtObject {
     readonly property bool isPortrait: height > width
     // A window as low as 480 px: bands, titles and targets are smaller.
     readonly property bool isCompact: Math.min(width, height) < 560
-    // A page as narrow as 800 px: one column, and doors without words where words do not fit.
-    readonly property bool isNarrow: width < 1000
+    // A page as narrow as 800 px: one column, and doors whose icon stands above the word.
+    readonly property bool isNarrow: width < 1000 * scale
+    // A window as narrow as 480 px: the bands have two lines, and a title stands above its buttons.
+    readonly property bool isSlim: width < 640 * scale
     readonly property real scale: Math.max(1, Math.min(Math.max(width, height) / 1280, Math.min(width, height) / 800))
 
     readonly property int target: isCompact ? 60 : Math.round(76 * scale)
@@ -31,8 +33,8 @@ QtObject {
     readonly property int margin: isCompact ? 8 : Math.round(12 * scale)
     readonly property int radius: Math.round(10 * scale)
     readonly property int line: Math.max(1, Math.floor(scale))
-    readonly property int stateBand: isCompact ? 60 : Math.round(72 * scale)
-    readonly property int doorBand: isCompact ? 64 : Math.round(92 * scale)
+    readonly property int stateBand: isSlim ? 76 : isCompact ? 60 : Math.round(72 * scale)
+    readonly property int doorBand: isSlim ? 2 * target + 3 * gap : isCompact ? 64 : Math.round(92 * scale)
     readonly property int icon: Math.round(32 * scale)
 
     // Fonts. No text is smaller than text, and no main figure smaller than figureLeast.

@@ -2,15 +2,13 @@ import QtQuick 2.15
 import CabSettings 1.0
 import "../controls"
 
-// The door to a page. In a narrow window the icon stands above the word; in a low one the word stands alone, and in the
-// narrowest the icon.
+// The door to a page. In a narrow window the icon stands above the word; in a low one the word stands alone.
 Item {
     id: door
 
     property string title
     property string icon
     property bool isOpen: false
-    property bool hasWord: true
 
     readonly property color ink: isOpen ? Scheme.accentGroundText : Scheme.text
 
@@ -39,12 +37,11 @@ Item {
         verticalItemAlignment: Grid.AlignVCenter
 
         Icon {
-            visible: !Sizes.isCompact || !Sizes.isNarrow || !door.hasWord
+            visible: !Sizes.isCompact || !Sizes.isNarrow || Sizes.isSlim
             name: door.icon
             color: door.ink
         }
         TextLabel {
-            visible: door.hasWord
             text: door.title
             size: Sizes.isNarrow ? Sizes.text : Sizes.row
             width: Math.min(implicitWidth, door.width - (Sizes.isNarrow ? 0 : Sizes.icon + 2 * Sizes.margin))

@@ -15,7 +15,9 @@ Rectangle {
         { page: "settings", file: "SettingsPage.qml", icon: "settings", title: qsTr("Settings") }
     ]
 
-    readonly property int leastWidthOfWords: 640
+    // Every door has its word: where five do not fit beside each other, they stand in two lines.
+    readonly property int columns: Sizes.isSlim ? 3 : rows.length
+    readonly property int lines: Math.ceil(rows.length / columns)
 
     signal open(string page)
 
@@ -29,20 +31,23 @@ Rectangle {
         height: Sizes.line
         color: Scheme.line
     }
-    Row {
+    Item {
         anchors { fill: parent; margins: Sizes.isCompact ? 2 : Sizes.gap; leftMargin: Sizes.margin; rightMargin: Sizes.margin }
-        spacing: Sizes.gap
 
         Repeater {
             model: band.rows
 
             Door {
+                readonly property int line: Math.floor(index / band.columns)
+                readonly property int inLine: Math.min(band.columns, band.rows.length - line * band.columns)
+
                 objectName: "door." + modelData.page
-                width: (parent.width - (band.rows.length - 1) * Sizes.gap) / band.rows.length
-                height: parent.height
+                x: (index - line * band.columns) * (width + Sizes.gap)
+                y: line * (height + Sizes.gap)
+                width: (parent.width - (inLine - 1) * Sizes.gap) / inLine
+                height: (parent.height - (band.lines - 1) * Sizes.gap) / band.lines
                 title: modelData.title
                 icon: modelData.icon
-                hasWord: band.width >= band.leastWidthOfWords
                 isOpen: band.page === modelData.page
                 onClicked: band.open(modelData.page)
             }

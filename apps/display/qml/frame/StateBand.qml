@@ -3,7 +3,7 @@ import CabSettings 1.0
 import "../controls"
 
 // The band above the page: where and what the operator works, how good the position is, the clock, and one tap each to
-// lock the screen and to change between day and night.
+// lock the screen and to change between day and night. In a slim window where and what share the upper one of two lines.
 Rectangle {
     id: band
 
@@ -13,7 +13,9 @@ Rectangle {
                                       : Scheme.attention
     // How the place is written where the whole of it has no room: the parts from the end.
     readonly property var parts: [Selections.client, Selections.farm, Selections.field].filter(part => part !== "")
-    readonly property string place: fitting(parts, where.width)
+    readonly property real placeRoom: Sizes.isSlim ? where.width - job.width - Sizes.gap : where.width
+    readonly property real buttonHeight: height - 2 * Sizes.line - Sizes.gap
+    readonly property string place: fitting(parts, placeRoom)
 
     function fitting(names, room) {
         for (let i = 0; i < names.length; ++i) {
@@ -31,21 +33,25 @@ Rectangle {
 
         font.pixelSize: Sizes.text
     }
-    Column {
+    FontMetrics {
+        id: boldMetrics
+
+        font { bold: true; pixelSize: Sizes.text + 2 }
+    }
+    Grid {
         id: where
 
-        anchors {
-            left: parent.left
-            right: states.left
-            leftMargin: Sizes.margin + Sizes.gap / 2
-            rightMargin: Sizes.margin
-            verticalCenter: parent.verticalCenter
-        }
+        x: Sizes.margin + Sizes.gap / 2
+        y: Sizes.isSlim ? Sizes.gap : (band.height - height) / 2
+        width: (Sizes.isSlim ? buttons.x : states.x) - x - Sizes.margin
+        columns: Sizes.isSlim ? 2 : 1
+        columnSpacing: Sizes.gap
+        verticalItemAlignment: Grid.AlignVCenter
 
         // Names have no greatest width: the end of one that fills the band alone is cut off.
         TextLabel {
-            width: parent.width
-            visible: text !== ""
+            width: Sizes.isSlim ? Math.ceil(metrics.advanceWidth(text)) : parent.width
+            visible: text !== "" && (!Sizes.isSlim || width <= band.placeRoom)
             height: Math.round(Sizes.text * 1.2)
             verticalAlignment: Text.AlignVCenter
             text: band.place
@@ -53,7 +59,9 @@ Rectangle {
             elide: Text.ElideRight
         }
         TextLabel {
-            width: parent.width
+            id: job
+
+            width: Sizes.isSlim ? Math.min(Math.ceil(boldMetrics.advanceWidth(text)), parent.width) : parent.width
             height: Math.round(Sizes.row * 1.1)
             verticalAlignment: Text.AlignVCenter
             text: Selections.job !== "" ? Selections.job : qsTr("No job")
@@ -65,8 +73,9 @@ Rectangle {
     Row {
         id: states
 
-        anchors { right: parent.right; rightMargin: Sizes.margin; verticalCenter: parent.verticalCenter }
-        height: parent.height
+        x: Sizes.isSlim ? where.x : buttons.x - spacing - width
+        y: Sizes.isSlim ? band.height - height - Sizes.gap / 2 : 0
+        height: Sizes.isSlim ? Math.round(Sizes.title * 1.2) : parent.height
         spacing: Sizes.isCompact ? Sizes.gap : 2 * Sizes.gap
 
         Row {
@@ -111,10 +120,16 @@ Rectangle {
             size: Sizes.title
             font.bold: true
         }
+    }
+    Row {
+        id: buttons
+
+        anchors { right: parent.right; rightMargin: Sizes.margin; verticalCenter: parent.verticalCenter }
+        spacing: states.spacing
+
         IconButton {
             objectName: "lock"
-            anchors.verticalCenter: parent.verticalCenter
-            height: parent.height - 2 * Sizes.line - Sizes.gap
+            height: band.buttonHeight
             isFlat: true
             icon: "lock"
             accessibleName: qsTr("Lock the screen")
@@ -122,8 +137,7 @@ Rectangle {
         }
         IconButton {
             objectName: "dayNight"
-            anchors.verticalCenter: parent.verticalCenter
-            height: parent.height - 2 * Sizes.line - Sizes.gap
+            height: band.buttonHeight
             icon: Scheme.isDay ? "moon" : "sun"
             accessibleName: Scheme.isDay ? qsTr("Colours of the night") : qsTr("Colours of the day")
             onClicked: Scheme.toggle()

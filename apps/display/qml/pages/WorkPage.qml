@@ -16,7 +16,8 @@ Item {
                                       + (Sizes.isPortrait ? Sizes.target + 2 * Sizes.margin : 0)
     // Where the buttons have no room in one column, those of the line stand in a row at the foot. A message above the
     // page takes room from it.
-    readonly property bool isLow: freeHeight < oneColumn + 2 * Sizes.margin
+    readonly property real leastHeight: oneColumn + 2 * Sizes.margin
+    readonly property bool isLow: freeHeight < leastHeight
     readonly property real tilesWidth: tiles.names.length === 0 || Sizes.isPortrait ? 0 : tiles.width + Sizes.margin
     // Where nothing covers the map.
     readonly property rect free: Qt.rect(0, 0, width - tilesWidth, freeHeight)
@@ -127,6 +128,8 @@ Item {
     }
     LineChoice { id: lines }
     WorkingButton {
+        id: working
+
         readonly property bool isSquare: page.isLow || Sizes.isPortrait
 
         hasWords: !isSquare
@@ -148,12 +151,19 @@ Item {
 
         x: Sizes.isPortrait ? (page.width - width) / 2 : page.width - width - Sizes.margin
         y: Sizes.isPortrait ? page.height - height - Sizes.margin : Sizes.margin
-        columns: Sizes.isPortrait ? 4 : Sizes.isNarrow ? 1 : 2
+        columns: Sizes.isSlim ? 2 : Sizes.isPortrait ? 4 : Sizes.isNarrow ? 1 : 2
+        isLow: Sizes.isSlim || columns === 1
         cellWidth: columns === 1 ? Math.round(252 * Sizes.scale)
-                   : Sizes.isPortrait ? Math.floor((page.width - 2 * Sizes.margin - 3 * Sizes.gap) / 4)
+                   : Sizes.isPortrait ? Math.floor((page.width - 2 * Sizes.margin - (columns - 1) * Sizes.gap) / columns)
                                       : Math.round(184 * Sizes.scale)
-        room: Sizes.isPortrait ? page.height / 3
-              : page.height - 2 * Sizes.margin - (page.isLow ? 0 : Sizes.target + Sizes.gap)
+        room: Sizes.isPortrait ? page.height * (Sizes.isSlim ? 0.42 : 1 / 3)
+              : page.height - 2 * Sizes.margin - (page.height < page.leastHeight ? 0 : Sizes.target + Sizes.gap)
         onChosen: page.openSettings("tiles")
+    }
+    TileTurner {
+        // A message that takes room moves the buttons of the line to the right.
+        x: Math.max(page.free.width - width - Sizes.margin, page.isLow ? working.x + working.width + Sizes.gap : 0)
+        y: page.free.height - height - Sizes.margin
+        tiles: tiles
     }
 }

@@ -47,7 +47,8 @@ Overlay {
             text: setting.first === 0 ? qsTr("Date and time") : qsTr("Time")
         }
 
-        Row {
+        Grid {
+            columns: Sizes.isSlim ? 3 : setting.titles.length
             spacing: Sizes.gap * 2
 
             Repeater {
@@ -56,7 +57,8 @@ Overlay {
                 Column {
                     readonly property int place: setting.first + index
 
-                    width: Math.min(Sizes.row * 4.5, (setting.roomWidth - Sizes.gap * 8) / 5)
+                    width: Math.min(Sizes.row * 4.5,
+                                    (setting.roomWidth - (parent.columns - 1) * parent.spacing) / parent.columns)
                     spacing: Sizes.gap
 
                     TextLabel {

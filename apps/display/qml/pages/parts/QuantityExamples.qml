@@ -67,16 +67,18 @@ Item {
             model: QuantityModel {}
 
             Item {
+                readonly property bool isStacked: title.implicitWidth + value.implicitWidth + 2 * Sizes.gap > width
+
                 width: rows.width
-                height: Math.max(title.height, value.height)
+                height: isStacked ? title.height + value.height : Math.max(title.height, value.height)
                 visible: index >= examples.first && index <= examples.last
 
                 TextLabel {
                     id: title
 
                     objectName: "example title"
-                    anchors { left: parent.left; right: value.left; rightMargin: Sizes.gap * 2 }
-                    anchors.verticalCenter: parent.verticalCenter
+                    y: parent.isStacked ? 0 : (parent.height - height) / 2
+                    width: parent.width - (parent.isStacked ? 0 : value.width + 2 * Sizes.gap)
                     wraps: true
                     text: model.title
                 }
@@ -85,7 +87,8 @@ Item {
                     id: value
 
                     objectName: "example"
-                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                    anchors.right: parent.right
+                    y: parent.isStacked ? title.height : (parent.height - height) / 2
                     size: Sizes.row
                     font.bold: true
                     text: model.text
@@ -99,7 +102,7 @@ Item {
 
         objectName: "example turner"
         anchors { right: parent.right; rightMargin: Sizes.gap; verticalCenter: parent.verticalCenter }
-        isLow: true
+        isLow: !Sizes.isSlim
         hasUp: examples.first > 0
         hasDown: examples.last < quantities.count - 1
         onUp: examples.first = Math.max(0, examples.first - examples.lines)

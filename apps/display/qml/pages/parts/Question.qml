@@ -44,17 +44,22 @@ Overlay {
             wraps: true
         }
 
-        Row {
+        // Below each other where they are too wide together.
+        Grid {
             anchors.right: parent.right
+            columns: cancel.width + agree.width + spacing <= parent.width ? 2 : 1
+            horizontalItemAlignment: Grid.AlignRight
             spacing: Sizes.gap * 2
 
             PushButton {
+                id: cancel
                 focus: true
                 text: qsTr("Cancel")
                 onClicked: question.close()
             }
 
             PushButton {
+                id: agree
                 text: question.action
                 primary: true
                 onClicked: {

@@ -17,16 +17,19 @@ Panel {
     property alias foot: foot.data
     default property alias content: content.data
 
+    // In a slim window a title that has no room beside its tools stands above them.
+    readonly property bool isStacked: Sizes.isSlim && own.width > 0 && heading.implicitWidth > head.width - heading.x - tools.width
+
     Item {
         id: head
-        x: Sizes.gap * 3
+        x: Sizes.isSlim ? Sizes.margin : Sizes.gap * 3
         width: parent.width - 2 * x
-        height: Sizes.target + 2 * Sizes.gap
+        height: (panel.isStacked ? 2 : 1) * (Sizes.target + Sizes.gap) + Sizes.gap
 
         IconButton {
             id: back
             width: Sizes.target
-            anchors.verticalCenter: parent.verticalCenter
+            y: Sizes.gap
             visible: panel.hasBack
             icon: "back"
             accessibleName: qsTr("Back")
@@ -34,10 +37,11 @@ Panel {
         }
 
         TextLabel {
-            anchors.left: back.visible ? back.right : parent.left
-            anchors.leftMargin: back.visible ? Sizes.gap * 2 : 0
-            anchors.right: tools.left
-            anchors.verticalCenter: parent.verticalCenter
+            id: heading
+            objectName: "title"
+            x: back.visible ? back.width + Sizes.gap * 2 : 0
+            y: Sizes.gap + (Sizes.target - height) / 2
+            width: parent.width - x - (panel.isStacked ? 0 : tools.width)
             size: Sizes.title
             font.bold: true
             wraps: true
@@ -48,7 +52,8 @@ Panel {
         Row {
             id: tools
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: Sizes.gap
             spacing: Sizes.gap
 
             Row {

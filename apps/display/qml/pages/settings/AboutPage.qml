@@ -21,14 +21,16 @@ SettingsPanel {
             meaning: model.text
 
             Column {
+                readonly property bool isStacked: parent.isStacked
+
                 TextLabel {
-                    anchors.right: parent.right
+                    x: parent.isStacked ? 0 : parent.width - width
                     size: Sizes.row
                     text: model.version
                 }
 
                 TextLabel {
-                    anchors.right: parent.right
+                    x: parent.isStacked ? 0 : parent.width - width
                     muted: true
                     text: model.licence
                 }

@@ -23,6 +23,8 @@ SettingsPanel {
     readonly property color color: parameter.value
     // All bars are on one page with what they change: in a low one, two are side by side.
     readonly property bool isLow: Sizes.isCompact && !Sizes.isPortrait
+    // A slim one has the buttons below the title.
+    readonly property int between: Sizes.isSlim ? Sizes.gap / 2 : Sizes.gap
     // Of the bar of hues, which is not to dazzle.
     readonly property real brightness: Scheme.isDay ? 0.5 : 0.3
 
@@ -78,6 +80,7 @@ SettingsPanel {
     PagedColumn {
         anchors.fill: parent
         focus: true
+        spacing: page.between
 
         Row {
             width: parent.width
@@ -128,7 +131,7 @@ SettingsPanel {
             width: parent.width
             columns: page.isLow ? 2 : 1
             columnSpacing: Sizes.gap * 2
-            rowSpacing: Sizes.gap
+            rowSpacing: page.between
 
             ColorBar {
                 width: page.isLow ? (parent.width - parent.columnSpacing) / 2 : parent.width

@@ -9,6 +9,8 @@ FigureTile {
 
     property var row
     property bool hasWords: true
+    // The words stand beside the figure instead of below it.
+    property bool isWide: false
     // Percent of the rate that is set, for a full bar; beyond the tolerance the bar calls for attention.
     readonly property real fullScale: 20
     readonly property real tolerance: 5
@@ -56,13 +58,28 @@ FigureTile {
                 color: Scheme.text
             }
         }
-        Item {
+        Loader {
             width: parent.width
-            height: words.height
-            visible: tile.hasWords
+            active: tile.hasWords && !tile.isWide
+            visible: active
+            sourceComponent: words
+        }
+    }
+    beside: Loader {
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width
+        active: tile.hasWords && tile.isWide
+        sourceComponent: words
+    }
+    Component {
+        id: words
+
+        Grid {
+            columns: tile.isWide ? 1 : 2
+            columnSpacing: Math.max(0, width - set.implicitWidth - error.implicitWidth)
 
             TextLabel {
-                id: words
+                id: set
 
                 objectName: "set"
                 // The unit of the rate may depend on the product, that of the requested rate does not.
@@ -70,8 +87,9 @@ FigureTile {
                 muted: true
             }
             TextLabel {
+                id: error
+
                 objectName: "error"
-                anchors.right: parent.right
                 text: deviation.errorText
                 muted: true
             }
