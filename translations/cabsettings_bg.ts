@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>цяло число</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Поне %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

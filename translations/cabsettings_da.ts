@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>et helt tal</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Mindst %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>eine ganze Zahl</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Mindestens %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>ένας ακέραιος αριθμός</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Τουλάχιστον %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>un número entero</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Como mínimo %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>kokonaisluku</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Vähintään %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>un nombre entier</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Au moins %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -975,6 +975,10 @@
         <source>a whole number</source>
         <translation>cijeli broj</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Najmanje %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -971,6 +971,10 @@
         <source>a whole number</source>
         <translation>egy egész szám</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Legalább %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>un numero intero</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Almeno %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

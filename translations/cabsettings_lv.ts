@@ -975,6 +975,10 @@
         <source>a whole number</source>
         <translation>vesels skaitlis</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Vismaz %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>een geheel getal</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Minstens %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -975,6 +975,10 @@
         <source>a whole number</source>
         <translation>liczba całkowita</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Co najmniej %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

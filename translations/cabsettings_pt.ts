@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>um número inteiro</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>No mínimo %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -975,6 +975,10 @@
         <source>a whole number</source>
         <translation>un număr întreg</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Cel puțin %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

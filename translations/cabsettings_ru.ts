@@ -975,6 +975,10 @@
         <source>a whole number</source>
         <translation>целое число</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Не менее %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

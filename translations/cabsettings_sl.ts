@@ -977,6 +977,10 @@
         <source>a whole number</source>
         <translation>celo število</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Najmanj %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -973,6 +973,10 @@
         <source>a whole number</source>
         <translation>ett heltal</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Minst %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -971,6 +971,10 @@
         <source>a whole number</source>
         <translation>bir tam sayı</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>En az %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

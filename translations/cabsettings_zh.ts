@@ -971,6 +971,10 @@
         <source>a whole number</source>
         <translation>整数</translation>
     </message>
+    <message>
+        <source>At least %1</source>
+        <translation>至少 %1</translation>
+    </message>
 </context>
 <context>
     <name>Parameters</name>

@@ -26,21 +26,37 @@ QVariantMap Choice(const QVariant& value, const QString& name, const QString& te
 
 bool HasRange(const tagParameter& parameter) { return parameter.type == PARAMETER_INT && parameter.choices.isEmpty(); }
 
-bool IsBounded(const tagParameter& parameter)
-{
-    return parameter.least != std::numeric_limits<int>::min() && parameter.greatest != std::numeric_limits<int>::max();
-}
-
 QString WithUnit(const QString& number, const QString& unit)
 {
     return unit.isEmpty() ? number : number + QLatin1Char(' ') + unit;
 }
 
+/// The values of a parameter that has a range. Empty when any whole number is one.
 QString Range(const tagParameter& parameter)
 {
+    const auto number = [&parameter](int end) {
+        return WithUnit(QString::number(end), ParameterTitles::Unit(parameter));
+    };
+    if (parameter.least == std::numeric_limits<int>::min())
+        return QString();
+    if (parameter.greatest == std::numeric_limits<int>::max())
+        return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "At least %1")).arg(number(parameter.least));
     return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "%1 to %2"))
-        .arg(QString::number(parameter.least),
-             WithUnit(QString::number(parameter.greatest), ParameterTitles::Unit(parameter)));
+        .arg(QString::number(parameter.least), number(parameter.greatest));
+}
+
+QString WithRange(const QString& problem, const tagParameter& parameter)
+{
+    const QString range = Range(parameter);
+    return range.isEmpty() ? problem : problem + QLatin1Char(' ') + range;
+}
+
+QString NotWhole() { return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not a whole number.")); }
+
+QString NotAccepted(const tagParameter& parameter)
+{
+    return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not accepted. Expected: %1."))
+        .arg(ParameterTexts::Accepts(parameter));
 }
 
 QString RangeProblem(const tagParameter& parameter, const QString& entered)
@@ -48,13 +64,11 @@ QString RangeProblem(const tagParameter& parameter, const QString& entered)
     bool isNumber = false;
     const double number = entered.toDouble(&isNumber);
     const bool isWhole = isNumber && std::trunc(number) == number;
-    QString problem = !isWhole ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not a whole number."))
-                      : number < parameter.least
-                          ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Below the least value."))
-                          : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Above the greatest value."));
-    if (!IsBounded(parameter))
-        return problem;
-    return problem + QLatin1Char(' ') + Range(parameter);
+    return WithRange(!isWhole ? NotWhole()
+                     : number < parameter.least
+                         ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Below the least value."))
+                         : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Above the greatest value.")),
+                     parameter);
 }
 
 /// What the catalogue would say is for a tool: it names the parameter and repeats the value.
@@ -66,8 +80,7 @@ QString Problem(const tagParameter& parameter, const QString& entered)
         return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "This cannot be the name of a file. Try: %1"))
             .arg(ItemNames::Suggestion(entered, parameter.mostBytes));
     }
-    return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "Not accepted. Expected: %1."))
-        .arg(ParameterTexts::Accepts(parameter));
+    return NotAccepted(parameter);
 }
 
 /// Stored names that stand for none are the same in every language.
@@ -123,9 +136,10 @@ QString ParameterTexts::Accepts(const tagParameter& parameter)
 {
     if (parameter.mostBytes > 0)
         return Translated(QT_TRANSLATE_NOOP("ParameterTexts", "a name without %1")).arg(QLatin1String(NotInNames));
-    if (HasRange(parameter))
-        return IsBounded(parameter) ? Range(parameter)
-                                    : Translated(QT_TRANSLATE_NOOP("ParameterTexts", "a whole number"));
+    if (HasRange(parameter)) {
+        const QString range = Range(parameter);
+        return range.isEmpty() ? Translated(QT_TRANSLATE_NOOP("ParameterTexts", "a whole number")) : range;
+    }
     QStringList texts;
     for (const QVariant& choice : Choices(parameter))
         texts.append(choice.toMap().value(QLatin1String("text")).toString());
@@ -145,6 +159,14 @@ std::optional<QString> ParameterTexts::Entered(const QVariant& value)
     default:
         return std::nullopt;
     }
+}
+
+QString ParameterTexts::TypeProblem(const tagParameter& parameter, const QVariant& value)
+{
+    const bool isText = value.userType() == QMetaType::QString;
+    if (!isText || (parameter.type != PARAMETER_INT && parameter.type != PARAMETER_BOOL))
+        return QString();
+    return HasRange(parameter) ? WithRange(NotWhole(), parameter) : NotAccepted(parameter);
 }
 
 QVariant ParameterTexts::Read(const tagParameter& parameter, const QString& entered, QString* problem)

@@ -65,11 +65,15 @@ QVariant TParameter::Value() const
 
 void TParameter::SetValue(const QVariant& value)
 {
+    if (!m_Parameter)
+        return;
     const std::optional<QString> entered = ParameterTexts::Entered(value);
-    if (entered)
+    const QString problem =
+        entered ? ParameterTexts::TypeProblem(*m_Parameter, value) : tr("There is no value to set.");
+    if (problem.isEmpty())
         set(*entered);
     else
-        SetError(tr("There is no value to set."));
+        SetError(problem);
 }
 
 bool TParameter::IsDefault() const { return Value() == DefaultValue(); }

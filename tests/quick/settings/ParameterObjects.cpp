@@ -9,6 +9,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include <limits>
+
 /// Every parameter of the catalogue through `Parameter` of QML.
 class ParameterObjects : public QObject
 {
@@ -29,6 +31,8 @@ private slots:
     void everyParameterRefusesWhatIsNotAccepted();
     void whatIsNoValueIsRefused_data();
     void whatIsNoValueIsRefused();
+    void aTextIsNoNumber_data() { AddParameters(); }
+    void aTextIsNoNumber();
     void problemsAreSentences_data();
     void problemsAreSentences();
     void aParameterIsFoundByItsNumber();
@@ -263,6 +267,32 @@ void ParameterObjects::whatIsNoValueIsRefused()
     QVERIFY(!parameter->property("error").toString().isEmpty());
 }
 
+/// A page that sets a number, a choice, or a yes or no as a text has a mistake, which it is told as any other. What an
+/// operator types is set by set().
+void ParameterObjects::aTextIsNoNumber()
+{
+    QFETCH(QString, name);
+    const tagParameter& row = *TParameterCatalogue::Find(name);
+    if (row.type != PARAMETER_INT && row.type != PARAMETER_BOOL)
+        return;
+    const std::unique_ptr<QObject> parameter = Make(name);
+    const QVariant before = parameter->property("value");
+    const QString text = TParameterCatalogue::Text(row, OtherValue(row, before, m_Terminal->folder));
+    parameter->setProperty("value", text);
+    QCOMPARE(parameter->property("value"), before);
+
+    const QString accepts = parameter->property("accepts").toString();
+    const bool hasBounds = row.least != std::numeric_limits<int>::min();
+    QCOMPARE(parameter->property("error").toString(), !parameter->property("hasRange").toBool()
+                                                          ? Latin("Not accepted. Expected: %1.").arg(accepts)
+                                                      : hasBounds ? Latin("Not a whole number. ") + accepts
+                                                                  : Latin("Not a whole number."));
+    bool isSet = false;
+    QVERIFY(QMetaObject::invokeMethod(parameter.get(), "set", Q_RETURN_ARG(bool, isSet), Q_ARG(QString, text)));
+    QVERIFY(isSet);
+    QCOMPARE(parameter->property("error").toString(), QString());
+}
+
 void ParameterObjects::problemsAreSentences_data()
 {
     QTest::addColumn<QString>("name");
@@ -279,6 +309,7 @@ void ParameterObjects::problemsAreSentences_data()
     row("display.night-lightbar", "99999999999", "Above the greatest value. 0 to 100 %");
     row("log.user-number", "0", "Below the least value. 1 to 99999");
     row("system.implement-folder", "x", "Not a whole number.");
+    row("colors.day.background-number", "-1", "Below the least value. At least 0");
     row("active.job", "a/b", "This cannot be the name of a file. Try: a_b");
     row("colors.day.map", "blurple", "Not accepted. Expected: a colour: #rrggbb, #aarrggbb or a name such as navy.");
     row("display.night-lightbar", "100", "");
