@@ -74,6 +74,7 @@ TScheme::tagLook TScheme::LookNow()
     }
     look.derived =
         DerivedColors::Derive({look.isDay, look.own[TEXT], look.own[BACKGROUND], look.own[TITLE], look.own[COVERAGE]});
+    look.backgroundNumber = settings.GetBackgroundNumber();
     look.lightbar = Level(look.isDay, settings.GetLightbarNightLevel());
     look.backlight = Level(look.isDay, settings.GetBacklightNightLevel());
     look.buttons = Level(look.isDay, settings.GetButtonLedNightLevel());
@@ -83,7 +84,8 @@ TScheme::tagLook TScheme::LookNow()
 bool TScheme::IsOfScheme(int number)
 {
     if (number == PARAM_DAY_MODE || number == PARAM_LIGHTBAR_NIGHT_LEVEL || number == PARAM_BACKLIGHT_NIGHT_LEVEL ||
-        number == PARAM_BUTTON_LED_NIGHT_LEVEL)
+        number == PARAM_BUTTON_LED_NIGHT_LEVEL || number == TColorSettings::BackgroundNumberKey[0] ||
+        number == TColorSettings::BackgroundNumberKey[1])
         return true;
     return std::any_of(Elements.begin(), Elements.end(),
                        [number](const tagElement& row) { return row.keys[0] == number || row.keys[1] == number; });

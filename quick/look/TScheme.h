@@ -54,6 +54,9 @@ class TScheme : public QObject
     Q_PROPERTY(QColor focus READ Focus NOTIFY changed)
     Q_PROPERTY(QColor coverageEdge READ CoverageEdge NOTIFY changed)
 
+    // Of the picture behind the pages. What a number shows is the program's choice.
+    Q_PROPERTY(int backgroundNumber READ BackgroundNumber NOTIFY changed)
+
     // Brightness, 0 to 1; 1 by day.
     Q_PROPERTY(double lightbarLevel READ LightbarLevel NOTIFY changed)
     Q_PROPERTY(double backlightLevel READ BacklightLevel NOTIFY changed)
@@ -96,6 +99,8 @@ public:
     QColor Focus() const { return m_Look.derived.focus; }
     QColor CoverageEdge() const { return m_Look.derived.coverageEdge; }
 
+    int BackgroundNumber() const { return m_Look.backgroundNumber; }
+
     double LightbarLevel() const { return m_Look.lightbar; }
     double BacklightLevel() const { return m_Look.backlight; }
     double ButtonLevel() const { return m_Look.buttons; }
@@ -135,6 +140,7 @@ private:
         bool isDay = true;
         std::array<QColor, ELEMENT_COUNT> own;
         DerivedColors::tagDerived derived;
+        int backgroundNumber = 0;
         double lightbar = 1;
         double backlight = 1;
         double buttons = 1;

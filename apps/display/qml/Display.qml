@@ -40,9 +40,10 @@ FocusKeys {
     // Delayed: a field that moves asks the input method anew, which is just about to show the keyboard.
     Binding { target: Sizes; property: "keyboard"; value: keyboard.covered; delayed: true }
 
-    Rectangle {
+    Ground {
         anchors.fill: parent
-        color: Scheme.background
+        // The map covers it.
+        visible: display.page !== "work"
     }
     FocusScope {
         anchors.fill: parent

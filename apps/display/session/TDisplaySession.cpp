@@ -2,6 +2,7 @@
 
 #include "display/DisplayTypes.h"
 #include "display/fonts/DisplayFont.h"
+#include "display/backgrounds/TBackgroundProvider.h"
 #include "display/icons/TIconProvider.h"
 #include "display/keyboard/ScreenKeyboard.h"
 #include "display/language/DisplayLanguage.h"
@@ -91,6 +92,7 @@ bool TDisplaySession::OpenWindow(const tagDisplayOptions& options, QString* erro
     const tagPage* const page = FindPage(options.page);
     m_Engine = std::make_unique<QQmlApplicationEngine>();
     m_Engine->addImageProvider(QStringLiteral("icon"), new TIconProvider);
+    m_Engine->addImageProvider(QStringLiteral("background"), new TBackgroundProvider);
     m_Engine->setInitialProperties({
         {QStringLiteral("width"), options.size.width()},
         {QStringLiteral("height"), options.size.height()},

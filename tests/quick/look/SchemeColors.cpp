@@ -21,6 +21,7 @@ private slots:
 
     void everyElementIsOfTheScheme_data();
     void everyElementIsOfTheScheme();
+    void theBackgroundNumberIsOfTheScheme();
     void anInvalidColorIsTheFirstOne();
     void oneTapSwitches();
     void levelsAreThoseOfTheNight();
@@ -137,6 +138,18 @@ void SchemeColors::everyElementIsOfTheScheme()
     QCOMPARE(Color(property), FirstColor(false, element));
     Set(Name(false, element), QColor(4, 5, 6));
     QTRY_COMPARE_WITH_TIMEOUT(Color(property), QColor(4, 5, 6), Patience);
+}
+
+void SchemeColors::theBackgroundNumberIsOfTheScheme()
+{
+    const auto number = [this] { return Scheme()->property("backgroundNumber").toInt(); };
+    QCOMPARE(number(), 1);
+    Set(Name(true, "background-number"), 7);
+    QTRY_COMPARE_WITH_TIMEOUT(number(), 7, Patience);
+    Night();
+    QCOMPARE(number(), 2);
+    Set(Name(false, "background-number"), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(number(), 0, Patience);
 }
 
 void SchemeColors::anInvalidColorIsTheFirstOne()
