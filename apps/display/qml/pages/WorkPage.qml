@@ -162,8 +162,11 @@ Item {
     }
     TileTurner {
         // A message that takes room moves the buttons of the line to the right.
-        x: Math.max(page.free.width - width - Sizes.margin, page.isLow ? working.x + working.width + Sizes.gap : 0)
-        y: page.free.height - height - Sizes.margin
+        readonly property real from: page.isLow ? working.x + working.width + Sizes.gap : 0
+        readonly property bool isBeside: from + width <= page.free.width
+
+        x: isBeside ? Math.max(page.free.width - width - Sizes.margin, from) : page.free.width - width - Sizes.margin
+        y: page.free.height - height - Sizes.margin - (isBeside ? 0 : Sizes.target + Sizes.gap)
         tiles: tiles
     }
 }
