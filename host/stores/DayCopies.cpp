@@ -69,12 +69,26 @@ bool IsDue(const QString& storeFile, const QDate& day, EDayCopy when)
     return when == DAY_COPY_ALWAYS || !AreTheSame(file, storeFile + QLatin1String(".good"));
 }
 
-// What stays because it cannot be removed is removed another time.
+QList<tagCopyName> NamesOf(const QStringList& fileNames)
+{
+    QList<tagCopyName> names;
+    for (const QString& fileName : fileNames)
+        if (Parse(fileName).day.isValid())
+            names.append(Parse(fileName));
+    std::sort(names.begin(), names.end(), [](const tagCopyName& one, const tagCopyName& other) {
+        return one.day == other.day ? one.number > other.number : one.day > other.day;
+    });
+    return names;
+}
+
+// What stays because it cannot be removed is removed another time. The folder is read once: what a second look alone
+// found would count as not to be kept.
 void Prune(const QString& storeFile)
 {
     QList<QDate> days;
     QList<tagCopyName> kept;
-    for (const tagCopyName& name : Names(storeFile)) {
+    const QStringList fileNames = FileNames(storeFile);
+    for (const tagCopyName& name : NamesOf(fileNames)) {
         if (name.number == 0)
             days.append(name.day);
         else if (kept.size() < MostOnDemand)
@@ -82,7 +96,7 @@ void Prune(const QString& storeFile)
     }
     for (const QDate& day : Kept(days))
         kept.append({day, 0});
-    for (const QString& fileName : FileNames(storeFile))
+    for (const QString& fileName : fileNames)
         if (fileName != LockName && !kept.contains(Parse(fileName))) {
             QString ignored;
             DurableFiles::Remove(Folder(storeFile) + QLatin1Char('/') + fileName, &ignored);
@@ -120,17 +134,7 @@ QString File(const QString& storeFile, const tagCopyName& name)
     return Folder(storeFile) + QLatin1Char('/') + name.Text() + NameEnd;
 }
 
-QList<tagCopyName> Names(const QString& storeFile)
-{
-    QList<tagCopyName> names;
-    for (const QString& fileName : FileNames(storeFile))
-        if (Parse(fileName).day.isValid())
-            names.append(Parse(fileName));
-    std::sort(names.begin(), names.end(), [](const tagCopyName& one, const tagCopyName& other) {
-        return one.day == other.day ? one.number > other.number : one.day > other.day;
-    });
-    return names;
-}
+QList<tagCopyName> Names(const QString& storeFile) { return NamesOf(FileNames(storeFile)); }
 
 QSet<QDate> Kept(QList<QDate> days)
 {
