@@ -10,6 +10,9 @@
 #include "receiver/TReceiver.h"
 #include "region/ELanguage.h"
 #include "stores/TSqliteStore.h"
+#include "texts/HostText.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -19,6 +22,9 @@ namespace {
 /// the first language back, and nothing has to be kept meanwhile.
 static_assert(LANGUAGE_ENGLISH == 0 && LANGUAGE_SLOVENIAN % 2 == 1, "the languages are pairs");
 int OtherLanguage(int language) { return language % 2 == 0 ? language + 1 : language - 1; }
+
+/// What the display itself says in such a case, in its language.
+QString Sentence(const char* context, const char* text) { return QCoreApplication::translate(context, text); }
 
 } // namespace
 
@@ -42,9 +48,11 @@ void OverlayChanges::SetLongProblem(TSqliteStore& /*store*/, bool isThere)
     if (!isThere)
         CabQuick::ClearProblem(key);
     else
-        CabQuick::SetProblem(key, QStringLiteral("The coverage is kept in memory until it can be stored. Cannot write "
-                                                 "/media/internal/Smith/North/F1/Jobs/Spring_2024/Spring_2024.cov: "
-                                                 "no space left on device"));
+        CabQuick::SetProblem(
+            key, Sentence("TWork", "The coverage is kept in memory until it can be stored. %1")
+                     .arg(CabQuick::HostText(QStringLiteral(
+                         "cannot write /media/internal/Smith/North/F1/Jobs/Spring_2024/Spring_2024.cov: No space "
+                         "left on device"))));
 }
 
 void OverlayChanges::SetNewLanguage(TSqliteStore& store, bool /*isThere*/)
@@ -62,7 +70,7 @@ void OverlayChanges::SetEverything(TSqliteStore& store, bool isThere)
     if (!isThere)
         CabQuick::ClearProblem(key);
     else
-        CabQuick::SetProblem(key, QStringLiteral("The stick was pulled before the copy was done."));
+        CabQuick::SetProblem(key, Sentence("Transfer", "The stick was removed before everything was on it."));
 }
 
 const tagOverlay* FindOverlay(const QString& name)
