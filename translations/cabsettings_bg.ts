@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>First value</source>
-        <translation>Начална</translation>
+        <translation>Начален</translation>
     </message>
     <message>
         <source>Digits of the colour</source>
@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>%1, too low: at least %2</source>
-        <translation>%1, твърде малко: поне %2</translation>
+        <translation>%1, твърде нисък: поне %2</translation>
     </message>
 </context>
 <context>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Възможно е: %4</translation>
+        <translation>%3 Предложение: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -378,8 +378,8 @@
     <message numerus="yes">
         <source>%2 is active and holds %n file(s).</source>
         <translation>
-            <numerusform>Активно: %2, вътре %n файл.</numerusform>
-            <numerusform>Активно: %2, вътре %n файла.</numerusform>
+            <numerusform>%2 се използва и съдържа %n файл.</numerusform>
+            <numerusform>%2 се използва и съдържа %n файла.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -391,7 +391,7 @@
     </message>
     <message>
         <source>%2 is active.</source>
-        <translation>Активно: %2.</translation>
+        <translation>%2 се използва.</translation>
     </message>
     <message>
         <source>%2 is no longer there.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Файл не може да се казва така. Възможно е: %1</translation>
+        <translation>Файл не може да се казва така. Предложение: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -2029,7 +2029,7 @@
     <message>
         <source>set %1</source>
         <comment>the rate that is set</comment>
-        <translation>зададено %1</translation>
+        <translation>зададена %1</translation>
     </message>
 </context>
 <context>

@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>%1, too low: at least %2</source>
-        <translation>%1, příliš málo: nejméně %2</translation>
+        <translation>%1, příliš nízký: nejméně %2</translation>
     </message>
 </context>
 <context>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Možný je: %4</translation>
+        <translation>%3 Lze použít: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -663,7 +663,7 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Nový</translation>
+        <translation>Přidat</translation>
     </message>
 </context>
 <context>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Soubor nemůže mít tento název. Možný je: %1</translation>
+        <translation>Soubor nemůže mít tento název. Lze použít: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1584,7 +1584,7 @@
     </message>
     <message>
         <source>Heading up</source>
-        <translation>Směr jízdy</translation>
+        <translation>Směr jízdy nahoře</translation>
     </message>
     <message>
         <source>North up</source>
@@ -1842,7 +1842,7 @@
     </message>
     <message>
         <source>Ours</source>
-        <translation>Zdejší</translation>
+        <translation>Zde</translation>
     </message>
     <message>
         <source>Theirs</source>
@@ -2254,7 +2254,7 @@
     </message>
     <message>
         <source>All settings</source>
-        <translation>Celé nastavení</translation>
+        <translation>Všechna nastavení</translation>
     </message>
 </context>
 <context>

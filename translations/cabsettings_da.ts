@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Muligt er: %4</translation>
+        <translation>%3 Prøv: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -661,7 +661,7 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Ny</translation>
+        <translation>Opret</translation>
     </message>
 </context>
 <context>
@@ -794,7 +794,7 @@
     <name>LogsPage</name>
     <message>
         <source>Logs</source>
-        <translation>Logge</translation>
+        <translation>Log</translation>
     </message>
     <message>
         <source>Events</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Decides the guidance lines beside each other, and the area done</source>
-        <translation>Bestemmer kørelinjerne ved siden af hinanden og det færdige areal</translation>
+        <translation>Bestemmer kørelinjernes afstand og det færdige areal</translation>
     </message>
     <message>
         <source>Implement behind the antenna</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>Hvor langt bag køretøjets sted jorden bliver behandlet</translation>
+        <translation>Hvor langt bag køretøjets position jorden bliver behandlet</translation>
     </message>
 </context>
 <context>
@@ -874,7 +874,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Indstil</translation>
+        <translation>Gem</translation>
     </message>
 </context>
 <context>
@@ -959,11 +959,11 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Sådan kan en fil ikke hedde. Muligt er: %1</translation>
+        <translation>Sådan kan en fil ikke hedde. Prøv: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
-        <translation>Ikke muligt. Ventet: %1.</translation>
+        <translation>Ikke muligt. Forventet: %1.</translation>
     </message>
     <message>
         <source>a name without %1</source>
@@ -1134,7 +1134,7 @@
     </message>
     <message>
         <source>the active guidance curve</source>
-        <translation>den aktive kurve at følge</translation>
+        <translation>den aktive kurvede kørelinje</translation>
     </message>
     <message>
         <source>the active shape file of optimal lines</source>

@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>%1, too low: at least %2</source>
-        <translation>%1, zu wenig: mindestens %2</translation>
+        <translation>%1, zu gering: mindestens %2</translation>
     </message>
 </context>
 <context>
@@ -224,11 +224,11 @@
     </message>
     <message>
         <source>Receiver</source>
-        <translation>Empfang</translation>
+        <translation>Empfänger</translation>
     </message>
     <message>
         <source>Logs</source>
-        <translation>Protokoll</translation>
+        <translation>Protokolle</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
-        <translation>%1 mit allem Inhalt entfernen?</translation>
+        <translation>%1 mit allem Inhalt löschen?</translation>
     </message>
 </context>
 <context>
@@ -467,7 +467,7 @@
     </message>
     <message>
         <source>Another program uses it.</source>
-        <translation>Ein anderes Programm benutzt es gerade.</translation>
+        <translation>Ein anderes Programm greift gerade darauf zu.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
@@ -874,7 +874,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Setzen</translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1090,11 +1090,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>Ordner des internen Laufwerks; sonst im Datenordner</translation>
+        <translation>Ordner des internen Laufwerks; ohne Angabe im Datenordner</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>Einhängepunkt des Sticks; sonst im Datenordner</translation>
+        <translation>Einhängepunkt des Sticks; ohne Angabe im Datenordner</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1510,7 +1510,7 @@
     </message>
     <message>
         <source>Colour of zones to keep out of</source>
-        <translation>Farbe der Zonen, die frei bleiben</translation>
+        <translation>Farbe der Sperrzonen</translation>
     </message>
     <message>
         <source>Background picture</source>
@@ -1582,7 +1582,7 @@
     </message>
     <message>
         <source>Heading up</source>
-        <translation>Fahrtrichtung</translation>
+        <translation>Fahrtrichtung oben</translation>
     </message>
     <message>
         <source>North up</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Bearbeitet</translation>
+        <translation>Bearbeitete Fläche</translation>
     </message>
     <message>
         <source>Area left</source>
@@ -1805,7 +1805,7 @@
     <name>Problems</name>
     <message>
         <source>The logs lose lines: their drive is full or cannot be written.</source>
-        <translation>Die Protokolle verlieren Zeilen: ihr Laufwerk ist voll oder kann nicht beschrieben werden.</translation>
+        <translation>Die Protokolle verlieren Zeilen: Das Laufwerk ist voll oder kann nicht beschrieben werden.</translation>
     </message>
     <message>
         <source>Recording is off, because there is too little room.</source>
@@ -1840,7 +1840,7 @@
     </message>
     <message>
         <source>Ours</source>
-        <translation>Hiesiger</translation>
+        <translation>Hier</translation>
     </message>
     <message>
         <source>Theirs</source>
@@ -2424,7 +2424,7 @@
     </message>
     <message>
         <source>There is no value to set.</source>
-        <translation>Es gibt keinen Wert.</translation>
+        <translation>Es gibt keinen Wert zum Setzen.</translation>
     </message>
 </context>
 <context>
@@ -3051,7 +3051,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Ein Teil der bearbeiteten Fläche war unvollständig und fehlt: Streifen %1, Byte %2</translation>
+        <translation>Ein Teil der bearbeiteten Fläche war unvollständig und fehlt (Streifen: %1, Bytes: %2)</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3087,7 +3087,7 @@
     </message>
     <message>
         <source>The coverage of this job cannot be used: what is covered is not stored.</source>
-        <translation>Die bearbeitete Fläche dieses Auftrags ist nicht lesbar: Die neue wird nicht gespeichert.</translation>
+        <translation>Die bearbeitete Fläche dieses Auftrags ist nicht verwendbar: Die neue wird nicht gespeichert.</translation>
     </message>
     <message>
         <source>The coverage cannot be stored, and strips are lost: %1</source>
@@ -3164,7 +3164,7 @@
     <name>TilesPage</name>
     <message>
         <source>Back to the first choice</source>
-        <translation>Zurück zur ersten Auswahl</translation>
+        <translation>Zurück zur Auswahl ab Werk</translation>
     </message>
     <message>
         <source>%1 further ahead</source>
@@ -3183,7 +3183,7 @@
     <name>Transfer</name>
     <message>
         <source>Nothing is imported: some settings were changed here and in the profile.</source>
-        <translation>Nichts wurde übernommen: einige Einstellungen wurden hier und im Profil geändert.</translation>
+        <translation>Nichts wurde eingelesen: Einige Einstellungen wurden hier und im Profil geändert.</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -3243,7 +3243,7 @@
     </message>
     <message>
         <source>The profile is imported (settings changed: %1).</source>
-        <translation>Das Profil ist übernommen (geänderte Einstellungen: %1).</translation>
+        <translation>Das Profil ist eingelesen (geänderte Einstellungen: %1).</translation>
     </message>
     <message>
         <source>It cannot be used.</source>
@@ -3254,7 +3254,7 @@
     <name>TransferState</name>
     <message>
         <source>Writing</source>
-        <translation>Schreiben</translation>
+        <translation>Wird geschrieben</translation>
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>

@@ -171,11 +171,11 @@
     <name>Contrasts</name>
     <message>
         <source>on %1: %2</source>
-        <translation>σε %1: %2</translation>
+        <translation>σε «%1»: %2</translation>
     </message>
     <message>
         <source>under %1: %2</source>
-        <translation>κάτω από %1: %2</translation>
+        <translation>κάτω από «%1»: %2</translation>
     </message>
     <message>
         <source>%1, too low: at least %2</source>
@@ -435,7 +435,7 @@
     </message>
     <message>
         <source>The file is damaged.</source>
-        <translation>Το αρχείο έχει φθαρεί.</translation>
+        <translation>Το αρχείο είναι κατεστραμμένο.</translation>
     </message>
     <message>
         <source>The file is not complete.</source>
@@ -1150,7 +1150,7 @@
     </message>
     <message>
         <source>the active steering profile</source>
-        <translation>το ενεργό προφίλ διεύθυνσης</translation>
+        <translation>το ενεργό προφίλ οδήγησης</translation>
     </message>
     <message>
         <source>the active implement</source>
@@ -1182,7 +1182,7 @@
     </message>
     <message>
         <source>Measures</source>
-        <translation>Σύστ. μονάδων</translation>
+        <translation>Σύστημα μονάδων</translation>
     </message>
     <message>
         <source>Gallons and bushels</source>
@@ -1334,7 +1334,7 @@
     </message>
     <message>
         <source>Steering profile</source>
-        <translation>Προφίλ διεύθυνσης</translation>
+        <translation>Προφίλ οδήγησης</translation>
     </message>
     <message>
         <source>Boundary</source>
@@ -1722,11 +1722,11 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Καλυμ. έκταση</translation>
+        <translation>Καλυμμένη έκταση</translation>
     </message>
     <message>
         <source>Area left</source>
-        <translation>Υπόλ. έκταση</translation>
+        <translation>Υπόλοιπη έκταση</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -1782,7 +1782,7 @@
     </message>
     <message>
         <source>Storage</source>
-        <translation>Αποθήκευση</translation>
+        <translation>Δεδομένα</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -1840,7 +1840,7 @@
     </message>
     <message>
         <source>Ours</source>
-        <translation>Από εδώ</translation>
+        <translation>Εδώ</translation>
     </message>
     <message>
         <source>Theirs</source>
@@ -2190,11 +2190,11 @@
     </message>
     <message>
         <source>Date and time</source>
-        <translation>Ημερομηνία, ώρα</translation>
+        <translation>Ημερομηνία και ώρα</translation>
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Με το χέρι</translation>
+        <translation>Χειροκίνητα</translation>
     </message>
 </context>
 <context>
@@ -2236,7 +2236,7 @@
     </message>
     <message>
         <source>Storage</source>
-        <translation>Αποθήκευση</translation>
+        <translation>Δεδομένα</translation>
     </message>
     <message>
         <source>About</source>
@@ -3172,11 +3172,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Εμφανή</translation>
+        <translation>Ορατό</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Κρυμμένα</translation>
+        <translation>Κρυφό</translation>
     </message>
 </context>
 <context>

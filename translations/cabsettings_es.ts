@@ -129,7 +129,7 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>Antes</translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>Former colour</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Es posible: %4</translation>
+        <translation>%3 Sugerencia: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>No puede ser nombre de archivo. Es posible: %1</translation>
+        <translation>No puede ser nombre de archivo. Sugerencia: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1242,7 +1242,7 @@
     </message>
     <message>
         <source>Time zone set by hand</source>
-        <translation>Huso horario a mano</translation>
+        <translation>Huso horario manual</translation>
     </message>
     <message>
         <source>Time zone, hours</source>
@@ -1690,7 +1690,7 @@
     </message>
     <message>
         <source>By hand</source>
-        <translation>A mano</translation>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Sunset</source>
@@ -1730,7 +1730,7 @@
     </message>
     <message>
         <source>Productivity</source>
-        <translation>Rend. horario</translation>
+        <translation>Rendimiento horario</translation>
     </message>
     <message>
         <source>Flow</source>
@@ -1840,7 +1840,7 @@
     </message>
     <message>
         <source>Ours</source>
-        <translation>El de aquí</translation>
+        <translation>Aquí</translation>
     </message>
     <message>
         <source>Theirs</source>
@@ -1878,7 +1878,7 @@
     </message>
     <message>
         <source>Productivity</source>
-        <translation>Rend. horario</translation>
+        <translation>Rendimiento horario</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -2072,7 +2072,7 @@
     </message>
     <message>
         <source>By hand</source>
-        <translation>A mano</translation>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Simulated</source>
@@ -2194,7 +2194,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Ajuste a mano</translation>
+        <translation>Ajuste manual</translation>
     </message>
 </context>
 <context>
@@ -2236,7 +2236,7 @@
     </message>
     <message>
         <source>Storage</source>
-        <translation>Almacenaje</translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>About</source>
@@ -3172,11 +3172,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Visibles</translation>
+        <translation>Visible</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Ocultas</translation>
+        <translation>Oculta</translation>
     </message>
 </context>
 <context>

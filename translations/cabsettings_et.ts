@@ -171,11 +171,11 @@
     <name>Contrasts</name>
     <message>
         <source>on %1: %2</source>
-        <translation>taustal %1: %2</translation>
+        <translation>„%1“ peal: %2</translation>
     </message>
     <message>
         <source>under %1: %2</source>
-        <translation>all %1: %2</translation>
+        <translation>„%1“ all: %2</translation>
     </message>
     <message>
         <source>%1, too low: at least %2</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logi</translation>
+        <translation>Logid</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -239,7 +239,7 @@
     <name>Drives</name>
     <message>
         <source>%1 free of %2</source>
-        <translation>Vaba %1 / %2</translation>
+        <translation>vaba %1 / %2</translation>
     </message>
     <message>
         <source>Not known</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Võimalik on: %4</translation>
+        <translation>%3 Proovi: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Decides the guidance lines beside each other, and the area done</source>
-        <translation>Määrab kõrvuti juhtjooned ja tehtud pindala</translation>
+        <translation>Määrab juhtjoonte vahe ja töödeldud pindala</translation>
     </message>
     <message>
         <source>Implement behind the antenna</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Nii ei saa faili nimetada. Võimalik on: %1</translation>
+        <translation>Nii ei saa faili nimetada. Proovi: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1046,7 +1046,7 @@
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
-        <translation>millal värvid päeva ja öö vahel vahetuvad: ainult käsitsi, päikesetõusul ja -loojangul või kui päike on 6 kraadi allpool horisonti</translation>
+        <translation>millal värvid päeva ja öö vahel vahetuvad: ainult käsitsi, päikese tõusul ja loojangul või kui päike on 6 kraadi allpool horisonti</translation>
     </message>
     <message>
         <source>what set the display&apos;s clock</source>
@@ -1582,7 +1582,7 @@
     </message>
     <message>
         <source>Heading up</source>
-        <translation>Sõidusuund</translation>
+        <translation>Sõidusuund üles</translation>
     </message>
     <message>
         <source>North up</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Tehtud pindala</translation>
+        <translation>Töödeldud pindala</translation>
     </message>
     <message>
         <source>Area left</source>
@@ -1786,7 +1786,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logi</translation>
+        <translation>Logid</translation>
     </message>
     <message>
         <source>Terminal</source>
@@ -2343,7 +2343,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logi</translation>
+        <translation>Logid</translation>
     </message>
     <message>
         <source>Writes all log files to the stick</source>

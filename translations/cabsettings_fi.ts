@@ -129,11 +129,11 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>Entinen</translation>
+        <translation>Edellinen</translation>
     </message>
     <message>
         <source>Former colour</source>
-        <translation>Entinen väri</translation>
+        <translation>Edellinen väri</translation>
     </message>
     <message>
         <source>First value</source>
@@ -171,11 +171,11 @@
     <name>Contrasts</name>
     <message>
         <source>on %1: %2</source>
-        <translation>pohja %1: %2</translation>
+        <translation>pohjana %1: %2</translation>
     </message>
     <message>
         <source>under %1: %2</source>
-        <translation>alla %1: %2</translation>
+        <translation>päällä %1: %2</translation>
     </message>
     <message>
         <source>%1, too low: at least %2</source>
@@ -201,7 +201,7 @@
     <name>Display</name>
     <message>
         <source>Restart</source>
-        <translation>Uusi käynnistys</translation>
+        <translation>Käynnistä uudelleen</translation>
     </message>
     <message>
         <source>The fonts of the display</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Loki</translation>
+        <translation>Lokit</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -239,7 +239,7 @@
     <name>Drives</name>
     <message>
         <source>%1 free of %2</source>
-        <translation>Vapaana %1 / %2</translation>
+        <translation>vapaana %1 / %2</translation>
     </message>
     <message>
         <source>Not known</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Mahdollinen on: %4</translation>
+        <translation>%3 Kokeile: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Tämä ei kelpaa tiedoston nimeksi. Mahdollinen on: %1</translation>
+        <translation>Tämä ei kelpaa tiedoston nimeksi. Kokeile: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1786,7 +1786,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Loki</translation>
+        <translation>Lokit</translation>
     </message>
     <message>
         <source>Terminal</source>
@@ -2343,7 +2343,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Loki</translation>
+        <translation>Lokit</translation>
     </message>
     <message>
         <source>Writes all log files to the stick</source>

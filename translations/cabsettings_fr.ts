@@ -378,8 +378,8 @@
     <message numerus="yes">
         <source>%2 is active and holds %n file(s).</source>
         <translation>
-            <numerusform>%2 est en service et contient %n fichier.</numerusform>
-            <numerusform>%2 est en service et contient %n fichiers.</numerusform>
+            <numerusform>%2 est en cours d&apos;utilisation et contient %n fichier.</numerusform>
+            <numerusform>%2 est en cours d&apos;utilisation et contient %n fichiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -391,7 +391,7 @@
     </message>
     <message>
         <source>%2 is active.</source>
-        <translation>%2 est en service.</translation>
+        <translation>%2 est en cours d&apos;utilisation.</translation>
     </message>
     <message>
         <source>%2 is no longer there.</source>
@@ -1726,7 +1726,7 @@
     </message>
     <message>
         <source>Area left</source>
-        <translation>Surf. restante</translation>
+        <translation>Surface restante</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -1840,7 +1840,7 @@
     </message>
     <message>
         <source>Ours</source>
-        <translation>D&apos;ici</translation>
+        <translation>Ici</translation>
     </message>
     <message>
         <source>Theirs</source>
@@ -3172,11 +3172,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Affichées</translation>
+        <translation>Affichée</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Masquées</translation>
+        <translation>Masquée</translation>
     </message>
 </context>
 <context>

@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Moguće je: %4</translation>
+        <translation>%3 Prijedlog: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Datoteka se ne može tako zvati. Moguće je: %1</translation>
+        <translation>Datoteka se ne može tako zvati. Prijedlog: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Riječi postavke</translation>
+        <translation>Tražene riječi</translation>
     </message>
     <message>
         <source>No setting has these words.</source>

@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Beállítás</translation>
+        <translation>Beállítások</translation>
     </message>
 </context>
 <context>
@@ -302,7 +302,7 @@
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
-        <translation>%1 törlése a teljes tartalommal?</translation>
+        <translation>%1 törlése teljes tartalmával?</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1232,7 +1232,7 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Pontos idő</translation>
+        <translation>Időformátum</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -1260,7 +1260,7 @@
     </message>
     <message>
         <source>Source of the time since</source>
-        <translation>Az idő forrása óta</translation>
+        <translation>Az idő forrása, mióta</translation>
     </message>
     <message>
         <source>Newest receiver time</source>
@@ -2203,7 +2203,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Beállítás szavai</translation>
+        <translation>Keresett szavak</translation>
     </message>
     <message>
         <source>No setting has these words.</source>

@@ -129,7 +129,7 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>Prima</translation>
+        <translation>Preced.</translation>
     </message>
     <message>
         <source>Former colour</source>
@@ -1234,7 +1234,7 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Ora del giorno</translation>
+        <translation>Formato ora</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -1278,7 +1278,7 @@
     </message>
     <message>
         <source>Map direction</source>
-        <translation>Verso della mappa</translation>
+        <translation>Direzione mappa</translation>
     </message>
     <message>
         <source>Tiles</source>
@@ -1546,7 +1546,7 @@
     </message>
     <message>
         <source>English</source>
-        <translation>Imperiale</translation>
+        <translation>Imperiali</translation>
     </message>
     <message>
         <source>Deg., min., s</source>
@@ -2194,7 +2194,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Regolato a mano</translation>
+        <translation>Regola a mano</translation>
     </message>
 </context>
 <context>
@@ -2252,7 +2252,7 @@
     </message>
     <message>
         <source>All settings</source>
-        <translation>Tutte le impost.</translation>
+        <translation>Tutte le impostazioni</translation>
     </message>
 </context>
 <context>
@@ -3172,11 +3172,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Visibili</translation>
+        <translation>Visibile</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Nascosti</translation>
+        <translation>Nascosto</translation>
     </message>
 </context>
 <context>

@@ -99,11 +99,11 @@
     </message>
     <message>
         <source>%1: more</source>
-        <translation>%1: 増やす</translation>
+        <translation>%1：増やす</translation>
     </message>
     <message>
         <source>%1: less</source>
-        <translation>%1: 減らす</translation>
+        <translation>%1：減らす</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -118,11 +118,11 @@
     <name>ColorBar</name>
     <message>
         <source>%1: less</source>
-        <translation>%1: 減らす</translation>
+        <translation>%1：減らす</translation>
     </message>
     <message>
         <source>%1: more</source>
-        <translation>%1: 増やす</translation>
+        <translation>%1：増やす</translation>
     </message>
 </context>
 <context>
@@ -302,7 +302,7 @@
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
-        <translation>%1 を内容ごと削除しますか?</translation>
+        <translation>%1 を内容ごと削除しますか？</translation>
     </message>
     <message>
         <source>OK</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 使える名前：%4</translation>
+        <translation>%3使える名前：%4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -890,7 +890,7 @@
     <name>ParameterRow</name>
     <message>
         <source>%1: back to the first value</source>
-        <translation>%1: 初期値に戻す</translation>
+        <translation>%1：初期値に戻す</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1232,11 +1232,11 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>時刻</translation>
+        <translation>時刻の表示</translation>
     </message>
     <message>
         <source>Dates</source>
-        <translation>日付</translation>
+        <translation>日付の表示</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -2192,7 +2192,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>手動</translation>
+        <translation>手動で設定</translation>
     </message>
 </context>
 <context>
@@ -2203,7 +2203,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>設定の語句</translation>
+        <translation>設定を検索</translation>
     </message>
     <message>
         <source>No setting has these words.</source>

@@ -201,7 +201,7 @@
     <name>Display</name>
     <message>
         <source>Restart</source>
-        <translation>Perkrauti</translation>
+        <translation>Paleisti iš naujo</translation>
     </message>
     <message>
         <source>The fonts of the display</source>
@@ -333,43 +333,43 @@
     </message>
     <message>
         <source>This name is not possible.</source>
-        <translation>Šis vardas negalimas.</translation>
+        <translation>Šis pavadinimas negalimas.</translation>
     </message>
     <message>
         <source>The name is empty.</source>
-        <translation>Vardas tuščias.</translation>
+        <translation>Pavadinimas tuščias.</translation>
     </message>
     <message>
         <source>This name stands for another folder.</source>
-        <translation>Šis vardas reiškia kitą aplanką.</translation>
+        <translation>Šis pavadinimas reiškia kitą aplanką.</translation>
     </message>
     <message>
         <source>The name must not contain %1.</source>
-        <translation>Varde negali būti %1.</translation>
+        <translation>Pavadinime negali būti %1.</translation>
     </message>
     <message>
         <source>The name contains a sign that cannot be seen.</source>
-        <translation>Varde yra nematomas ženklas.</translation>
+        <translation>Pavadinime yra nematomas ženklas.</translation>
     </message>
     <message>
         <source>The name contains a sign that is not complete.</source>
-        <translation>Varde yra nepilnas ženklas.</translation>
+        <translation>Pavadinime yra nepilnas ženklas.</translation>
     </message>
     <message>
         <source>The name must not end in a full stop or a blank.</source>
-        <translation>Vardas negali baigtis tašku ar tarpu.</translation>
+        <translation>Pavadinimas negali baigtis tašku ar tarpu.</translation>
     </message>
     <message>
         <source>The name must not begin with a blank.</source>
-        <translation>Vardas negali prasidėti tarpu.</translation>
+        <translation>Pavadinimas negali prasidėti tarpu.</translation>
     </message>
     <message>
         <source>A stick cannot hold a file with this name.</source>
-        <translation>USB atmintinėje negali būti failo tokiu vardu.</translation>
+        <translation>USB atmintinėje negali būti failo tokiu pavadinimu.</translation>
     </message>
     <message>
         <source>The name is too long.</source>
-        <translation>Vardas per ilgas.</translation>
+        <translation>Pavadinimas per ilgas.</translation>
     </message>
     <message>
         <source>%2 exists already.</source>
@@ -663,7 +663,7 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Naujas</translation>
+        <translation>Pridėti</translation>
     </message>
 </context>
 <context>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>a colour: #rrggbb, #aarrggbb or a name such as navy</source>
-        <translation>spalva: #rrggbb, #aarrggbb arba vardas, pvz., navy</translation>
+        <translation>spalva: #rrggbb, #aarrggbb arba pavadinimas, pvz., navy</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Failas negali turėti tokio vardo. Galimas: %1</translation>
+        <translation>Failas negali turėti tokio pavadinimo. Galimas: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>a name without %1</source>
-        <translation>vardas be %1</translation>
+        <translation>pavadinimas be %1</translation>
     </message>
     <message>
         <source>a whole number</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Paros laikas</translation>
+        <translation>Laiko formatas</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -1869,7 +1869,7 @@
     </message>
     <message>
         <source>Name of the profile</source>
-        <translation>Profilio vardas</translation>
+        <translation>Profilio pavadinimas</translation>
     </message>
 </context>
 <context>
@@ -2038,7 +2038,7 @@
     <name>Receiver</name>
     <message>
         <source>Off</source>
-        <translation>Išjungta</translation>
+        <translation>Išjungtas</translation>
     </message>
     <message>
         <source>Connecting</source>
@@ -2196,7 +2196,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Ranka</translation>
+        <translation>Nustatyti ranka</translation>
     </message>
 </context>
 <context>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Nuostatos žodžiai</translation>
+        <translation>Ieškomi žodžiai</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -2378,7 +2378,7 @@
     </message>
     <message>
         <source>Writes logs, settings and versions in one file; without the names of clients, farms and fields</source>
-        <translation>Įrašo žurnalus, nuostatas ir versijas į vieną failą; be klientų, ūkių ir laukų vardų</translation>
+        <translation>Įrašo žurnalus, nuostatas ir versijas į vieną failą; be klientų, ūkių ir laukų pavadinimų</translation>
     </message>
     <message>
         <source>Write</source>
@@ -2386,19 +2386,19 @@
     </message>
     <message>
         <source>Write the file for support without names</source>
-        <translation>Rašyti failą servisui be vardų</translation>
+        <translation>Rašyti failą servisui be pavadinimų</translation>
     </message>
     <message>
         <source>Support, with names</source>
-        <translation>Servisas, su vardais</translation>
+        <translation>Servisas, su pavadinimais</translation>
     </message>
     <message>
         <source>The same file, with all names and places</source>
-        <translation>Tas pats failas su visais vardais ir vietomis</translation>
+        <translation>Tas pats failas su visais pavadinimais ir vietomis</translation>
     </message>
     <message>
         <source>Write the file for support with names</source>
-        <translation>Rašyti failą servisui su vardais</translation>
+        <translation>Rašyti failą servisui su pavadinimais</translation>
     </message>
 </context>
 <context>
@@ -2409,7 +2409,7 @@
     </message>
     <message>
         <source>There is one with this name already.</source>
-        <translation>Toks vardas jau yra.</translation>
+        <translation>Toks pavadinimas jau yra.</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s), %1</source>
@@ -2486,11 +2486,11 @@
     <name>TRestart</name>
     <message>
         <source>The new language is shown after a restart.</source>
-        <translation>Nauja kalba bus rodoma perkrovus.</translation>
+        <translation>Nauja kalba bus rodoma paleidus iš naujo.</translation>
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Naujas dešimtainis ženklas bus rodomas perkrovus.</translation>
+        <translation>Naujas dešimtainis ženklas bus rodomas paleidus iš naujo.</translation>
     </message>
 </context>
 <context>
@@ -2547,7 +2547,7 @@
     <name>TTransfer</name>
     <message>
         <source>The name is empty.</source>
-        <translation>Vardas tuščias.</translation>
+        <translation>Pavadinimas tuščias.</translation>
     </message>
 </context>
 <context>
@@ -3075,7 +3075,7 @@
     </message>
     <message>
         <source>The line has no name.</source>
-        <translation>Linija neturi vardo.</translation>
+        <translation>Linija neturi pavadinimo.</translation>
     </message>
     <message>
         <source>The guidance line cannot be used. %1</source>

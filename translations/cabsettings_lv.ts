@@ -239,7 +239,7 @@
     <name>Drives</name>
     <message>
         <source>%1 free of %2</source>
-        <translation>%1 brīvs no %2</translation>
+        <translation>%1 brīvi no %2</translation>
     </message>
     <message>
         <source>Not known</source>
@@ -302,7 +302,7 @@
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
-        <translation>Noņemt %1 ar visu saturu?</translation>
+        <translation>Dzēst %1 ar visu saturu?</translation>
     </message>
     <message>
         <source>OK</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>Rename or remove %1</source>
-        <translation>Pārdēvēt vai noņemt: %1</translation>
+        <translation>Pārdēvēt vai dzēst: %1</translation>
     </message>
     <message>
         <source>Rename %1</source>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Remove everything</source>
-        <translation>Noņemt visu</translation>
+        <translation>Dzēst visu</translation>
     </message>
 </context>
 <context>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>%1 cannot be removed. %2</source>
-        <translation>%1 nevar noņemt. %2</translation>
+        <translation>%1 nevar izdzēst. %2</translation>
     </message>
     <message>
         <source>The drive is full.</source>
@@ -652,7 +652,7 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation>Noņemt</translation>
+        <translation>Dzēst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>%1 līdz %2 %3</translation>
+        <translation>no %1 līdz %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 līdz %2</translation>
+        <translation>no %1 līdz %2</translation>
     </message>
     <message>
         <source>Not a whole number.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
-        <translation>Nav pieņemts. Gaidīts: %1.</translation>
+        <translation>Nav pieņemts. Jābūt: %1.</translation>
     </message>
     <message>
         <source>a name without %1</source>
@@ -2196,7 +2196,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Ar roku</translation>
+        <translation>Iestatīt ar roku</translation>
     </message>
 </context>
 <context>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Iestatījuma vārdi</translation>
+        <translation>Meklējamie vārdi</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -3176,11 +3176,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Redzams</translation>
+        <translation>Rādīt</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Paslēpts</translation>
+        <translation>Slēpt</translation>
     </message>
 </context>
 <context>

@@ -201,7 +201,7 @@
     <name>Display</name>
     <message>
         <source>Restart</source>
-        <translation>Omstart</translation>
+        <translation>Start på nytt</translation>
     </message>
     <message>
         <source>The fonts of the display</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logg</translation>
+        <translation>Logger</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -661,7 +661,7 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Ny</translation>
+        <translation>Nytt</translation>
     </message>
 </context>
 <context>
@@ -963,7 +963,7 @@
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
-        <translation>Ikke mulig. Ventet: %1.</translation>
+        <translation>Ikke mulig. Forventet: %1.</translation>
     </message>
     <message>
         <source>a name without %1</source>
@@ -1786,7 +1786,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logg</translation>
+        <translation>Logger</translation>
     </message>
     <message>
         <source>Terminal</source>
@@ -2194,7 +2194,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Manuelt</translation>
+        <translation>Still manuelt</translation>
     </message>
 </context>
 <context>
@@ -2343,7 +2343,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logg</translation>
+        <translation>Logger</translation>
     </message>
     <message>
         <source>Writes all log files to the stick</source>

@@ -1330,7 +1330,7 @@
     </message>
     <message>
         <source>Boom leveller</source>
-        <translation>Boomgeleiding</translation>
+        <translation>Spuitboomgeleiding</translation>
     </message>
     <message>
         <source>Steering profile</source>
@@ -2194,7 +2194,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Met de hand</translation>
+        <translation>Zelf instellen</translation>
     </message>
 </context>
 <context>

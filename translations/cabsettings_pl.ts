@@ -663,14 +663,14 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Nowy</translation>
+        <translation>Dodaj</translation>
     </message>
 </context>
 <context>
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>%1 do %2 %3</translation>
+        <translation>od %1 do %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 do %2</translation>
+        <translation>od %1 do %2</translation>
     </message>
     <message>
         <source>Not a whole number.</source>
@@ -1536,11 +1536,11 @@
     </message>
     <message>
         <source>Metric</source>
-        <translation>Metryczne</translation>
+        <translation>Metryczny</translation>
     </message>
     <message>
         <source>US or English</source>
-        <translation>US lub angielskie</translation>
+        <translation>US lub angielski</translation>
     </message>
     <message>
         <source>US</source>
@@ -2188,7 +2188,7 @@
     </message>
     <message>
         <source>Time zone</source>
-        <translation>Strefa czas.</translation>
+        <translation>Strefa czasowa</translation>
     </message>
     <message>
         <source>Date and time</source>
@@ -2196,7 +2196,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Ręcznie</translation>
+        <translation>Ustaw ręcznie</translation>
     </message>
 </context>
 <context>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Słowa ustawienia</translation>
+        <translation>Szukane słowa</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -3176,11 +3176,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Widoczne</translation>
+        <translation>Widoczny</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Ukryte</translation>
+        <translation>Ukryty</translation>
     </message>
 </context>
 <context>

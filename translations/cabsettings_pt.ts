@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The clock was set by hand.</source>
-        <translation>O relógio foi acertado à mão.</translation>
+        <translation>O relógio foi acertado manualmente.</translation>
     </message>
     <message>
         <source>The receiver sets the clock.</source>
@@ -129,7 +129,7 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>Antes</translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>Former colour</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>First value</source>
-        <translation>Valor de fábrica</translation>
+        <translation>De fábrica</translation>
     </message>
     <message>
         <source>Digits of the colour</source>
@@ -216,7 +216,7 @@
     <name>DoorBand</name>
     <message>
         <source>Work</source>
-        <translation>Trabalho</translation>
+        <translation>Operação</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 É possível: %4</translation>
+        <translation>%3 Sugestão: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Não pode ser nome de arquivo. É possível: %1</translation>
+        <translation>Não pode ser nome de arquivo. Sugestão: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1046,7 +1046,7 @@
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
-        <translation>quando as cores trocam entre dia e noite: só à mão, ao nascer e pôr do sol, ou com o sol 6 graus abaixo do horizonte</translation>
+        <translation>quando as cores trocam entre dia e noite: só manualmente, ao nascer e pôr do sol, ou com o sol 6 graus abaixo do horizonte</translation>
     </message>
     <message>
         <source>what set the display&apos;s clock</source>
@@ -1234,15 +1234,15 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Hora do dia</translation>
+        <translation>Formato da hora</translation>
     </message>
     <message>
         <source>Dates</source>
-        <translation>Datas</translation>
+        <translation>Formato da data</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
-        <translation>Fuso horário à mão</translation>
+        <translation>Fuso horário manual</translation>
     </message>
     <message>
         <source>Time zone, hours</source>
@@ -1690,7 +1690,7 @@
     </message>
     <message>
         <source>By hand</source>
-        <translation>À mão</translation>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Sunset</source>
@@ -2072,7 +2072,7 @@
     </message>
     <message>
         <source>By hand</source>
-        <translation>À mão</translation>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Simulated</source>
@@ -2194,7 +2194,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Acerto à mão</translation>
+        <translation>Ajuste manual</translation>
     </message>
 </context>
 <context>
@@ -2205,7 +2205,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Palavras de um ajuste</translation>
+        <translation>Buscar um ajuste</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -2236,7 +2236,7 @@
     </message>
     <message>
         <source>Storage</source>
-        <translation>Discos</translation>
+        <translation>Armazenamento</translation>
     </message>
     <message>
         <source>About</source>
@@ -3172,11 +3172,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Visíveis</translation>
+        <translation>Visível</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Ocultos</translation>
+        <translation>Oculto</translation>
     </message>
 </context>
 <context>

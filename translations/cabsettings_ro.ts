@@ -129,7 +129,7 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>Anterior</translation>
+        <translation>Anterioară</translation>
     </message>
     <message>
         <source>Former colour</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>First value</source>
-        <translation>Val. din fabrică</translation>
+        <translation>Din fabrică</translation>
     </message>
     <message>
         <source>Digits of the colour</source>
@@ -239,7 +239,7 @@
     <name>Drives</name>
     <message>
         <source>%1 free of %2</source>
-        <translation>liber %1 din %2</translation>
+        <translation>%1 liberi din %2</translation>
     </message>
     <message>
         <source>Not known</source>
@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>%1 până la %2 %3</translation>
+        <translation>de la %1 la %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Ora</translation>
+        <translation>Formatul orei</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -2196,7 +2196,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Potrivit manual</translation>
+        <translation>Setare manuală</translation>
     </message>
 </context>
 <context>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Cuvinte din setare</translation>
+        <translation>Căutare setare</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -3176,11 +3176,11 @@
     </message>
     <message>
         <source>Shown</source>
-        <translation>Afișate</translation>
+        <translation>Afișată</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Ascunse</translation>
+        <translation>Ascunsă</translation>
     </message>
 </context>
 <context>

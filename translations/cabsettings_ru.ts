@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Возможно: %4</translation>
+        <translation>%3 Вариант: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -378,9 +378,9 @@
     <message numerus="yes">
         <source>%2 is active and holds %n file(s).</source>
         <translation>
-            <numerusform>Активно: %2, внутри %n файл.</numerusform>
-            <numerusform>Активно: %2, внутри %n файла.</numerusform>
-            <numerusform>Активно: %2, внутри %n файлов.</numerusform>
+            <numerusform>Используется: %2, внутри %n файл.</numerusform>
+            <numerusform>Используется: %2, внутри %n файла.</numerusform>
+            <numerusform>Используется: %2, внутри %n файлов.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>%2 is active.</source>
-        <translation>Активно: %2.</translation>
+        <translation>Используется: %2.</translation>
     </message>
     <message>
         <source>%2 is no longer there.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Такое имя файла невозможно. Возможно: %1</translation>
+        <translation>Такое имя файла невозможно. Вариант: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Dates</source>
-        <translation>Даты</translation>
+        <translation>Формат даты</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -2078,7 +2078,7 @@
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Имитация</translation>
+        <translation>Симуляция</translation>
     </message>
     <message>
         <source>The receiver sends nothing.</source>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Слова настройки</translation>
+        <translation>Поиск настройки</translation>
     </message>
     <message>
         <source>No setting has these words.</source>

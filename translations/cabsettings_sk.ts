@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Možné je: %4</translation>
+        <translation>%3 Návrh: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Súbor sa takto nemôže volať. Možné je: %1</translation>
+        <translation>Súbor sa takto nemôže volať. Návrh: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Dates</source>
-        <translation>Dátumy</translation>
+        <translation>Formát dátumu</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Slová nastavenia</translation>
+        <translation>Hľadať nastavenie</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -3121,7 +3121,7 @@
     </message>
     <message>
         <source>Speed</source>
-        <translation>Rýchl.</translation>
+        <translation>Rýchlosť</translation>
     </message>
     <message>
         <source>Area</source>

@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Mogoče je: %4</translation>
+        <translation>%3 Predlog: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -407,7 +407,7 @@
     </message>
     <message>
         <source>Another program is working on the fields. Try again later.</source>
-        <translation>Drug program dela z njivami. Poskusiti znova pozneje.</translation>
+        <translation>Drug program dela z njivami. Poskusite znova pozneje.</translation>
     </message>
     <message>
         <source>The selection could not be stored.</source>
@@ -787,7 +787,7 @@
     <name>LockLayer</name>
     <message>
         <source>The screen is locked. Hold the button to unlock it.</source>
-        <translation>Zaslon je zaklenjen. Za odklepanje držati tipko.</translation>
+        <translation>Zaslon je zaklenjen. Za odklepanje držite gumb.</translation>
     </message>
     <message>
         <source>Unlock</source>
@@ -963,7 +963,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Datoteka se ne more tako imenovati. Mogoče je: %1</translation>
+        <translation>Datoteka se ne more tako imenovati. Predlog: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1242,7 +1242,7 @@
     </message>
     <message>
         <source>Dates</source>
-        <translation>Datumi</translation>
+        <translation>Zapis datuma</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -1422,19 +1422,19 @@
     </message>
     <message>
         <source>Button</source>
-        <translation>Tipka</translation>
+        <translation>Gumb</translation>
     </message>
     <message>
         <source>Colour of buttons</source>
-        <translation>Barva tipk</translation>
+        <translation>Barva gumbov</translation>
     </message>
     <message>
         <source>Button text</source>
-        <translation>Besedilo tipke</translation>
+        <translation>Besedilo gumba</translation>
     </message>
     <message>
         <source>Colour of texts on buttons</source>
-        <translation>Barva besedil na tipkah</translation>
+        <translation>Barva besedil na gumbih</translation>
     </message>
     <message>
         <source>Map</source>
@@ -2209,7 +2209,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Besede nastavitve</translation>
+        <translation>Iskanje nastavitve</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -3266,7 +3266,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>USB-ključka ne odstranjevati, dokler to ni končano.</translation>
+        <translation>Ne odstranjujte USB-ključka, dokler to ni končano.</translation>
     </message>
 </context>
 <context>

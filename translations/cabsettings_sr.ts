@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Opcije</translation>
+        <translation>Podešavanja</translation>
     </message>
 </context>
 <context>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Moguće je: %4</translation>
+        <translation>%3 Predlog: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -785,7 +785,7 @@
     <name>LockLayer</name>
     <message>
         <source>The screen is locked. Hold the button to unlock it.</source>
-        <translation>Ekran je zaključan. Za otključavanje držati taster.</translation>
+        <translation>Ekran je zaključan. Za otključavanje držati dugme.</translation>
     </message>
     <message>
         <source>Unlock</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Datoteka ne može tako da se zove. Moguće je: %1</translation>
+        <translation>Datoteka ne može tako da se zove. Predlog: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Dates</source>
-        <translation>Datumi</translation>
+        <translation>Format datuma</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -1376,7 +1376,7 @@
     </message>
     <message>
         <source>Stick</source>
-        <translation>Stik</translation>
+        <translation>USB stik</translation>
     </message>
     <message>
         <source>Implement folder</source>
@@ -1420,19 +1420,19 @@
     </message>
     <message>
         <source>Button</source>
-        <translation>Taster</translation>
+        <translation>Dugme</translation>
     </message>
     <message>
         <source>Colour of buttons</source>
-        <translation>Boja tastera</translation>
+        <translation>Boja dugmadi</translation>
     </message>
     <message>
         <source>Button text</source>
-        <translation>Tekst tastera</translation>
+        <translation>Tekst dugmeta</translation>
     </message>
     <message>
         <source>Colour of texts on buttons</source>
-        <translation>Boja teksta na tasterima</translation>
+        <translation>Boja teksta na dugmadima</translation>
     </message>
     <message>
         <source>Map</source>
@@ -2207,7 +2207,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Reči podešavanja</translation>
+        <translation>Traži podešavanje</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -2334,7 +2334,7 @@
     </message>
     <message>
         <source>Stick</source>
-        <translation>Stik</translation>
+        <translation>USB stik</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>

@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logg</translation>
+        <translation>Loggar</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -661,7 +661,7 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Ny</translation>
+        <translation>Nytt</translation>
     </message>
 </context>
 <context>
@@ -757,7 +757,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Ny</translation>
+        <translation>Nytt</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -783,7 +783,7 @@
     <name>LockLayer</name>
     <message>
         <source>The screen is locked. Hold the button to unlock it.</source>
-        <translation>Skärmen är låst. Håll knappen intryckt för att låsa upp.</translation>
+        <translation>Skärmen är låst. Håll in knappen för att låsa upp.</translation>
     </message>
     <message>
         <source>Unlock</source>
@@ -1234,11 +1234,11 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Klockslag</translation>
+        <translation>Tidsformat</translation>
     </message>
     <message>
         <source>Dates</source>
-        <translation>Datum</translation>
+        <translation>Datumformat</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -1786,7 +1786,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logg</translation>
+        <translation>Loggar</translation>
     </message>
     <message>
         <source>Terminal</source>
@@ -2194,7 +2194,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>För hand</translation>
+        <translation>Ställ in</translation>
     </message>
 </context>
 <context>
@@ -2343,7 +2343,7 @@
     </message>
     <message>
         <source>Logs</source>
-        <translation>Logg</translation>
+        <translation>Loggar</translation>
     </message>
     <message>
         <source>Writes all log files to the stick</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Dold</translation>
+        <translation>Döljs</translation>
     </message>
 </context>
 <context>

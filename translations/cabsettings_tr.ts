@@ -302,7 +302,7 @@
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
-        <translation>%1 tüm içeriğiyle kaldırılsın mı?</translation>
+        <translation>%1 tüm içeriğiyle silinsin mi?</translation>
     </message>
     <message>
         <source>OK</source>
@@ -310,15 +310,15 @@
     </message>
     <message>
         <source>Rename or remove %1</source>
-        <translation>Adını değiştir veya kaldır: %1</translation>
+        <translation>Adını değiştir veya sil: %1</translation>
     </message>
     <message>
         <source>Rename %1</source>
-        <translation>Ad değiştir: %1</translation>
+        <translation>Yeniden adlandır: %1</translation>
     </message>
     <message>
         <source>Remove everything</source>
-        <translation>Tümünü kaldır</translation>
+        <translation>Tümünü sil</translation>
     </message>
 </context>
 <context>
@@ -329,11 +329,11 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Olabilecek ad: %4</translation>
+        <translation>%3 Öneri: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
-        <translation>Bu ad olanaksız.</translation>
+        <translation>Bu ad geçersiz.</translation>
     </message>
     <message>
         <source>The name is empty.</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>The file has a value that is not possible: %2</source>
-        <translation>Dosyada olanaksız bir değer var: %2</translation>
+        <translation>Dosyada geçersiz bir değer var: %2</translation>
     </message>
     <message>
         <source>The file has a value twice: %2</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>This address is not possible: %1</source>
-        <translation>Bu adres olanaksız: %1</translation>
+        <translation>Bu adres geçersiz: %1</translation>
     </message>
     <message>
         <source>The device is not there.</source>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>%1 cannot be removed. %2</source>
-        <translation>%1 kaldırılamıyor. %2</translation>
+        <translation>%1 silinemiyor. %2</translation>
     </message>
     <message>
         <source>The drive is full.</source>
@@ -644,11 +644,11 @@
     <name>ItemActions</name>
     <message>
         <source>Rename</source>
-        <translation>Ad değiştir</translation>
+        <translation>Yeniden adlandır</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Kaldır</translation>
+        <translation>Sil</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Dosya adı böyle olamaz. Olabilecek ad: %1</translation>
+        <translation>Dosya adı böyle olamaz. Öneri: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1232,11 +1232,11 @@
     </message>
     <message>
         <source>Time of day</source>
-        <translation>Günün saati</translation>
+        <translation>Saat biçimi</translation>
     </message>
     <message>
         <source>Dates</source>
-        <translation>Tarihler</translation>
+        <translation>Tarih biçimi</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -2192,7 +2192,7 @@
     </message>
     <message>
         <source>Set by hand</source>
-        <translation>Elle</translation>
+        <translation>Elle ayarla</translation>
     </message>
 </context>
 <context>
@@ -2203,7 +2203,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>Bir ayarın sözcükleri</translation>
+        <translation>Ayar ara</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
@@ -3039,7 +3039,7 @@
     <name>TWork</name>
     <message>
         <source>An implement cannot have this width.</source>
-        <translation>Bu iş genişliği olanaksız.</translation>
+        <translation>Bu iş genişliği geçersiz.</translation>
     </message>
     <message>
         <source>A file of this job cannot be used. %1</source>

@@ -129,7 +129,7 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>原来</translation>
+        <translation>原值</translation>
     </message>
     <message>
         <source>Former colour</source>
@@ -302,7 +302,7 @@
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
-        <translation>删除 %1 及其全部内容?</translation>
+        <translation>删除 %1 及其全部内容？</translation>
     </message>
     <message>
         <source>OK</source>
@@ -694,7 +694,7 @@
     </message>
     <message>
         <source>now %1</source>
-        <translation>现在 %1</translation>
+        <translation>当前 %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Dates</source>
-        <translation>日期</translation>
+        <translation>日期格式</translation>
     </message>
     <message>
         <source>Time zone set by hand</source>
@@ -2137,7 +2137,7 @@
     </message>
     <message>
         <source>Age</source>
-        <translation>龄期</translation>
+        <translation>差分龄期</translation>
     </message>
     <message>
         <source>Satellites</source>
@@ -2153,11 +2153,11 @@
     </message>
     <message>
         <source>Lines</source>
-        <translation>行</translation>
+        <translation>行数</translation>
     </message>
     <message>
         <source>Sentences</source>
-        <translation>语句</translation>
+        <translation>语句数</translation>
     </message>
     <message>
         <source>Bad checksums</source>
@@ -2203,7 +2203,7 @@
     </message>
     <message>
         <source>Words of a setting</source>
-        <translation>设置中的字词</translation>
+        <translation>搜索设置</translation>
     </message>
     <message>
         <source>No setting has these words.</source>
