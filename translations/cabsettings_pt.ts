@@ -2236,7 +2236,7 @@
     </message>
     <message>
         <source>Storage</source>
-        <translation>Armazenamento</translation>
+        <translation>Discos</translation>
     </message>
     <message>
         <source>About</source>

@@ -13,7 +13,7 @@
 #include <QtTest>
 
 #include <cmath>
-#include <functional>
+#include <algorithm>
 #include <memory>
 
 /// Each element of the two colour schemes is drawn where its name says: another colour shows there, and is gone when it

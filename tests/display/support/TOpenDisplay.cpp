@@ -38,8 +38,10 @@ QtMessageHandler BeforeComplaints = nullptr;
 
 void Complain(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    // Of the platform without a screen, not of the display.
-    const bool isOfPlatform = text.startsWith(QLatin1String("This plugin does not support"));
+    // Of the platform without a screen, and of Qt's clock of animations, which at times stops twice after a pause, as
+    // the keyboard on the screen has some; not of the display.
+    const bool isOfPlatform = text.startsWith(QLatin1String("This plugin does not support")) ||
+                              text == QLatin1String("QUnifiedTimer::stopAnimationDriver: driver is not running");
     if (type != QtDebugMsg && type != QtInfoMsg && !isOfPlatform)
         Complaints().append(text);
     BeforeComplaints(type, context, text);
