@@ -27,8 +27,8 @@ QVariantList Choices(const tagParameter& parameter);
 /// The text of a value that QML sets, as Read() takes it. Nothing for what cannot be a value, such as undefined.
 std::optional<QString> Entered(const QVariant& value);
 
-/// What is wrong with the type of a value that QML sets; empty when nothing is. A number, a choice and a yes or no are not
-/// set as texts: what an operator types is read by Read().
+/// What is wrong with the type of a value that QML sets; empty when nothing is. A number, a choice and a yes or no are
+/// not set as texts: what an operator types is read by Read().
 QString TypeProblem(const tagParameter& parameter, const QVariant& value);
 
 /// The value that was entered. Invalid when it is not accepted; @p problem is then one sentence for the operator.

@@ -12,8 +12,8 @@
 #include <QSet>
 #include <QtTest>
 
-#include <cmath>
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 /// Each element of the two colour schemes is drawn where its name says: another colour shows there, and is gone when it

@@ -1,8 +1,8 @@
 #include "display/session/TDisplaySession.h"
 
 #include "display/DisplayTypes.h"
-#include "display/fonts/DisplayFont.h"
 #include "display/backgrounds/TBackgroundProvider.h"
+#include "display/fonts/DisplayFont.h"
 #include "display/icons/TIconProvider.h"
 #include "display/keyboard/ScreenKeyboard.h"
 #include "display/language/DisplayLanguage.h"
