@@ -70,6 +70,15 @@ TPlaces Whole(const TOpenDisplay& display, const char* name)
     return item ? TPlaces{VisibleItems::SeenPart(*item)} : TPlaces();
 }
 
+/// The half of the band above the pages in which the place stands. In the other one the clock goes on.
+TPlaces PlaceInBand(const TOpenDisplay& display)
+{
+    TPlaces places = Whole(display, "stateBand");
+    for (QRectF& place : places)
+        place.setWidth(place.width() / 2);
+    return places;
+}
+
 TMapItem& Map(const TOpenDisplay& display) { return *display.Window().findChild<TMapItem*>(); }
 
 const TMapModel& Model(const TOpenDisplay& display)
@@ -155,7 +164,7 @@ const tagElementPlace Places[] = {
     {"title", "settings-units", [](const TOpenDisplay& d) { return Whole(d, "title"); }, 40},
     {"button", "settings-region", [](const TOpenDisplay& d) { return Whole(d, "setClock"); }, 2000},
     {"button-text", "settings-region", [](const TOpenDisplay& d) { return Whole(d, "setClock"); }, 40},
-    {"background", "settings-units", [](const TOpenDisplay& d) { return Whole(d, "stateBand"); }, 20000},
+    {"background", "settings-units", PlaceInBand, 20000},
     {"external-boundary", "work", [](const TOpenDisplay& d) { return Outlines(d, MAP_AREA_EXTERNAL_BOUNDARY); }, 200},
     {"internal-boundary", "work", [](const TOpenDisplay& d) { return Outlines(d, MAP_AREA_INTERNAL_BOUNDARY); }, 40},
     {"inactive-boundaries", "work", [](const TOpenDisplay& d) { return Outlines(d, MAP_AREA_INACTIVE_BOUNDARY); }, 100},

@@ -3,6 +3,7 @@
 
 #include "diagnostics/UserLogEntries.h"
 #include "display/keys/FocusWalk.h"
+#include "display/map/TMapItem.h"
 #include "display/shot/OverlayTable.h"
 
 #include <QPointer>
@@ -181,6 +182,7 @@ private slots:
     void returnToWhereTheyWere_data();
     void returnToWhereTheyWere();
     void goOnWhenWhatTheyActOnGoesAway();
+    void reachNothingBelowTheLock();
     void walkThroughLists();
     void turnPagesOfLists_data();
     void turnPagesOfLists();
@@ -340,9 +342,27 @@ void PageKeys::goOnWhenWhatTheyActOnGoesAway()
     QVERIFY(IsBelow(display.Window().activeFocusItem(), row->parentItem()));
     display.Press(Qt::Key_Escape);
     QTRY_VERIFY(isSeen());
+    QVERIFY(!qobject_cast<TMapItem*>(display.Window().activeFocusItem())); // arrow keys would move it
     display.Tap(QPointF(400, 300));
     display.ShowPage(QLatin1String("receiver"));
     QVERIFY(!isSeen()); // who works by taps sees no focus
+}
+
+/// Escape leads from any page to the map, but not from a screen that is locked.
+void PageKeys::reachNothingBelowTheLock()
+{
+    TOpenDisplay display(QSize(1280, 800));
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    Activate(display);
+    display.Show(QLatin1String("settings-units"));
+    const QObject& pages = *display.Window().findChild<QObject*>(QLatin1String("display"));
+    QCOMPARE(pages.property("page").toString(), QStringLiteral("settings"));
+    QVERIFY(display.Tap(QLatin1String("Lock the screen")));
+    QVERIFY(Shown(display.Content(), "lockLayer"));
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Escape})
+        display.Press(key);
+    QVERIFY(Shown(display.Content(), "lockLayer"));
+    QCOMPARE(pages.property("page").toString(), QStringLiteral("settings"));
 }
 
 /// The arrow keys go through all rows of a list, down and up.

@@ -48,10 +48,10 @@ int RunAdd(const tagContext& context, const QStringList& arguments)
 }
 
 /// Copies one log, and reports it as a line or in @p array. False, after a message, when not every file could be
-/// copied. Files that were copied after a stick was pulled are not in its empty mount point.
-bool ExportOne(TDiagnosticLogProxy& log, const char* name, const char* title, const QString& target, QJsonArray* array)
+/// copied. After a stick was pulled its mount point is an empty folder, to which nothing is copied.
+bool ExportOne(TDiagnosticLogProxy& log, const char* name, const char* title, const TOpenDrive& drive,
+               const QString& target, QJsonArray* array)
 {
-    const TOpenDrive drive(target);
     TDiagnosticLog::tagExportResult result = log.Export(drive.Path(QLatin1String(".")));
     result.allCopied = result.allCopied && drive.IsThere();
     if (array) {
@@ -86,8 +86,9 @@ int RunExport(const tagContext& context, const QStringList& arguments)
     TNEMADiagnosticLogProxy nmeaLog;
     const bool isJson = line.WantsJson();
     QJsonArray array;
-    const bool isUserCopied = ExportOne(userLog, "user", "user log", target, isJson ? &array : nullptr);
-    const bool isNmeaCopied = ExportOne(nmeaLog, "nmea", "NMEA log", target, isJson ? &array : nullptr);
+    const TOpenDrive drive(target); // one for both: it knows when the stick is another one, or none, meanwhile
+    const bool isUserCopied = ExportOne(userLog, "user", "user log", drive, target, isJson ? &array : nullptr);
+    const bool isNmeaCopied = ExportOne(nmeaLog, "nmea", "NMEA log", drive, target, isJson ? &array : nullptr);
     if (isJson)
         PrintJson(array);
     return isUserCopied && isNmeaCopied ? STATUS_DONE : STATUS_FAILED;

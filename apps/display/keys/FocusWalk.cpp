@@ -53,6 +53,9 @@ const QQuickItem* ListOf(const QQuickItem* item)
     return item;
 }
 
+/// What moves something of its own by the arrow keys, as the map does: they do not lead away from it.
+bool TakesArrows(const QQuickItem& item) { return item.property("takesArrows").toBool(); }
+
 double Gap(double from, double to, double otherFrom, double otherTo)
 {
     return std::max({0.0, otherFrom - to, from - otherTo});
@@ -112,7 +115,7 @@ QQuickItem* NextFocus(QQuickItem* root, QQuickItem* from, EFocusDirection direct
     double least = std::numeric_limits<double>::infinity();
     for (const tagStop& stop : stops) {
         const bool isInList = list && ListOf(stop.item) == list;
-        if ((!isInList && !IsFocusSeen(*stop.item)) || stop.item->property("takesArrows").toBool())
+        if ((!isInList && !IsFocusSeen(*stop.item)) || TakesArrows(*stop.item))
             continue;
         const double distance = current == stops.cend() ? stop.place.left() + SideWeight * stop.place.top()
                                                         : Distance(current->place, stop.place, direction);
@@ -148,7 +151,7 @@ QQuickItem* NearestFocus(QQuickItem* scope, const QRectF& place)
     double least = std::numeric_limits<double>::infinity();
     for (const tagStop& stop : StopsBelow(scope)) {
         const double distance = Between(place, stop.place);
-        if (distance < least && IsFocusSeen(*stop.item)) {
+        if (distance < least && IsFocusSeen(*stop.item) && !TakesArrows(*stop.item)) {
             least = distance;
             nearest = stop.item;
         }

@@ -12,9 +12,9 @@
 ///
 ///     FocusKeys { anchors.fill: parent; WorkPage {} }
 ///
-/// Who works by keys always sees where: when what has the focus goes away, is disabled or scrolled away, or a page or
-/// question takes the focus without a stop of its own, its "firstStop" has it, or the stop nearest to the last one. Who
-/// works by taps sees no focus, except in a field that is typed into.
+/// While keys are used, the item with the focus is always in view: when it goes away, is disabled or scrolled away, or
+/// a page or question takes the focus without a stop of its own, the focus goes to its "firstStop", or to the stop
+/// nearest to the last one. Taps move no focus, except to a field that is typed into.
 class TFocusKeys : public QQuickItem
 {
     Q_OBJECT

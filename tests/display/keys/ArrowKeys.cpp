@@ -19,6 +19,7 @@ private slots:
     void theNearestIsNext();
     void theEndStays();
     void whatIsHiddenOrDisabledIsPassedOver();
+    void whatTakesArrowsIsPassedOver();
     void withoutAFocusTheFirstIsNext();
     void keysMoveTheFocusOfTheWindow();
 
@@ -105,6 +106,18 @@ void ArrowKeys::whatIsHiddenOrDisabledIsPassedOver()
     m_Stops[QLatin1String("b2")]->setEnabled(false);
     QCOMPARE(NextFocus(m_Root, m_Stops[QLatin1String("a1")], FOCUS_DOWN)->objectName(), QLatin1String("a3"));
     QCOMPARE(NextFocus(m_Root, m_Stops[QLatin1String("b1")], FOCUS_DOWN)->objectName(), QLatin1String("b3"));
+}
+
+/// As the map, which lies below all others: it would be the nearest to every place.
+void ArrowKeys::whatTakesArrowsIsPassedOver()
+{
+    QQuickItem* const below = Add("below", QRectF(0, 0, 400, 400));
+    below->setProperty("takesArrows", true);
+    below->setZ(-1);
+    QCOMPARE(NextFocus(m_Root, m_Stops[QLatin1String("a1")], FOCUS_DOWN)->objectName(), QLatin1String("a2"));
+    QCOMPARE(NextFocus(m_Root, nullptr, FOCUS_DOWN)->objectName(), QLatin1String("a1"));
+    QCOMPARE(NearestFocus(m_Root, QRectF(240, 110, 20, 20))->objectName(), QLatin1String("b2"));
+    QVERIFY(!NearestFocus(below, QRectF(0, 0, 20, 20)));
 }
 
 void ArrowKeys::withoutAFocusTheFirstIsNext()

@@ -15,6 +15,8 @@ FocusScope {
     property Item _before: null
 
     function open() {
+        if (visible)
+            return
         _before = Window.window ? Window.window.activeFocusItem : null
         parent = Sizes.overlay
         ++Sizes.overlay.count
@@ -22,6 +24,8 @@ FocusScope {
         unlock.forceActiveFocus()
     }
     function close() {
+        if (!visible)
+            return
         visible = false
         --Sizes.overlay.count
         if (_before)
@@ -31,6 +35,8 @@ FocusScope {
 
     anchors.fill: visible ? parent : undefined
     visible: false
+    // No key reaches what lies below.
+    Keys.onPressed: event.accepted = true
 
     MouseArea {
         objectName: "shield"
