@@ -25,7 +25,7 @@ private:
 
 namespace {
 
-/// Those that are looked at in a slim window, too, where the others have more room: a size takes seconds.
+/// Each size takes some seconds for a language: the slim window is tested with those that have long words.
 const QStringList LanguagesWithLongWords = {QStringLiteral("de"), QStringLiteral("el"), QStringLiteral("fi"),
                                             QStringLiteral("hu"), QStringLiteral("ja"), QStringLiteral("ru")};
 

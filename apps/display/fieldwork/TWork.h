@@ -135,16 +135,17 @@ public:
     /// line of that name. False when there is no A, no position, A is nearer than a metre, or the job is not there.
     Q_INVOKABLE bool setB();
 
-    // An empty result is success, else a sentence: also before the job is there.
-
     /// Stops following a line; its file stays, and so does its name: the next start follows it again.
+    /// @return empty, or a sentence that says why nothing was done, such as that the job is still being read.
     Q_INVOKABLE QString clearLine();
 
     /// Saves the line under a name, and selects it.
+    /// @return empty, or a sentence that says why nothing was done
     Q_INVOKABLE QString saveLine(const QString& name);
 
     /// Selects a line and follows it. A name without a file is that of the line that is set next. A file that cannot be
     /// read is a problem of the display's list.
+    /// @return empty, or a sentence that says why nothing was done
     Q_INVOKABLE QString loadLine(const QString& name);
 
     /// Marks the place with a flag, which is kept in the field. False without a position, and before the job is there.

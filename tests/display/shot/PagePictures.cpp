@@ -1,3 +1,4 @@
+#include "display/shot/OverlayTable.h"
 #include "display/shot/PageTable.h"
 #include "display/shot/Pictures.h"
 
@@ -35,6 +36,7 @@ private slots:
     void everyPageHasOneOfItsOwn();
     void twoRunsWriteTheSame();
     void whatCannotBeWrittenIsSaid();
+    void theGuideNamesAll();
 };
 
 void PagePictures::everyPageHasOneOfItsOwn_data()
@@ -105,6 +107,15 @@ void PagePictures::whatCannotBeWrittenIsSaid()
     QString error;
     QVERIFY(!WritePictures(options, &error));
     QCOMPARE(error, QString::fromLatin1("cannot create the folder \"%1\"").arg(options.pictureFolder));
+}
+
+void PagePictures::theGuideNamesAll()
+{
+    QFile file(QStringLiteral(CABSETTINGS_DISPLAY_GUIDE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray guide = file.readAll();
+    for (const QString& name : PageNames() + OverlayNames())
+        QVERIFY2(guide.contains('`' + name.toUtf8() + '`'), qPrintable(name));
 }
 
 QTEST_MAIN(PagePictures)

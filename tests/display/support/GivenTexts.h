@@ -11,8 +11,8 @@ namespace GivenTexts {
 /// the display's types and singletons, which have their numbers from the library.
 QStringList All(TOpenDisplay& display);
 
-/// What is left of a text with a digit when every part that is given, or written so in the page itself, is taken out;
-/// empty when no digit is left. A part is taken out as a whole only: "12.5" has no "2".
+/// What is left of a text with a digit when every part that is given is taken out; empty when no digit is
+/// left. A part is taken out as a whole only: "12.5" has no "2".
 /// @param given longest first
 QString Rest(const QString& text, const QStringList& given);
 

@@ -45,7 +45,7 @@ Item {
         vehicleColor: Scheme.vehicle
         crossHairsColor: Scheme.crossHairs
 
-        // Its keys act only while it has the focus, which an arrow key does not take there: it could not lead away.
+        // The arrow keys move the map while it has the focus. Tab alone gives it the focus: no arrow key leads away.
         readonly property bool takesArrows: true
 
         Accessible.role: Accessible.Graphic

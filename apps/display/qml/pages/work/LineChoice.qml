@@ -4,8 +4,8 @@ import CabDisplay 1.0
 import "../../controls"
 import "../parts"
 
-// The saved lines of the field: a tap on one follows it. A new name is that of the line that is set next. Stop follows
-// none; the files stay.
+// The saved lines of the field: a tap on one follows it. New names the line that is set next. Stop ends following; the
+// files stay.
 //
 //     LineChoice { id: lines }
 //     …

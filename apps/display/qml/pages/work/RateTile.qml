@@ -76,10 +76,10 @@ FigureTile {
 
         Grid {
             columns: tile.isWide ? 1 : 2
-            columnSpacing: Math.max(0, width - set.implicitWidth - error.implicitWidth)
+            columnSpacing: Math.max(0, width - setText.implicitWidth - errorText.implicitWidth)
 
             TextLabel {
-                id: set
+                id: setText
 
                 objectName: "set"
                 // The unit of the rate may depend on the product, that of the requested rate does not.
@@ -87,7 +87,7 @@ FigureTile {
                 muted: true
             }
             TextLabel {
-                id: error
+                id: errorText
 
                 objectName: "error"
                 text: deviation.errorText
