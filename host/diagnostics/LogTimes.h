@@ -10,7 +10,15 @@
 ///
 ///     OrderLogTimes(QLatin1String("/logs/user.log")); // before the log is restored
 ///
-/// Times that lie in the future become the time of now. Nothing is changed when the times are in order. 00001 follows
-/// 99999; files without a number are left alone.
+/// After this the times of the files serve their order: a file that has an older time than the file before it gets the
+/// time of that file and a millisecond. All other files keep their times. Nothing is changed when the times are in
+/// order, not even times that lie in the future: on a machine whose clock begins in 1970 at each start, the files that
+/// were written with the right time keep it.
+///
+/// Regular files count whose names are those that the log gives: user00001.log to user99999.log, where 00001 follows
+/// 99999. Links, copies under other names (user20240501.log, user1.log) and files without a number are left alone.
+/// Nothing is changed when the folder cannot be read to its end.
+///
+/// To be called while the log is closed, by one thread at a time.
 /// @param basePath as of TDiagnosticLog::Restore().
 CABHOST_EXPORT void OrderLogTimes(const QString& basePath);
