@@ -1,5 +1,6 @@
 #include "FaultResults.h"
 #include "FileCalls.h"
+#include "MemoryFolder.h"
 #include "TTemporaryFolder.h"
 
 #include "copies/StoreCopies.h"
@@ -101,11 +102,7 @@ private:
     int m_Lines = 0;
 };
 
-void ClockChanges::initTestCase()
-{
-    if (QFileInfo(QLatin1String("/dev/shm")).isWritable()) // thousands of files are synced
-        qputenv("TMPDIR", "/dev/shm");
-}
+void ClockChanges::initTestCase() { KeepTemporaryFilesInMemory(); }
 
 void ClockChanges::init()
 {

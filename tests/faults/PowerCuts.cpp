@@ -1,6 +1,7 @@
 #include "DiskRecord.h"
 #include "FaultResults.h"
 #include "FileCalls.h"
+#include "MemoryFolder.h"
 #include "Operations.h"
 #include "TSilence.h"
 #include "TTemporaryFolder.h"
@@ -68,8 +69,7 @@ private:
 
 void PowerCuts::initTestCase()
 {
-    if (QFileInfo(QLatin1String("/dev/shm")).isWritable())
-        qputenv("TMPDIR", "/dev/shm");
+    KeepTemporaryFilesInMemory();
     m_Folder = std::make_unique<TTemporaryFolder>();
     m_Room = m_Folder->Path(QLatin1String("room"));
 }

@@ -19,6 +19,8 @@
 
 std::unique_ptr<QTemporaryDir> MakeFolder()
 {
+    if (!qEnvironmentVariableIsEmpty("TMPDIR"))
+        return std::make_unique<QTemporaryDir>();
     auto folder = std::make_unique<QTemporaryDir>(QLatin1String("/dev/shm/stores-XXXXXX"));
     return folder->isValid() ? std::move(folder) : std::make_unique<QTemporaryDir>();
 }

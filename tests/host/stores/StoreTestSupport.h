@@ -15,10 +15,11 @@
 /// Any number as the number of a parameter.
 inline EParamID Param(int id) { return static_cast<EParamID>(id); }
 
-/// Makes a folder, in memory where that is possible, because tests open hundreds of stores.
+/// Makes a folder, in memory where that is possible, because tests open hundreds of stores; where the environment names
+/// a folder for temporary files, in that one.
 std::unique_ptr<QTemporaryDir> MakeFolder();
 
-/// Lets the temporary folders of this program be in memory where that is possible.
+/// Lets the temporary folders of this program be in memory in the same way.
 void KeepTemporaryFilesInMemory();
 
 /// Opens a store. When that fails, the reason is a warning of the test.
