@@ -108,23 +108,40 @@ tagStoreFinding Connect(const QString& path, const QDeadlineTimer& deadline,
     return finding;
 }
 
-// The same for any file. A drive that cannot be read once may be read the next time: only what is found twice is
-// damage, because the changes since the last good copy are lost with a file that is set aside.
+bool IsDamage(const tagStoreFinding& finding, const StoreTable::tagContent& content)
+{
+    const bool hasDamage = !content.journalDamage.isEmpty() || !content.damaged.isEmpty();
+    return finding.state == STORE_FILE_DAMAGED || finding.state == STORE_FILE_FOREIGN ||
+           (finding.state == STORE_FILE_CLEAN && hasDamage);
+}
+
+// A drive that cannot be read once may be read the next time: only what is found twice is damage, because the changes
+// since the last good copy are lost with a file that is set aside, and all values with a good copy that is.
+template <class Look>
+tagStoreFinding LookTwice(StoreTable::tagContent* content, Look look)
+{
+    *content = {};
+    const tagStoreFinding first = look();
+    if (!IsDamage(first, *content))
+        return first;
+    *content = {};
+    return look();
+}
+
+// The same as Connect() for any file.
 tagStoreFinding RecogniseAndConnect(const QString& path, const QDeadlineTimer& deadline,
                                     std::unique_ptr<TSqliteConnection>* connection, StoreTable::tagContent* content)
 {
-    tagStoreFinding finding;
-    for (int look = 0; look < 2; ++look) {
+    return LookTwice(content, [&] {
         connection->reset();
-        finding = RecogniseStoreFile(path);
-        if (finding.state == STORE_FILE_CLEAN)
-            finding = Connect(path, deadline, connection, content);
-        const bool isDamaged = finding.state == STORE_FILE_DAMAGED || finding.state == STORE_FILE_FOREIGN ||
-                               (finding.state == STORE_FILE_CLEAN && !content->journalDamage.isEmpty());
-        if (!isDamaged)
-            break;
-    }
-    return finding;
+        const tagStoreFinding finding = RecogniseStoreFile(path);
+        return finding.state == STORE_FILE_CLEAN ? Connect(path, deadline, connection, content) : finding;
+    });
+}
+
+tagStoreFinding CheckGoodCopy(const QString& path, StoreTable::tagContent* content)
+{
+    return LookTwice(content, [&] { return CheckAtRest(path, content); });
 }
 
 bool IsOurs(EStoreFileState state) { return state == STORE_FILE_CLEAN || state == STORE_FILE_DAMAGED; }
@@ -240,7 +257,7 @@ QString TSqliteStoreFile::OpenPrepared(const QDeadlineTimer& deadline, StoreTabl
 bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
 {
     StoreTable::tagContent content;
-    const tagStoreFinding good = CheckAtRest(m_GoodPath, &content);
+    const tagStoreFinding good = CheckGoodCopy(m_GoodPath, &content);
     if (IsBeyondUs(good.state)) {
         *reason = Refusal(m_GoodPath, good);
         return false;
@@ -270,7 +287,7 @@ bool TSqliteStoreFile::Replace(const tagStoreFinding& found, QString* reason)
 }
 
 // Keeps a copy of a file with damaged rows, then gives these rows the values of the last good copy or removes them.
-// Says so. Without a copy the file stays as it is.
+// Says so. Without a copy, and when the good copy cannot be read at present, the file stays as it is.
 void TSqliteStoreFile::KeepAndRepair(const QList<qlonglong>& damaged)
 {
     const QString found = QString::fromLatin1("%1: %2; ").arg(m_Path, StoreTable::DamageText(damaged));
@@ -283,7 +300,11 @@ void TSqliteStoreFile::KeepAndRepair(const QList<qlonglong>& damaged)
     SayOnStandardError(found + QString::fromLatin1("copied to %1").arg(kept));
 
     StoreTable::tagContent good;
-    CheckAtRest(m_GoodPath, &good);
+    const tagStoreFinding finding = CheckGoodCopy(m_GoodPath, &good);
+    if (IsBeyondUs(finding.state)) { // the values may be in it
+        SayOnStandardError(Refusal(m_GoodPath, finding));
+        return;
+    }
     QMap<int, QVariant> values;
     for (auto value = good.values.constBegin(); value != good.values.constEnd(); ++value)
         if (damaged.contains(value.key()))

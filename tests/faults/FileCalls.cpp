@@ -42,6 +42,7 @@ int counted = 0;
 int target = INT_MAX;
 bool isReached = false;
 std::map<unsigned, int> refused; // by kind
+std::string misread;             // empty: nothing
 TDiskRecord* record = nullptr;
 tagClock fileClock;
 std::atomic<std::int64_t> clockShift{0};
@@ -201,6 +202,24 @@ ssize_t Transfer(int file, unsigned call, std::size_t size, Move move)
     return way == WAY_FAILS ? -1 : move(way == WAY_HALF ? (size + 1) / 2 : size);
 }
 
+/// A call that reads.
+template <class Move>
+ssize_t Take(int file, void* data, std::size_t size, Move move)
+{
+    const ssize_t length = Transfer(file, CALL_READ, size, move);
+    if (length <= 0 || !Of(file))
+        return length;
+    const TLock locked(lock);
+    char* const begin = static_cast<char*>(data);
+    char* const end = begin + length;
+    char* const found = misread.empty() ? end : std::search(begin, end, misread.begin(), misread.end());
+    if (found != end) {
+        *found = static_cast<char>(*found ^ 1);
+        misread.clear();
+    }
+    return length;
+}
+
 /// A call that writes: @p at is -1 for the place where the file is.
 template <class Move>
 ssize_t Put(int file, const void* data, std::size_t size, std::int64_t at, Move move)
@@ -271,6 +290,7 @@ void FileCalls::Watch(const QByteArray& folder)
     root = std::string(resolved ? resolved : "/nothing") + '/';
     std::free(resolved);
     fault = LetsThrough;
+    misread.clear();
     record = nullptr;
     opened.fill(tagOpen());
     isWatching = true;
@@ -281,6 +301,7 @@ void FileCalls::Ignore()
     const TLock locked(lock);
     isWatching = false;
     fault = LetsThrough;
+    misread.clear();
     record = nullptr;
 }
 
@@ -314,6 +335,18 @@ int FileCalls::Refused(unsigned calls)
     for (const auto& [call, times] : refused)
         count += (call & calls) != 0 ? times : 0;
     return count;
+}
+
+void FileCalls::Misread(const QByteArray& text)
+{
+    const TLock locked(lock);
+    misread = text.toStdString();
+}
+
+bool FileCalls::HasMisread()
+{
+    const TLock locked(lock);
+    return misread.empty();
 }
 
 void FileCalls::Record(TDiskRecord* chosen)
@@ -413,19 +446,19 @@ int SeenMakeFile(char* pattern, int flags) { return SeenMakeFile64(pattern, flag
 ssize_t SeenRead(int file, void* data, size_t size)
 {
     static const auto original = Original<ssize_t(int, void*, size_t)>("read");
-    return Transfer(file, CALL_READ, size, [&](size_t part) { return original(file, data, part); });
+    return Take(file, data, size, [&](size_t part) { return original(file, data, part); });
 }
 
 ssize_t SeenReadAt(int file, void* data, size_t size, long at)
 {
     static const auto original = Original<ssize_t(int, void*, size_t, long)>("pread");
-    return Transfer(file, CALL_READ, size, [&](size_t part) { return original(file, data, part, at); });
+    return Take(file, data, size, [&](size_t part) { return original(file, data, part, at); });
 }
 
 ssize_t SeenReadAt64(int file, void* data, size_t size, std::int64_t at)
 {
     static const auto original = Original<ssize_t(int, void*, size_t, std::int64_t)>("pread64");
-    return Transfer(file, CALL_READ, size, [&](size_t part) { return original(file, data, part, at); });
+    return Take(file, data, size, [&](size_t part) { return original(file, data, part, at); });
 }
 
 ssize_t SeenWrite(int file, const void* data, size_t size)

@@ -52,7 +52,7 @@ struct tagFault
 /// From now on calls on files in @p folder are looked at. The folder must exist.
 void Watch(const QByteArray& folder);
 
-/// Ends what Watch(), Arm() and Record() have begun.
+/// Ends what Watch(), Arm(), Misread() and Record() have begun.
 void Ignore();
 
 /// Stops the @p nth call of the fault from now.
@@ -66,6 +66,13 @@ int Counted();
 
 /// The number of @p calls that were made to fail since Arm().
 int Refused(unsigned calls);
+
+/// Lets the next read that holds @p text in whole return another first letter: what a drive gives that is about to
+/// fail.
+void Misread(const QByteArray& text);
+
+/// Whether the read has come that Misread() waits for.
+bool HasMisread();
 
 /// Notes from now on in @p record what the calls change. Null: no more.
 void Record(TDiskRecord* record);
