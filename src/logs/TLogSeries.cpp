@@ -30,6 +30,9 @@ bool IsOf(std::string_view stem, std::string_view extension, std::string_view na
            name.substr(name.size() - extension.size()) == extension;
 }
 
+/// Whether there is no file of the name: it was removed just now, or is a link to nothing.
+bool IsGone(int error) { return error == ENOENT || error == ENOTDIR || error == ELOOP; }
+
 /// Orders the numbers of a series whose greatest number is @p greatest. A number far below it comes after it: 00001
 /// follows 99999. Less than 0 without a number.
 qint64 Rank(const std::optional<int>& number, int greatest)
@@ -71,7 +74,8 @@ bool TLogSeries::ReadFiles(const QString& lastWritten, std::vector<tagFile>* fil
     const QByteArray extension = QFile::encodeName(m_Extension);
     const QByteArray path = m_Folder.isEmpty() ? QByteArray(".") : QFile::encodeName(m_Folder);
     const bool isPath = !path.contains('\0'); // the system would end the path at a zero and read another folder
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(isPath ? opendir(path.constData()) : nullptr, &closedir);
+    std::unique_ptr<DIR, int (*)(DIR*)> folder(isPath ? opendir(path.constData()) : nullptr, &closedir);
+    int error = folder ? 0 : isPath ? errno : ENOENT;
 
     files->clear();
     int greatest = -1;
@@ -84,7 +88,11 @@ bool TLogSeries::ReadFiles(const QString& lastWritten, std::vector<tagFile>* fil
         if (!IsOf(View(stem), View(extension), entry->d_name))
             continue;
         struct stat status = {};
-        if (fstatat(dirfd(folder.get()), entry->d_name, &status, 0) != 0 || !S_ISREG(status.st_mode))
+        if (fstatat(dirfd(folder.get()), entry->d_name, &status, 0) != 0) {
+            error = error != 0 || IsGone(errno) ? error : errno; // the others are listed all the same
+            continue;
+        }
+        if (!S_ISREG(status.st_mode))
             continue;
         const QByteArray bytes = entry->d_name;
         const QString name = QFile::decodeName(bytes);
@@ -97,7 +105,9 @@ bool TLogSeries::ReadFiles(const QString& lastWritten, std::vector<tagFile>* fil
         if (isNumbered)
             greatest = std::max(greatest, number);
     }
-    const bool isRead = folder && errno == 0;
+    if (folder && errno != 0)
+        error = errno;
+    folder.reset();
 
     // Files written within one tick of the file system's clock have the same time.
     const QString newest = lastWritten.startsWith(m_Folder) ? lastWritten.mid(m_Folder.size()) : QString();
@@ -105,7 +115,9 @@ bool TLogSeries::ReadFiles(const QString& lastWritten, std::vector<tagFile>* fil
         return std::make_tuple(file.modified, file.name == newest, Rank(file.number, greatest), file.name);
     };
     std::sort(files->begin(), files->end(), [&key](const tagFile& a, const tagFile& b) { return key(a) < key(b); });
-    return isRead;
+    if (error != 0)
+        errno = error;
+    return error == 0;
 }
 
 QString TLogSeries::GetNumberText(int number)

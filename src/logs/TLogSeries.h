@@ -54,7 +54,8 @@ public:
     std::vector<tagFile> GetFiles(const QString& lastWritten = QString()) const;
 
     /// The same, for callers that must know whether these are all. False when the folder does not exist or cannot be
-    /// read to its end; @p files receives those that were found.
+    /// read to its end, or when nothing can be learnt of one of its files; @p files receives the others, and errno is
+    /// the reason. A link to nothing is no file.
     bool ReadFiles(const QString& lastWritten, std::vector<tagFile>* files) const;
 
     /// @p number as it stands in a file name, in at least five digits: "00001".

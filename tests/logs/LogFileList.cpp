@@ -6,6 +6,30 @@
 
 #include <QtTest>
 
+#include <cerrno>
+#include <dlfcn.h>
+
+namespace {
+
+/// The value of errno with which fstatat() fails for the file of this number; 0 when it works.
+int statError = 0;
+const char* const UnknownFile = "user00002.log";
+
+} // namespace
+
+/// Takes the place of the C library's function, under the name for 64-bit file offsets.
+extern "C" __attribute__((visibility("default"))) int fstatat(int folder, const char* name, struct stat* status,
+                                                              int flags) noexcept
+{
+    static const auto original =
+        reinterpret_cast<int (*)(int, const char*, struct stat*, int)>(dlsym(RTLD_NEXT, "fstatat64"));
+    if (statError != 0 && QByteArray(name) == UnknownFile) {
+        errno = statError;
+        return -1;
+    }
+    return original(folder, name, status, flags);
+}
+
 /// What a tool learns of the files of a log: the same as the log itself goes by.
 class LogFileList : public QObject
 {
@@ -19,6 +43,9 @@ private slots:
     void theLogGoesOnInTheLastFileOfTheList_data();
     void theLogGoesOnInTheLastFileOfTheList();
     void aMissingFolderHasNoFiles();
+    void aFileOfWhichNothingIsKnownIsMissed_data();
+    void aFileOfWhichNothingIsKnownIsMissed();
+    void aLinkToNothingIsNoFile();
     void aNumberIsWrittenInFiveDigits_data();
     void aNumberIsWrittenInFiveDigits();
 };
@@ -122,6 +149,51 @@ void LogFileList::aMissingFolderHasNoFiles()
     const TLogSeries missing(room.Path(Latin1("missing/user.log")));
     QVERIFY(!missing.HasFolder());
     QVERIFY(missing.GetFiles().empty());
+    std::vector<TLogSeries::tagFile> files;
+    QVERIFY(!missing.ReadFiles(QString(), &files));
+    QCOMPARE(errno, ENOENT);
+}
+
+void LogFileList::aFileOfWhichNothingIsKnownIsMissed_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("cannot be read") << EIO << false;
+    QTest::newRow("not permitted") << EACCES << false;
+    QTest::newRow("removed meanwhile") << ENOENT << true;
+}
+
+void LogFileList::aFileOfWhichNothingIsKnownIsMissed()
+{
+    QFETCH(int, error);
+    QFETCH(bool, isRead);
+    const TLogRoom room;
+    MakeFiles(room, Latin1("user00001.log@1 user00002.log@2 user00003.log@3"));
+    room.folder.MakeFolder(Latin1("stick"));
+    TDiagnosticLog log(0, 100, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    std::vector<TLogSeries::tagFile> files;
+    statError = error;
+    const bool isWhole = TLogSeries(room.Base()).ReadFiles(QString(), &files);
+    const int reason = errno;
+    const TDiagnosticLog::tagExportResult result = log.ExportFile(room.folder.Path(Latin1("stick")));
+    statError = 0;
+    QCOMPARE(isWhole, isRead);
+    QVERIFY(isRead || reason == error);
+    QCOMPARE(Names(files), Latin1("user00001.log user00003.log"));
+    QCOMPARE(result.allCopied, isRead);
+}
+
+void LogFileList::aLinkToNothingIsNoFile()
+{
+    const TLogRoom room;
+    MakeFiles(room, Latin1("user00001.log@1"));
+    QVERIFY(QFile::link(room.Path(Latin1("elsewhere")), room.Path(room.Numbered(2))));
+    QVERIFY(QFile::link(room.Path(room.Numbered(3)), room.Path(room.Numbered(3))));
+    QVERIFY(QFile::link(room.Path(Latin1("user00001.log/below")), room.Path(room.Numbered(4))));
+    std::vector<TLogSeries::tagFile> files;
+    QVERIFY(TLogSeries(room.Base()).ReadFiles(QString(), &files));
+    QCOMPARE(Names(files), Latin1("user00001.log"));
 }
 
 void LogFileList::aNumberIsWrittenInFiveDigits_data()
