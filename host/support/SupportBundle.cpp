@@ -84,7 +84,8 @@ bool WriteSupportBundle(TSqliteStore& store, const QString& path, const tagSuppo
     TBlanker blanker;
     TMemoryStore blanked;
     if (request.isAnonymous) {
-        CollectNames(store, clean, &blanker);
+        if (!CollectNames(store, clean, &blanker, error))
+            return false;
         CopyBlanked(store.Values(), &blanker, &blanked);
     }
     const tagSupportSource source = {request.isAnonymous ? static_cast<TParameterStore&>(blanked) : store, store, clean,

@@ -9,6 +9,7 @@
 #include "profiles/ProfileGroups.h"
 #include "profiles/TProfile.h"
 #include "stores/ChangeJournal.h"
+#include "stores/DurableFiles.h"
 #include "stores/StoreTable.h"
 #include "stores/TSqliteConnection.h"
 #include "support/UsedLibraries.h"
@@ -17,7 +18,11 @@
 #include "terminal/DataFolder.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSysInfo>
+
+#include <cerrno>
+#include <vector>
 
 namespace {
 
@@ -25,6 +30,7 @@ using Proxy = TSystemSettingsProxy;
 
 const QLatin1Char Separator('/');
 const QLatin1Char Dot('.');
+const QLatin1String LogMembers("logs/");
 const int PatienceMs = 5000;
 const qint64 PieceBytes = 0x10000;
 const int JournalEntries = 10000; ///< all that a journal keeps
@@ -180,6 +186,13 @@ void WriteFile(const tagSupportSource& source, const TSupportSink& sink, const Q
         Report(source, sink, QString::fromLatin1("cannot read %1: %2").arg(path, file.errorString()));
 }
 
+/// The folder of a log; errno is the reason.
+QString CannotRead(const QString& basePath)
+{
+    const QString reason = DurableFiles::SystemText();
+    return QString::fromLatin1("cannot read %1: %2").arg(QFileInfo(basePath).path(), reason);
+}
+
 /// The parts that are one file each.
 struct tagPart
 {
@@ -215,20 +228,29 @@ QList<tagSupportMember> SupportMembers()
     for (const tagPart& part : Parts)
         members.append({QLatin1String(part.name), part.lines, part.write});
     for (const tagSeries& row : Series) {
-        const TLogSeries series((Proxy().*row.basePath)());
-        for (const TLogSeries::tagFile& file : series.GetFiles()) {
+        const QString basePath = (Proxy().*row.basePath)();
+        const TLogSeries series(basePath);
+        std::vector<TLogSeries::tagFile> files;
+        if (!series.ReadFiles(QString(), &files)) {
+            const QString problem = CannotRead(basePath);
+            members.append({LogMembers + QFileInfo(basePath).completeBaseName() + QLatin1String("-problem.txt"),
+                            SUPPORT_LINES_TEXT, [problem](const tagSupportSource& source, const TSupportSink& sink) {
+                                Report(source, sink, problem);
+                            }});
+        }
+        for (const TLogSeries::tagFile& file : files) {
             if (!file.number) // a file of another kind, whose name the operator chose
                 continue;
             const QString path = series.GetPath(file.name);
             members.append(
-                {QLatin1String("logs/") + file.name, row.lines,
+                {LogMembers + file.name, row.lines,
                  [path](const tagSupportSource& source, const TSupportSink& sink) { WriteFile(source, sink, path); }});
         }
     }
     return members;
 }
 
-void CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanker* blanker)
+bool CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanker* blanker, QString* error)
 {
     TFieldTree tree(store);
     QString missing;
@@ -252,8 +274,14 @@ void CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanke
         blanker->Add(known->name.section(Dot, 1), entry.oldValue.toString());
         blanker->Add(known->name.section(Dot, 1), entry.newValue.toString());
     }
-    const TLogSeries log(Proxy().GetInternalUserLogPath());
-    for (const TLogSeries::tagFile& file : log.GetFiles()) {
+    const QString basePath = Proxy().GetInternalUserLogPath();
+    const TLogSeries log(basePath);
+    std::vector<TLogSeries::tagFile> files;
+    if (!log.ReadFiles(QString(), &files) && errno != ENOENT) { // no folder has no names
+        *error = CannotRead(basePath);
+        return false;
+    }
+    for (const TLogSeries::tagFile& file : files) {
         QFile lines(log.GetPath(file.name));
         if (lines.open(QIODevice::ReadOnly)) {
             while (!lines.atEnd())
@@ -269,4 +297,5 @@ void CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanke
         for (const FileTree::tagEntry& entry : entries)
             blanker->Path(entry.path, entry.isFolder);
     }
+    return true;
 }

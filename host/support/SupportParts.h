@@ -43,5 +43,6 @@ struct tagSupportMember
 /// All files of a bundle, in order.
 QList<tagSupportMember> SupportMembers();
 
-/// Makes all names known that the terminal has.
-void CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanker* blanker);
+/// Makes all names known that the terminal has. False, with a reason, when the files of the user log cannot be listed:
+/// names that stand only there would not be blanked.
+bool CollectNames(TSqliteStore& store, const tagSupportRequest& request, TBlanker* blanker, QString* error);

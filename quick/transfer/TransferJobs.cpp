@@ -24,6 +24,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 namespace {
 
@@ -73,11 +75,20 @@ struct tagLogFile
     qint64 size;
 };
 
-void AppendFiles(const QString& basePath, QList<tagLogFile>* files)
+/// False when these may not be all: @p problem is the sentence that says why.
+bool AppendFiles(const QString& basePath, QList<tagLogFile>* files, QString* problem)
 {
     const TLogSeries series(basePath);
-    for (const TLogSeries::tagFile& file : series.GetFiles())
+    std::vector<TLogSeries::tagFile> found;
+    if (!series.ReadFiles(QString(), &found)) {
+        const QLatin1String reason(strerrordesc_np(errno)); // in English, as the host gives reasons
+        *problem =
+            CabQuick::HostText(QString::fromLatin1("cannot read \"%1\": %2").arg(QFileInfo(basePath).path(), reason));
+        return false;
+    }
+    for (const TLogSeries::tagFile& file : found)
         files->append({series.GetPath(file.name), file.name, file.size});
+    return true;
 }
 
 /// One file after the other, so that the logs can be written meanwhile. A file that its log has given up since is
@@ -89,8 +100,10 @@ tagTransferResult CopyLogs(const TOpenDrive& stick, const TTransferProgress& pro
     userLog.FlushTempBuffer();
     nmeaLog.FlushTempBuffer();
     QList<tagLogFile> files;
-    AppendFiles(TSystemSettingsProxy().GetInternalUserLogPath(), &files);
-    AppendFiles(TSystemSettingsProxy().GetInternalNemaLogPath(), &files);
+    QString problem;
+    if (!AppendFiles(TSystemSettingsProxy().GetInternalUserLogPath(), &files, &problem) ||
+        !AppendFiles(TSystemSettingsProxy().GetInternalNemaLogPath(), &files, &problem))
+        return Failed(problem);
     qint64 all = 1;
     for (const tagLogFile& file : files)
         all += file.size;

@@ -41,6 +41,7 @@ private slots:
     void entriesAreBlanked();
     void aLineThatIsTooLongIsLeftOut();
     void whatCannotBeReadIsSaid();
+    void logsThatCannotBeListedAreSaid();
     void anArchiveThatCannotBeWrittenKeepsTheFormerOne_data();
     void anArchiveThatCannotBeWrittenKeepsTheFormerOne();
     void whatAKilledProgramLeftIsRemoved();
@@ -360,6 +361,21 @@ void SupportBundles::whatCannotBeReadIsSaid()
     QCOMPARE(m_Bundle.problems, QStringList(QString::fromLatin1("\"%1\" is neither a file nor a folder").arg(link)));
     QVERIFY(Members().value(QLatin1String("files.txt")).endsWith("is neither a file nor a folder\n"));
     QCOMPARE(Members().size(), m_Bundle.members.size());
+}
+
+// Names that stand only in the user log would be in an anonymous bundle, in the list of the files for example.
+void SupportBundles::logsThatCannotBeListedAreSaid()
+{
+    const QString folder = Data() + QLatin1String("/internal/Diagnostics");
+    QVERIFY(QDir().rename(folder, folder + QLatin1String(".gone")));
+    MakeFile(QLatin1String("Diagnostics"));
+    const QString problem = QString::fromLatin1("cannot read %1: Not a directory").arg(folder);
+    QVERIFY(Write(false));
+    QCOMPARE(m_Bundle.problems, (QStringList{problem, problem})); // of both logs
+    QCOMPARE(Members().value(QLatin1String("logs/User-problem.txt")), problem.toUtf8() + '\n');
+    QCOMPARE(Members().value(QLatin1String("logs/NMEA-problem.txt")), problem.toUtf8() + '\n');
+    QVERIFY(!Write(true));
+    QCOMPARE(m_Error, problem);
 }
 
 void SupportBundles::anArchiveThatCannotBeWrittenKeepsTheFormerOne_data()

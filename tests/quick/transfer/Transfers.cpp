@@ -21,6 +21,7 @@ private slots:
     void cleanup();
 
     void logsAreCopied();
+    void logsThatCannotBeListedAreNotReportedAsCopied();
     void aProfileIsWrittenAndListed();
     void aNameIsChecked_data();
     void aNameIsChecked();
@@ -141,6 +142,19 @@ void Transfers::logsAreCopied()
         QCOMPARE(copy.readAll(), original.readAll());
     }
     QCOMPARE(m_Terminal->Get("Problems.count").toInt(), 0);
+}
+
+void Transfers::logsThatCannotBeListedAreNotReportedAsCopied()
+{
+    MountStick();
+    const QString folder = LogFolder();
+    QVERIFY(QDir().rename(folder, folder + QLatin1String(".gone")));
+    QVERIFY(QFile(folder).open(QIODevice::WriteOnly)); // a file stands in the way
+    QVERIFY(HasFailed("self.exportLogs()"));
+    QVERIFY2(m_Terminal->Text("self.error").contains(folder), qPrintable(m_Terminal->Text("self.error")));
+    QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"), Patience);
+    QVERIFY(QFile::remove(folder) && QDir().rename(folder + QLatin1String(".gone"), folder));
+    QVERIFY(IsDone("self.exportLogs()"));
 }
 
 void Transfers::aProfileIsWrittenAndListed()
