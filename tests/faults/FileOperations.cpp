@@ -13,6 +13,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -98,6 +99,7 @@ int ReadProfile(const QString& path)
 }
 
 constexpr tagWholeFile Line = {"Fields/F1/ABLines/line.ini", &WriteLine, &ReadLine};
+constexpr tagWholeFile LineOfField = {"Lines/line.ini", &WriteLine, &ReadLine};
 constexpr tagWholeFile Outline = {"F1.bdy", &WriteOutline, &ReadOutline};
 constexpr tagWholeFile Machine = {"implement.ini", &WriteMachine, &ReadMachine};
 constexpr tagWholeFile Profile = {"tractor.profile", &WriteProfile, &ReadProfile};
@@ -121,6 +123,15 @@ bool WriteNew(const QString& folder, const std::function<void()>& begin, TPromis
     if (isWritten)
         promises.Make(1);
     return isWritten && error.isEmpty();
+}
+
+/// Another program has just made the folder, and has not synced it.
+template <const tagWholeFile& File>
+bool WriteInNewFolder(const QString& folder, const std::function<void()>& begin, TPromises& promises)
+{
+    begin();
+    return QDir(folder).mkdir(QFileInfo(QLatin1String(File.name)).path()) && WriteNew<File>(
+                                                                                 folder, [] {}, promises);
 }
 
 template <const tagWholeFile& File, bool IsReplaced>
@@ -232,6 +243,8 @@ std::vector<tagOperation> FileOperations()
     return {
         Making<Line>("first guidance line"),
         Replacing<Line>("guidance line"),
+        {"guidance line in a new folder", &PrepareNothing, &WriteInNewFolder<LineOfField>,
+         &BrokenFile<LineOfField, false>, false, true, 1},
         Replacing<Outline>("boundary"),
         Replacing<Machine>("implement"),
         Replacing<Profile>("export of a profile"),

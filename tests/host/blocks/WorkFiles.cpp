@@ -176,9 +176,16 @@ void WorkFiles::aFolderThatCannotBeMadeIsSaid()
 {
     const TTemporaryFolder folder;
     folder.MakeFile(QLatin1String("file"));
-    QString error;
-    QVERIFY(!Kind().write(folder.Path(QLatin1String("file/inside/x.ini")), &error));
-    QVERIFY2(error.startsWith(QLatin1String("cannot make the folder")), qPrintable(error));
+    QVERIFY(QFile::link(folder.Path(QLatin1String("nothing")), folder.Path(QLatin1String("link"))));
+    for (const char* const name : {"file", "link"}) {
+        const QString made = folder.Path(QLatin1String(name));
+        const QString expected = QString::fromLatin1("cannot make the folder %1: Not a directory").arg(made);
+        for (const char* const inside : {"/x.ini", "/inside/x.ini"}) {
+            QString error;
+            QVERIFY(!Kind().write(made + QLatin1String(inside), &error));
+            QCOMPARE(error, expected);
+        }
+    }
 }
 
 void WorkFiles::pointsThatAreNoLineAreRefused()
