@@ -1,7 +1,6 @@
 #include "terminal/TTerminal.h"
 
 #include "diagnostics/KeptLogs.h"
-#include "diagnostics/LogTimes.h"
 #include "diagnostics/TOneLineLogAccessor.h"
 #include "parameters/ItemNames.h"
 #include "platform/TLocalTime.h"
@@ -126,8 +125,8 @@ void TTerminal::PublishSettings(const QString& softwareVersion, const QString& c
     TSystemSettingsProxy().SetSoftwareVersion(softwareVersion);
     TSystemSettingsProxy().SetCFFRoot(clientRoot);
     Settings->Initialise();
-    OrderLogTimes(TSystemSettingsProxy().GetInternalUserLogPath());
-    OrderLogTimes(TSystemSettingsProxy().GetInternalNemaLogPath());
+    m_Parameters->KeepInOrder(PARAM_USER_LOG_FILE_NUMBER, TSystemSettingsProxy().GetInternalUserLogPath());
+    m_Parameters->KeepInOrder(PARAM_NMEA_LOG_FILE_NUMBER, TSystemSettingsProxy().GetInternalNemaLogPath());
     Settings->Restore();
     for (const auto& selection : selections)
         m_Store.SetParameter(selection.first, selection.second, true);

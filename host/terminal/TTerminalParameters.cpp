@@ -1,5 +1,6 @@
 #include "terminal/TTerminalParameters.h"
 
+#include "diagnostics/LogTimes.h"
 #include "stores/StandardError.h"
 #include "terminal/DataFolder.h"
 
@@ -27,9 +28,27 @@ bool TTerminalParameters::PlaceDrives(QString* error)
     return UseInternalDrive(Stored(PARAM_INTERNAL_DRIVE), error);
 }
 
+void TTerminalParameters::KeepInOrder(EParamID number, const QString& basePath)
+{
+    {
+        const QMutexLocker lock(&m_Mutex);
+        m_Logs.insert(number, basePath);
+    }
+    OrderLogTimes(basePath);
+}
+
+// A log stores its number when it has filled a file, and has not made the next one yet.
 bool TTerminalParameters::SetParameter(EParamID id, const QVariant& value, bool persist)
 {
-    return m_Store.SetParameter(id, value, persist);
+    const bool isStored = m_Store.SetParameter(id, value, persist);
+    QString log;
+    {
+        const QMutexLocker lock(&m_Mutex);
+        log = m_Logs.value(id);
+    }
+    if (!log.isEmpty())
+        OrderLogTimes(log);
+    return isStored;
 }
 
 QVariant TTerminalParameters::GetParameter(EParamID id)

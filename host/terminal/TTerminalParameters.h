@@ -2,6 +2,7 @@
 
 #include "stores/TParameterStore.h"
 
+#include <QMap>
 #include <QMutex>
 #include <QString>
 
@@ -22,6 +23,12 @@ public:
     /// Takes up the drives and makes their folders. Must succeed before the drives are read.
     /// @return false when a folder of the internal drive cannot be made, which @p error then names.
     bool PlaceDrives(QString* error);
+
+    /// Orders the times of a log's files now, and whenever the log goes on to its next file: with a clock that is
+    /// behind the times of older files, the log would else remove what it has just written. To be called before the log
+    /// is restored.
+    /// @param number parameter with the number of the log's next file.
+    void KeepInOrder(EParamID number, const QString& basePath);
 
     bool SetParameter(EParamID id, const QVariant& value, bool persist) override;
     QVariant GetParameter(EParamID id) override;
@@ -45,7 +52,8 @@ private:
     TParameterStore& m_Store;
     const QString m_DataFolder;
 
-    QMutex m_Mutex; // guards the drives
+    QMutex m_Mutex; // guards the drives and the logs
     tagDrive m_Internal;
     tagDrive m_External;
+    QMap<int, QString> m_Logs; // base paths, by the parameter of the number
 };

@@ -7,10 +7,13 @@
 #include "diagnostics/LogTimes.h"
 #include "logs/TDiagnosticLog.h"
 #include "logs/TLogSeries.h"
+#include "logs/TNEMADiagnosticLogProxy.h"
 #include "parameters/HostParameters.h"
 #include "stores/ChangeJournal.h"
 #include "stores/TMemoryStore.h"
 #include "stores/TSqliteStore.h"
+#include "system/TSystemSettingsProxy.h"
+#include "terminal/TTerminal.h"
 
 #include <QtTest>
 
@@ -79,6 +82,8 @@ private slots:
     void aLogGoesOnAfterARestart();
     void anOpenLogLosesNothingThatIsKept_data() { AddChanges(); }
     void anOpenLogLosesNothingThatIsKept();
+    void aTerminalKeepsItsNewestLines_data() { AddChanges(); }
+    void aTerminalKeepsItsNewestLines();
     void theJournalKeepsItsOrder_data() { AddChanges(); }
     void theJournalKeepsItsOrder();
     void eachDayHasItsCopy_data() { AddChanges(); }
@@ -218,6 +223,42 @@ void ClockChanges::anOpenLogLosesNothingThatIsKept()
             QVERIFY(kept.count(Line(number)) <= 1);
     }
     Report("log, open");
+}
+
+// The log fills several files before the change, and several after it without a restart.
+void ClockChanges::aTerminalKeepsItsNewestLines()
+{
+    constexpr int NmeaFiles = 4;
+    constexpr int NmeaBytes = 0x40000;
+    QFETCH(int, change);
+    const std::int64_t times[] = {Changes[change].before, Changes[change].after};
+    QByteArray all;
+    QString base;
+    for (const std::int64_t time : times) {
+        SetClock(time, Changes[change].step);
+        TTerminal terminal(*m_Parameters);
+        QString error;
+        QVERIFY2(terminal.Start(m_Folder->Path(), &error, {QLatin1String("1")}), qPrintable(error));
+        base = TSystemSettingsProxy().GetInternalNemaLogPath();
+        TNEMADiagnosticLogProxy log;
+        for (int bytes = 0; bytes < 6 * NmeaBytes; bytes += 0x1000) {
+            const QByteArray line = QByteArray::number(++m_Lines).rightJustified(0xffe, '0') + "\r\n";
+            QVERIFY(log.LogDiagnostic(line.constData(), static_cast<int>(line.size())));
+            all += line;
+        }
+    }
+    const QFileInfo series(base);
+    QByteArray kept;
+    const QStringList names =
+        series.dir().entryList({series.completeBaseName() + QLatin1String("0*")}, QDir::Files, QDir::Name);
+    for (const QString& name : names) {
+        QFile file(series.dir().filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        kept += file.readAll();
+    }
+    QVERIFY2(all.endsWith(kept), "other lines than the newest were kept");
+    QVERIFY(kept.size() >= (NmeaFiles - 1) * NmeaBytes);
+    Report("log of a terminal");
 }
 
 std::unique_ptr<TSqliteStore> ClockChanges::OpenStore() const

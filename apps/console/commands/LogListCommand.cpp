@@ -18,7 +18,7 @@ int RunLogList(const tagContext& context, const QStringList& arguments)
         QLatin1String("log list"), QLatin1String("[LOG]"),
         QString::fromLatin1("Lists the files of both logs or of one (%1), the oldest first: number, size in bytes, "
                             "time of the last change in UTC. The log goes on in the file marked newest. When the clock "
-                            "was set back, the next start moves times forward to keep the files in their order.")
+                            "was set back, the terminal moves times forward to keep the files in their order.")
             .arg(LogNames().join(QLatin1String(", "))),
         QLatin1String("cabsettings log list"));
     line.AddJsonOption(QLatin1String(
