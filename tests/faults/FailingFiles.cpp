@@ -50,6 +50,9 @@ bool IsInvisible(const tagFault& fault) { return fault.error == EINTR || fault.s
 constexpr int UsualPoints = 14;
 constexpr int LeastPoints = 3;
 
+/// A store looks at its file once a second, in a thread of its own: one run may make so many calls more than another.
+constexpr int VaryingCalls = 8;
+
 constexpr unsigned SecondsOfChild = 100;
 
 // A sanitizer makes each run several times as slow.
@@ -216,7 +219,8 @@ void FailingFiles::nothingIsLostAtAnyCall()
         QByteArray broken = tried.broken(m_Room, after);
         if (broken.isEmpty() && IsInvisible(stopped) && !after.isDone)
             broken = "the caller is told of what is to be repeated";
-        if (broken.isEmpty() && !isReached)
+        const bool mayBeMissing = tried.isOfDatabase && nth > calls - VaryingCalls;
+        if (broken.isEmpty() && !isReached && !mayBeMissing)
             broken = "the call was not made";
         result.points += isReached ? 1 : 0;
         result.done += isReached && after.isDone ? 1 : 0;
@@ -227,6 +231,7 @@ void FailingFiles::nothingIsLostAtAnyCall()
                 __FILE__, __LINE__);
     }
     Ignore();
+    QVERIFY(result.points > 0);
     result.Append();
 }
 
