@@ -184,12 +184,21 @@ void WriteAndNote(TSqliteConnection& connection, const QMap<int, QVariant>& chan
 QString Write(TSqliteConnection& connection, const QMap<int, QVariant>& changes,
               const QMap<int, EChangeAuthor>& authors, QString* journalDamage)
 {
-    Begin(connection);
-    const QVector<JournalTable::tagChange> entries = ChangesOf(connection, changes, authors);
-    WriteRows(connection, changes);
-    const bool areWritten = connection.Failure().text.isEmpty();
-    JournalTable::Append(connection, entries);
-    if (areWritten && connection.Failure().isDamage) {
+    const auto isJournalDamaged = [&] {
+        Begin(connection);
+        const QVector<JournalTable::tagChange> entries = ChangesOf(connection, changes, authors);
+        WriteRows(connection, changes);
+        const bool areWritten = connection.Failure().text.isEmpty();
+        JournalTable::Append(connection, entries);
+        return areWritten && connection.Failure().isDamage;
+    };
+    // A drive that cannot be read once may be read the next time.
+    bool isDamaged = isJournalDamaged();
+    if (isDamaged) {
+        RollBack(connection);
+        isDamaged = isJournalDamaged();
+    }
+    if (isDamaged) {
         // A parameter is not lost because its change cannot be noted.
         *journalDamage = connection.Failure().text;
         RollBack(connection);
