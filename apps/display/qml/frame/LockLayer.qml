@@ -36,7 +36,7 @@ FocusScope {
     anchors.fill: visible ? parent : undefined
     visible: false
     // No key reaches what lies below.
-    Keys.onPressed: event.accepted = true
+    Keys.onPressed: function(event) { event.accepted = true }
 
     MouseArea {
         objectName: "shield"

@@ -15,7 +15,9 @@ SettingRow {
     property string kept
     property bool isConflict: false
 
-    readonly property real half: Math.max(Sizes.target * 2, width * 0.25)
+    // In a low window each value stands beside its name: below it, the row would be higher than its list.
+    readonly property bool isBeside: Sizes.isCompact && !Sizes.isSlim
+    readonly property real half: isBeside ? width / 2 - Sizes.gap : Math.max(Sizes.target * 2, width * 0.25)
 
     meaning: isConflict ? qsTr("Changed on both sides") : ""
 
@@ -25,17 +27,21 @@ SettingRow {
         Repeater {
             model: [{ side: "ours", title: qsTr("Here") }, { side: "theirs", title: qsTr("Profile") }]
 
-            Column {
+            Grid {
+                columns: row.isBeside ? 2 : 1
+                columnSpacing: Sizes.gap
                 width: row.half
 
                 TextLabel {
+                    id: side
+
                     muted: true
                     text: modelData.title
                 }
 
                 TextLabel {
-                    width: parent.width
-                    size: Sizes.row
+                    width: row.isBeside ? parent.width - side.width - Sizes.gap : parent.width
+                    size: row.isBeside ? Sizes.text : Sizes.row
                     wraps: true
                     font.bold: row.kept === modelData.side
                     text: modelData.side === "ours" ? row.ours : row.theirs
