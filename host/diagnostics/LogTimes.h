@@ -19,7 +19,7 @@
 /// 99999. Links, copies under other names (user20240501.log, user1.log) and files without a number are left alone.
 /// Nothing is changed when the folder cannot be read to its end.
 ///
-/// To be called before the log is opened, and where it goes on to its next file: when it stores the number of that file.
-/// TTerminal does both. Takes no lock and logs nothing; may be called from any thread.
+/// To be called before the log is opened, and where it goes on to its next file: when it stores the number of that
+/// file. TTerminal does both. Takes no lock and logs nothing; may be called from any thread.
 /// @param basePath as of TDiagnosticLog::Restore().
 CABHOST_EXPORT void OrderLogTimes(const QString& basePath);

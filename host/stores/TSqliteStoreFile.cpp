@@ -121,7 +121,7 @@ template <class Look>
 tagStoreFinding LookTwice(StoreTable::tagContent* content, Look look)
 {
     *content = {};
-    const tagStoreFinding first = look();
+    tagStoreFinding first = look();
     if (!IsDamage(first, *content))
         return first;
     *content = {};
