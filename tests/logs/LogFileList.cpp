@@ -17,12 +17,14 @@ const char* const UnknownFile = "user00002.log";
 
 } // namespace
 
-/// Takes the place of the C library's function, under the name for 64-bit file offsets.
+/// Takes the place of the C library's function. The name under which a program calls it depends on its file offsets and
+/// on its times: both have 64 bits here.
 extern "C" __attribute__((visibility("default"))) int fstatat(int folder, const char* name, struct stat* status,
                                                               int flags) noexcept
 {
+    static const char* const symbol = sizeof(time_t) > sizeof(long) ? "__fstatat64_time64" : "fstatat64";
     static const auto original =
-        reinterpret_cast<int (*)(int, const char*, struct stat*, int)>(dlsym(RTLD_NEXT, "fstatat64"));
+        reinterpret_cast<int (*)(int, const char*, struct stat*, int)>(dlsym(RTLD_NEXT, symbol));
     if (statError != 0 && QByteArray(name) == UnknownFile) {
         errno = statError;
         return -1;
