@@ -50,10 +50,16 @@ std::atomic<std::int64_t> clockShift{0};
 /// What a descriptor is open for.
 struct tagOpen
 {
-    bool isWatched = false;
-    int node = NoNode; ///< in the record
+    std::atomic<bool> isWatched{false}; // looked at by every call of every thread, most of which are about other files
+    int node = NoNode;                  ///< in the record; guarded by the lock
 };
 std::array<tagOpen, MostFiles> opened;
+
+void Forget(tagOpen& open)
+{
+    open.isWatched = false;
+    open.node = NoNode;
+}
 
 using TLock = std::lock_guard<std::recursive_mutex>;
 
@@ -157,8 +163,8 @@ void Remember(int file, const std::string& path, bool isMade, bool isEmptied)
     if (file < 0 || static_cast<std::size_t>(file) >= MostFiles)
         return;
     tagOpen& open = opened[static_cast<std::size_t>(file)];
-    open.isWatched = true;
     open.node = record ? record->Opened(path, isMade, isEmptied) : NoNode;
+    open.isWatched = true;
     if (isMade || isEmptied)
         Stamp(file);
 }
@@ -292,7 +298,8 @@ void FileCalls::Watch(const QByteArray& folder)
     fault = LetsThrough;
     misread.clear();
     record = nullptr;
-    opened.fill(tagOpen());
+    for (tagOpen& open : opened)
+        Forget(open);
     isWatching = true;
 }
 
@@ -420,9 +427,9 @@ int SeenOpen64(const char* path, int flags, ...)
 int SeenClose(int file)
 {
     static const auto original = Original<int(int)>("close");
-    if (Of(file)) {
+    if (tagOpen* const open = Of(file)) {
         const TLock locked(lock);
-        opened[static_cast<std::size_t>(file)] = tagOpen();
+        Forget(*open);
     }
     return original(file);
 }
