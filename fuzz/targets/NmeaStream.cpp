@@ -3,7 +3,9 @@
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TNmeaLineSplitter.h"
 #include "nmea/TNmeaReceiver.h"
+#include "nmea/TTimeGuard.h"
 #include "parameters/HostParameters.h"
+#include "platform/BuildDate.h"
 #include "platform/TLocalTime.h"
 #include "stores/TMemoryStore.h"
 #include "support/FuzzTarget.h"
@@ -18,7 +20,7 @@
 namespace {
 
 const int FirstYear = 2000;
-const int LastYear = 2099;                                                    // of two digits
+const int LastYear = 9999;                                                    // of the four digits of ZDA
 const qint64 FarthestZone = 15 * 60 * 60;                                     // seconds
 const qint64 FarthestOffset = std::numeric_limits<int>::max() - FarthestZone; // of the clock from the machine's
 const int SeedBytes = 3000;
@@ -51,7 +53,15 @@ void ExpectInRange(double value, double least, double greatest, const char* prom
     Expect(std::isnan(value) || (value >= least && value <= greatest), promise, QString::number(value));
 }
 
-void ExpectSound(const TNmeaReceiver::tagStatus& status)
+/// The times of a recording are not checked. Those of a receiver lie in the 1024 weeks from the date of the software.
+bool IsPossible(const QDateTime& utc, ENmeaOrigin origin)
+{
+    const QDateTime built(BuildDate(), QTime(0, 0), Qt::UTC);
+    return origin == NMEA_RECORDED ? utc.date().year() >= FirstYear && utc.date().year() <= LastYear
+                                   : utc >= built && utc < built.addDays(TTimeGuard::RolloverDays);
+}
+
+void ExpectSound(const TNmeaReceiver::tagStatus& status, ENmeaOrigin origin)
 {
     Expect(status.lines == status.sentences + status.badChecksums + status.damagedLines,
            "a line is a sentence, has a wrong checksum, or is damaged");
@@ -60,11 +70,9 @@ void ExpectSound(const TNmeaReceiver::tagStatus& status)
     ExpectInRange(status.course, 0, 360, "a course is an angle");
     ExpectInRange(status.speed, 0, std::numeric_limits<double>::max(), "a speed is not negative, and finite");
     Expect(!std::isinf(status.altitude), "an altitude is finite");
-    if (status.utc.isValid()) {
-        const int year = status.utc.date().year();
-        Expect(year >= FirstYear && year <= LastYear && status.utc.timeSpec() == Qt::UTC,
-               "a valid time is in UTC, from the year 2000 on");
-    }
+    Expect(!status.utc.isValid() || status.utc.timeSpec() == Qt::UTC, "a valid time is in UTC");
+    Expect(!status.utc.isValid() || IsPossible(status.utc, origin), "a valid time is possible",
+           status.utc.toString(Qt::ISODate));
 }
 
 /// Whether the clock shows this time in some time zone.
@@ -95,7 +103,7 @@ void Check(const QByteArray& bytes)
         if (repairs)
             line = WithRightChecksum(line);
         receiver.Receive(line);
-        ExpectSound(receiver.GetStatus());
+        ExpectSound(receiver.GetStatus(), origin);
         const bool isNewTime = receiver.GetStatus().utc != utc;
         utc = receiver.GetStatus().utc;
         Expect(!isNewTime || IsShownByClock(utc), "a valid time sets the clock", utc.toString(Qt::ISODate));
