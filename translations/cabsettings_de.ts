@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Möglich ist: %4</translation>
+        <translation>%3 Vorschlag: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>So kann keine Datei heißen. Möglich ist: %1</translation>
+        <translation>So kann keine Datei heißen. Vorschlag: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>

@@ -668,7 +668,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>da %1 a %2 %3</translation>
+        <translation>Da %1 a %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>

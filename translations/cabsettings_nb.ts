@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Mulig er: %4</translation>
+        <translation>%3 Forslag: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>En fil kan ikke hete dette. Mulig er: %1</translation>
+        <translation>En fil kan ikke hete dette. Forslag: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>

@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Mogelijk is: %4</translation>
+        <translation>%3 Voorstel: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Zo kan een bestand niet heten. Mogelijk is: %1</translation>
+        <translation>Zo kan een bestand niet heten. Voorstel: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1166,7 +1166,7 @@
     </message>
     <message>
         <source>the active boom leveller</source>
-        <translation>de actieve boomgeleiding</translation>
+        <translation>de actieve spuitboomgeleiding</translation>
     </message>
     <message>
         <source>the active client</source>

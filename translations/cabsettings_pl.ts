@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Możliwa jest: %4</translation>
+        <translation>%3 Propozycja: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>od %1 do %2 %3</translation>
+        <translation>Od %1 do %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Plik nie może mieć takiej nazwy. Możliwa jest: %1</translation>
+        <translation>Plik nie może mieć takiej nazwy. Propozycja: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -3199,7 +3199,7 @@
     </message>
     <message>
         <source>The stick could not be written to the end.</source>
-        <translation>Nie udało się zapisać nośnika USB do końca.</translation>
+        <translation>Nie udało się dokończyć zapisu na nośniku USB.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be made.</source>

@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>de la %1 la %2 %3</translation>
+        <translation>De la %1 la %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>

@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>от %1 до %2 %3</translation>
+        <translation>От %1 до %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>

@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>od %1 do %2 %3</translation>
+        <translation>Od %1 do %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>
@@ -1861,7 +1861,7 @@
     </message>
     <message>
         <source>There is no profile on the stick.</source>
-        <translation>Na USB kľúči nie je profil.</translation>
+        <translation>Na USB kľúči nie je žiadny profil.</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>

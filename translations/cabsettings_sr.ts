@@ -670,7 +670,7 @@
     <name>Keypad</name>
     <message>
         <source>%1 to %2 %3</source>
-        <translation>od %1 do %2 %3</translation>
+        <translation>Od %1 do %2 %3</translation>
     </message>
     <message>
         <source>At least %1 %2</source>

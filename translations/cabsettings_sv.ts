@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Möjligt är: %4</translation>
+        <translation>%3 Förslag: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -959,7 +959,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Så kan en fil inte heta. Möjligt är: %1</translation>
+        <translation>Så kan en fil inte heta. Förslag: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
