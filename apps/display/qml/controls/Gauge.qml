@@ -26,7 +26,13 @@ Item {
         spacing: Sizes.margin
 
         TextLabel { text: gauge.title; size: Sizes.row }
-        TextLabel { text: gauge.text; muted: true; width: Math.min(implicitWidth, parent.width); wraps: true }
+        TextLabel {
+            width: Math.min(implicitWidth, parent.width)
+            size: Sizes.row // that of the title: both stand on one base line
+            muted: true
+            wraps: true
+            text: gauge.text
+        }
     }
     Rectangle {
         id: bar

@@ -90,6 +90,7 @@ Item {
 
                     objectName: "change"
                     anchors.right: parent.right
+                    height: row.height
                     icon: "pencil"
                     accessibleName: qsTr("Rename or remove %1").arg(model.name)
                     onClicked: changing.ask(model.name)

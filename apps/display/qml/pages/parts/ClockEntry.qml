@@ -41,6 +41,8 @@ Overlay {
         spacing: Sizes.gap * 3
 
         TextLabel {
+            id: heading
+
             size: Sizes.title
             font.bold: true
             color: Scheme.title
@@ -48,7 +50,15 @@ Overlay {
         }
 
         Grid {
-            columns: Sizes.isSlim ? 3 : setting.titles.length
+            id: places
+
+            // They end where the title or the buttons below end, or go beyond.
+            readonly property real gaps: (columns - 1) * spacing
+            readonly property real filling: (Math.max(heading.implicitWidth, answers.implicitWidth) - gaps) / columns
+            readonly property real placeWidth: Math.min(Math.max(Sizes.row * 4.5, filling),
+                                                        (setting.roomWidth - gaps) / columns)
+
+            columns: Math.min(Sizes.isSlim ? 3 : setting.titles.length, setting.titles.length - setting.first)
             spacing: Sizes.gap * 2
 
             Repeater {
@@ -57,8 +67,7 @@ Overlay {
                 Column {
                     readonly property int place: setting.first + index
 
-                    width: Math.min(Sizes.row * 4.5,
-                                    (setting.roomWidth - (parent.columns - 1) * parent.spacing) / parent.columns)
+                    width: places.placeWidth
                     spacing: Sizes.gap
 
                     TextLabel {
@@ -92,6 +101,8 @@ Overlay {
         }
 
         Row {
+            id: answers
+
             anchors.right: parent.right
             spacing: Sizes.gap * 2
 

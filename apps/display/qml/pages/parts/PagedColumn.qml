@@ -110,14 +110,16 @@ FocusScope {
     Item {
         id: whole
         anchors.left: parent.left
+        anchors.leftMargin: -Sizes.gap
         anchors.right: turner.visible ? turner.left : parent.right
         anchors.rightMargin: (turner.visible ? Sizes.gap * 2 : 0) - Sizes.line
         clip: true
 
         Flickable {
             id: area
-            // The line around a button at the edge is not cut off.
-            width: parent.width - Sizes.line
+            // What hangs over the edges is not cut off: the hook of a J, the line around a button.
+            x: Sizes.gap
+            width: parent.width - x - Sizes.line
             height: list.height
             contentHeight: column.height
             bottomMargin: list.hasPages ? height : 0

@@ -111,14 +111,16 @@ FocusScope {
     Item {
         id: whole
         anchors.left: parent.left
+        anchors.leftMargin: -Sizes.gap
         anchors.right: parent.right
         anchors.rightMargin: list.turnerWidth - Sizes.line
         clip: true
 
         ListView {
             id: view
-            // The line around a button at the edge is not cut off.
-            width: parent.width - Sizes.line
+            // What hangs over the edges is not cut off: the hook of a J, the line around a button.
+            x: Sizes.gap
+            width: parent.width - x - Sizes.line
             height: list.height
             cacheBuffer: 0
             // Its current row would take the focus, also where that is no button.
