@@ -22,8 +22,9 @@
 /// All functions are static and may be called from any thread. They read the parameters from the host's store at every
 /// call; only the decimal point is read once in a process.
 ///
-/// A precision is a number of decimals. -1 asks for the default of the unit; a number below -1 shows 6 decimals. A
-/// threshold rule is passed by pointer, null for none, and wins over both. Texts have the decimal point of the display.
+/// A precision is a number of decimals. -1 asks for the default of the unit; a number below -1 shows 6 decimals. No
+/// more than a million decimals are shown; a double has 1074 at most. A threshold rule is passed by pointer, null for
+/// none, and wins over both. Texts have the decimal point of the display.
 class CABSETTINGS_EXPORT TUnits
 {
 public:

@@ -17,6 +17,8 @@ private slots:
     void theyAreShownAsTheyAre();
     void precisionsThatAreNoneShowSixDecimals_data();
     void precisionsThatAreNoneShowSixDecimals();
+    void noMoreThanAMillionDecimalsAreShown_data();
+    void noMoreThanAMillionDecimalsAreShown();
 };
 
 namespace {
@@ -137,6 +139,31 @@ void OddNumbers::precisionsThatAreNoneShowSixDecimals()
     QCOMPARE(U::GetWeightPerAreaString(true, 1.25F, precision, nullptr), Utf8("1.250000 kg/ha"));
     QCOMPARE(U::GetValueString(1.25, UNITS_RPM, precision, nullptr), Utf8("1.250000 rpm"));
     QCOMPARE(U::GetValueString(1.25, UNITS_ACRES, precision, nullptr), Utf8("1.25 ac")); // in general notation
+}
+
+void OddNumbers::noMoreThanAMillionDecimalsAreShown_data()
+{
+    const int million = 1000000;
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<int>("decimals");
+    QTest::newRow("one less") << million - 1 << million - 1;
+    QTest::newRow("a million") << million << million;
+    QTest::newRow("one more") << million + 1 << million;
+    QTest::newRow("the greatest int") << INT_MAX << million;
+}
+
+void OddNumbers::noMoreThanAMillionDecimalsAreShown()
+{
+    QFETCH(int, precision);
+    QFETCH(int, decimals);
+    TChosenUnits store;
+    store.ChooseMeasures(true, false);
+    const Spec spec = {0.0F, precision};
+    const QString shown = Utf8("1.25") + QString(decimals - 2, QLatin1Char('0'));
+    // Compared without QCOMPARE, which would print both texts.
+    QVERIFY(U::GetValueString(1.25, UNITS_RPM, precision, nullptr) == shown + Utf8(" rpm"));
+    QVERIFY(U::GetAreaString(1.25F, precision, nullptr) == shown + Utf8(" ha"));
+    QVERIFY(U::GetAreaString(1.25F, 1, &spec) == shown + Utf8(" ha"));
 }
 
 int main(int argc, char** argv) { return RunCoreTest<OddNumbers>(argc, argv); }
