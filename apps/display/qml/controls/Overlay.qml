@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Window 2.15
 import CabSettings 1.0
 import "."
 
@@ -7,7 +6,7 @@ import "."
 //
 //     Overlay { id: question; TextLabel { text: qsTr("Remove the field?") } }
 //     PushButton { text: qsTr("Remove"); onClicked: question.open() }
-FocusScope {
+Layer {
     id: overlay
 
     default property alias content: panel.data
@@ -19,44 +18,15 @@ FocusScope {
     readonly property real roomWidth: Sizes.width - 2 * padding - 2 * Sizes.gap
     readonly property real roomHeight: Sizes.height - Sizes.keyboard - 2 * padding - 2 * Sizes.gap
 
-    property Item _before: null
     property bool _wasTyping: false
 
-    signal opened()
-    signal closed()
-
-    function open() {
-        if (visible)
-            return
-        _before = Window.window ? Window.window.activeFocusItem : null
-        _wasTyping = Qt.inputMethod.visible
-        parent = Sizes.overlay
-        ++Sizes.overlay.count
-        visible = true
-        forceActiveFocus()
-        opened()
-    }
-    function close() {
-        if (!visible)
-            return
-        visible = false
-        --Sizes.overlay.count
-        if (_before)
-            _before.forceActiveFocus()
-        _before = null
-        // A field of text raises the keyboard when it gets the focus, also when the operator has put it away.
+    onOpening: _wasTyping = Qt.inputMethod.visible
+    // A field of text raises the keyboard when it gets the focus, also when the operator has put it away.
+    onClosed: {
         if (!_wasTyping)
             Qt.inputMethod.hide()
-        closed()
     }
-
-    anchors.fill: visible ? parent : undefined
-    visible: false
     Keys.onEscapePressed: close()
-    Component.onDestruction: {
-        if (visible && Sizes.overlay)
-            --Sizes.overlay.count
-    }
 
     Rectangle {
         anchors.fill: parent

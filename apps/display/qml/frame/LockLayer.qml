@@ -1,40 +1,17 @@
 import QtQuick 2.15
-import QtQuick.Window 2.15
 import CabSettings 1.0
 import "../controls"
 
 // Locks the screen: for wiping it, and so that nothing is tapped by chance. All that is shown goes on. A long hold of
 // the button, by finger or by key, ends it.
-FocusScope {
+Layer {
     id: layer
 
     objectName: "lockLayer"
 
     readonly property int holdMilliseconds: 1200
 
-    property Item _before: null
-
-    function open() {
-        if (visible)
-            return
-        _before = Window.window ? Window.window.activeFocusItem : null
-        parent = Sizes.overlay
-        ++Sizes.overlay.count
-        visible = true
-        unlock.forceActiveFocus()
-    }
-    function close() {
-        if (!visible)
-            return
-        visible = false
-        --Sizes.overlay.count
-        if (_before)
-            _before.forceActiveFocus()
-        _before = null
-    }
-
-    anchors.fill: visible ? parent : undefined
-    visible: false
+    entry: unlock
     // No key reaches what lies below.
     Keys.onPressed: function(event) { event.accepted = true }
 
