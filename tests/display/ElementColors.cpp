@@ -51,22 +51,9 @@ const int Zoom = 4;
 
 const QColor Marker(255, 0, 255);
 
-QQuickItem* Find(QQuickItem& item, const QString& name)
-{
-    if (!item.isVisible())
-        return nullptr;
-    if (item.objectName() == name)
-        return &item;
-    for (QQuickItem* const child : item.childItems()) {
-        if (QQuickItem* const found = Find(*child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 TPlaces Whole(const TOpenDisplay& display, const char* name)
 {
-    const QQuickItem* const item = Find(display.Content(), QLatin1String(name));
+    const QQuickItem* const item = VisibleItems::Named(display.Content(), QLatin1String(name));
     return item ? TPlaces{VisibleItems::SeenPart(*item)} : TPlaces();
 }
 

@@ -77,25 +77,11 @@ bool IsBelow(const QQuickItem* item, const QQuickItem* root)
     return item != nullptr;
 }
 
-/// The visible item of this name; null without one.
-QQuickItem* Shown(QQuickItem& root, const char* name)
-{
-    if (!root.isVisible())
-        return nullptr;
-    if (root.objectName() == QLatin1String(name))
-        return &root;
-    for (QQuickItem* const child : root.childItems()) {
-        if (QQuickItem* const found = Shown(*child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 /// What covers the page in this view; null when nothing does.
 QQuickItem* CoverOf(const TOpenDisplay& display, const QString& view)
 {
     const tagOverlay* const overlay = FindOverlay(view);
-    QQuickItem* const shown = overlay ? Shown(display.Content(), overlay->shown) : nullptr;
+    QQuickItem* const shown = overlay ? VisibleItems::Named(display.Content(), QLatin1String(overlay->shown)) : nullptr;
     return shown && shown->metaObject()->indexOfMethod("close()") >= 0 ? shown : nullptr;
 }
 
@@ -310,7 +296,7 @@ void PageKeys::returnToWhereTheyWere()
     QQuickItem* const within = display.Window().activeFocusItem();
     QVERIFY(within && within != stop && IsFocusStop(*within));
     QCOMPARE(WhatIsUnseen(*within), QString());
-    if (QQuickItem* const lock = Shown(display.Content(), "lockLayer")) {
+    if (QQuickItem* const lock = VisibleItems::Named(display.Content(), QLatin1String("lockLayer"))) {
         QMetaObject::invokeMethod(lock, "close"); // a long hold of the button
         QTRY_COMPARE(display.Window().activeFocusItem(), stop);
     } else {
@@ -358,10 +344,10 @@ void PageKeys::reachNothingBelowTheLock()
     const QObject& pages = *display.Window().findChild<QObject*>(QLatin1String("display"));
     QCOMPARE(pages.property("page").toString(), QStringLiteral("settings"));
     QVERIFY(display.Tap(QLatin1String("Lock the screen")));
-    QVERIFY(Shown(display.Content(), "lockLayer"));
+    QVERIFY(VisibleItems::Named(display.Content(), QLatin1String("lockLayer")));
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Escape})
         display.Press(key);
-    QVERIFY(Shown(display.Content(), "lockLayer"));
+    QVERIFY(VisibleItems::Named(display.Content(), QLatin1String("lockLayer")));
     QCOMPARE(pages.property("page").toString(), QStringLiteral("settings"));
 }
 

@@ -1,4 +1,5 @@
 #include "TTemporaryFolder.h"
+#include "support/VisibleItems.h"
 
 #include "display/fieldwork/DemoField.h"
 #include "display/fieldwork/TWork.h"
@@ -23,20 +24,6 @@
 #include <utility>
 
 namespace {
-
-/// What a Repeater or a Loader has made is a child for the eye alone. Hidden items are not found.
-QQuickItem* Below(QQuickItem* item, const QString& name)
-{
-    if (!item->isVisible())
-        return nullptr;
-    if (item->objectName() == name)
-        return item;
-    for (QQuickItem* const child : item->childItems()) {
-        if (QQuickItem* const found = Below(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 QRectF SceneRect(const QQuickItem& item) { return item.mapRectToScene(QRectF(0, 0, item.width(), item.height())); }
 
@@ -68,10 +55,14 @@ private slots:
 private:
     static void AddSizes();
     void Resize(const QSize& size);
-    QQuickItem* Find(const char* name) const { return Below(m_Session->Window()->contentItem(), QLatin1String(name)); }
+    QQuickItem* Find(const char* name) const
+    {
+        return VisibleItems::Named(*m_Session->Window()->contentItem(), QLatin1String(name));
+    }
     void Tap(const char* name) const;
     void Drive(int epochs);
     QQuickItem* Display() const { return Find("display"); }
+    void FollowNewLine();
 
     std::unique_ptr<TTemporaryFolder> m_Folder;
     std::unique_ptr<TDisplaySession> m_Session;
@@ -171,7 +162,7 @@ void WorkPageTaps::theMapGoesByKeys()
     QCOMPARE(map->property("follow").toBool(), true);
 }
 
-void WorkPageTaps::aLineIsSetAndFollowed()
+void WorkPageTaps::FollowNewLine()
 {
     m_Work->clearLine();
     QVERIFY(!m_Work->HasLine());
@@ -181,14 +172,20 @@ void WorkPageTaps::aLineIsSetAndFollowed()
     Drive(200);
     Tap("setB");
     QVERIFY(m_Work->HasLine());
+}
+
+void WorkPageTaps::aLineIsSetAndFollowed()
+{
+    FollowNewLine();
     QVERIFY(Find("lightBar"));
     QVERIFY(qAbs(m_Work->OffLine()) < 0.05);
 }
 
 void WorkPageTaps::aSavedLineIsChosen()
 {
+    FollowNewLine();
     const TSystemSettingsProxy system;
-    QVERIFY(system.GetActiveABLine() != QLatin1String(DemoField::Line)); // that of the test before
+    QVERIFY(system.GetActiveABLine() != QLatin1String(DemoField::Line));
     Tap("lines");
     QVERIFY(Find("lineChoice"));
     Tap("line.AB_1");

@@ -117,6 +117,19 @@ QQuickItem* VisibleItems::Target(QQuickItem& root, const QString& name)
     return found == targets.rend() ? nullptr : *found;
 }
 
+QQuickItem* VisibleItems::Named(QQuickItem& root, const QString& name)
+{
+    if (!root.isVisible())
+        return nullptr;
+    if (root.objectName() == name)
+        return &root;
+    for (QQuickItem* const child : root.childItems()) {
+        if (QQuickItem* const found = Named(*child, name))
+            return found;
+    }
+    return nullptr;
+}
+
 QString VisibleItems::Text(const QQuickItem& item)
 {
     return item.property(item.inherits("QQuickTextInput") ? "displayText" : "text").toString();

@@ -30,6 +30,10 @@ QString NameOf(const QQuickItem& target);
 /// The enabled target with this name, the one that is drawn last; null when there is none.
 QQuickItem* Target(QQuickItem& root, const QString& name);
 
+/// The visible item of this object name below @p root, or @p root itself; null when there is none. What a Repeater or a
+/// Loader has made is found too: it is a child for the eye alone.
+QQuickItem* Named(QQuickItem& root, const QString& name);
+
 /// The text that the item shows.
 QString Text(const QQuickItem& item);
 
