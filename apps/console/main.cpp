@@ -2,6 +2,7 @@
 #include "console/line/Manual.h"
 #include "console/line/Output.h"
 
+#include "platform/FileMask.h"
 #include "stores/TChangeAuthor.h"
 
 #include <QCoreApplication>
@@ -78,6 +79,7 @@ int Run(QStringList arguments)
 
 int main(int argc, char* argv[])
 {
+    DenyWritingByOthers();
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // Names of farms and fields are UTF-8 on the drives, whatever locale the program is started in.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

@@ -9,6 +9,7 @@
 #include "console/line/QuitOnSignal.h"
 #include "module/CabQuick.h"
 #include "parameters/ParameterRows.h"
+#include "platform/FileMask.h"
 #include "receiver/TReceiver.h"
 #include "stores/TSqliteStore.h"
 
@@ -113,6 +114,7 @@ int Measure(const tagDisplayOptions& options)
 
 int main(int argc, char* argv[])
 {
+    DenyWritingByOthers();
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // Names of farms and fields are UTF-8 on the drives, whatever locale the program is started in.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

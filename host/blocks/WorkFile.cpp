@@ -1,6 +1,7 @@
 #include "blocks/WorkFile.h"
 
 #include "blocks/DataBlock.h"
+#include "platform/RegularFile.h"
 #include "serialization/TBinarySerializer.h"
 #include "stores/DurableFiles.h"
 #include "stores/DurableFolder.h"
@@ -8,6 +9,8 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
 
 namespace {
 
@@ -26,6 +29,12 @@ QString OtherVersion(const QString& path, const WorkFile::tagKind& kind, unsigne
         .arg(path, QString::number(version), Utf8(kind.name), QString::number(kind.version));
 }
 
+bool Open(const QString& path, QFile* file)
+{
+    const int descriptor = OpenRegularFile(path.toUtf8());
+    return descriptor >= 0 && file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+}
+
 } // namespace
 
 QString WorkFile::Damage(const QString& path, const tagKind& kind)
@@ -35,9 +44,9 @@ QString WorkFile::Damage(const QString& path, const tagKind& kind)
 
 bool WorkFile::Write(const QString& path, const tagKind& kind, const QByteArray& content, QString* error)
 {
-    QFile old(path);
+    QFile old;
     unsigned version = 0;
-    if (old.open(QIODevice::ReadOnly) && DataBlock::IsBlock(old.read(DataBlock::BytesBeforePayload), 0, &version) &&
+    if (Open(path, &old) && DataBlock::IsBlock(old.read(DataBlock::BytesBeforePayload), 0, &version) &&
         version > kind.version) {
         *error = OtherVersion(path, kind, version);
         return false;
@@ -58,11 +67,12 @@ bool WorkFile::Write(const QString& path, const tagKind& kind, const QByteArray&
 std::optional<QByteArray> WorkFile::Read(const QString& path, const tagKind& kind, QString* error)
 {
     error->clear();
-    QFile file(path);
-    if (!file.exists())
-        return std::nullopt;
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QString::fromLatin1("cannot read %1: %2").arg(path, file.errorString());
+    QFile file;
+    if (!Open(path, &file)) {
+        if (errno == EINVAL) // a pipe or a device
+            *error = NotOfKind(path, kind);
+        else if (errno != ENOENT && errno != ENOTDIR)
+            *error = DurableFiles::SystemReason(QLatin1String("cannot read"), path);
         return std::nullopt;
     }
     const QByteArray bytes = file.size() <= MostBytes ? file.readAll() : QByteArray();

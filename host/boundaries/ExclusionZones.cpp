@@ -1,5 +1,6 @@
 #include "boundaries/ExclusionZones.h"
 
+#include "platform/RegularFile.h"
 #include "stores/DurableFiles.h"
 
 #include <QDir>
@@ -48,8 +49,9 @@ QString Beside(const QString& path, const char* extension)
 /// Whether a file is as long as its header says. The library believes the header, and takes memory for it.
 bool HasItsLength(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    const int descriptor = OpenRegularFile(path.toUtf8());
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return false;
     const QByteArray header = file.read(IndexHeaderBytes);
     return header.size() == IndexHeaderBytes &&

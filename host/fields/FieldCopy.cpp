@@ -5,8 +5,8 @@
 #include "fields/FieldPlaces.h"
 #include "parameters/ItemNames.h"
 #include "platform/DurableCopy.h"
+#include "platform/RegularFile.h"
 #include "platform/TUnfinishedCopy.h"
-#include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
 #include "stores/DurableFolder.h"
 
@@ -22,7 +22,6 @@
 namespace {
 
 const QLatin1Char Separator('/');
-const mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
 
 QString Parent(const QString& path) { return QFileInfo(path).path(); }
 QString Name(const QString& path) { return QFileInfo(path).fileName(); }
@@ -40,8 +39,7 @@ QByteArray Checksum(int file)
 
 QByteArray ChecksumOfFile(const QString& path)
 {
-    const QByteArray name = path.toUtf8();
-    const TDescriptor file(Uninterrupted([&] { return open(name.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
+    const TDescriptor file(OpenRegularFile(path.toUtf8(), LINKS_REFUSED));
     return file.IsOpen() ? Checksum(file.Get()) : QByteArray();
 }
 
@@ -52,11 +50,10 @@ QByteArray ChecksumReadBack(int file)
     return lseek(file, 0, SEEK_SET) == 0 ? Checksum(file) : QByteArray();
 }
 
-/// Time and permissions as of the source. FAT has no permissions, and a copy with the time of today is a copy too.
-void TakeOver(const struct stat& source, int file)
+/// A copy with the time of today is a copy too.
+void TakeOverTime(const struct stat& source, int file)
 {
     const struct timespec times[] = {source.st_atim, source.st_mtim};
-    static_cast<void>(fchmod(file, source.st_mode & Permissions));
     static_cast<void>(futimens(file, times));
 }
 
@@ -209,13 +206,13 @@ bool TFieldCopy::CopyMissing(QString* error)
 bool TFieldCopy::CopyFile(const QString& path, QString* error)
 {
     const QByteArray from = m_From.Path(path).toUtf8();
-    const TDescriptor source(Uninterrupted([&] { return open(from.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
+    const TDescriptor source(OpenRegularFile(from, LINKS_REFUSED));
     struct stat status = {};
     if (!source.IsOpen() || fstat(source.Get(), &status) != 0)
         return Fail("cannot read", path, error);
 
     const QByteArray folder = m_To.Path(Parent(path)).toUtf8();
-    TUnfinishedCopy copy(folder);
+    TUnfinishedCopy copy(folder, status.st_mode);
     QCryptographicHash hash(QCryptographicHash::Sha256);
     qint64 bytes = 0;
     const auto take = [&](const char* data, int length) {
@@ -225,7 +222,7 @@ bool TFieldCopy::CopyFile(const QString& path, QString* error)
     };
     if (copy.Descriptor() < 0 || !CopyContents(source.Get(), copy.Descriptor(), take))
         return Fail("cannot copy", path, error);
-    TakeOver(status, copy.Descriptor());
+    TakeOverTime(status, copy.Descriptor());
     if (!copy.Sync())
         return Fail("cannot copy", path, error);
     if (ChecksumReadBack(copy.Descriptor()) != hash.result()) {

@@ -2,6 +2,10 @@
 
 #include "platform/Uninterrupted.h"
 
+#include <QStringList>
+
+#include <algorithm>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -28,6 +32,18 @@ bool TOpenDrive::IsThere() const
 QString TOpenDrive::Path(const QString& relative) const
 {
     return QString::fromLatin1("/proc/self/fd/%1/").arg(m_Folder.Get()) + relative;
+}
+
+bool TOpenDrive::HasLink(const QString& relative) const
+{
+    const QStringList names = relative.split(Separator, Qt::SkipEmptyParts);
+    QString path;
+    return std::any_of(names.begin(), names.end(), [&](const QString& name) {
+        path += name + Separator;
+        struct stat status = {};
+        const QByteArray entry = Path(path.chopped(1)).toUtf8();
+        return lstat(entry.constData(), &status) == 0 && S_ISLNK(status.st_mode);
+    });
 }
 
 QString TOpenDrive::Readable(QString text) const { return text.replace(Path(QString()), m_Root + Separator); }

@@ -27,6 +27,10 @@ public:
     /// The path to use for @p relative.
     QString Path(const QString& relative) const;
 
+    /// Whether @p relative leads through a symbolic link, or ends in one: it may leave the drive. A stick from a
+    /// stranger may have such links in place of the folders that are expected on it. False for what does not exist.
+    bool HasLink(const QString& relative) const;
+
     /// A text with the paths of Path() as people know them.
     QString Readable(QString text) const;
 

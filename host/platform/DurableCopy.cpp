@@ -1,5 +1,6 @@
 #include "platform/DurableCopy.h"
 
+#include "platform/RegularFile.h"
 #include "platform/TDescriptor.h"
 #include "platform/TUnfinishedCopy.h"
 #include "platform/Uninterrupted.h"
@@ -18,21 +19,6 @@ namespace {
 
 /// What file systems answer that cannot sync a folder, or do not let it be opened.
 constexpr int CannotSyncFolders[] = {EINVAL, ENOTSUP, ENOSYS, EBADF, EACCES, EPERM};
-
-bool FillAndSync(const QByteArray& source, int to)
-{
-    const TDescriptor from(Uninterrupted([&] { return open(source.constData(), O_RDONLY | O_CLOEXEC); }));
-    struct stat status = {};
-    if (!from.IsOpen() || fstat(from.Get(), &status) != 0)
-        return false;
-    if (!S_ISREG(status.st_mode)) {
-        errno = EINVAL;
-        return false;
-    }
-    // The copy is as readable as its source. FAT has no permissions, which is no reason to fail.
-    static_cast<void>(fchmod(to, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
-    return CopyContents(from.Get(), to) && Uninterrupted([&] { return fsync(to); }) == 0;
-}
 
 QByteArray FolderOf(const QByteArray& path)
 {
@@ -64,10 +50,14 @@ bool CopyDurably(const QByteArray& source, const QByteArray& target, bool overwr
         errno = EEXIST;
         return false;
     }
+    const TDescriptor from(OpenRegularFile(source));
+    struct stat status = {};
+    if (!from.IsOpen() || fstat(from.Get(), &status) != 0)
+        return false;
     const QByteArray folder = FolderOf(target);
-    TUnfinishedCopy copy(folder);
-    return copy.Descriptor() >= 0 && FillAndSync(source, copy.Descriptor()) && copy.MoveTo(target, overwrite) &&
-           SyncFolder(folder);
+    TUnfinishedCopy copy(folder, status.st_mode); // as readable as its source
+    return copy.Descriptor() >= 0 && CopyContents(from.Get(), copy.Descriptor()) && copy.Sync() &&
+           copy.MoveTo(target, overwrite) && SyncFolder(folder);
 }
 
 bool RenameWithoutReplacing(const QByteArray& source, const QByteArray& target)

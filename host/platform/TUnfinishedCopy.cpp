@@ -3,6 +3,8 @@
 #include "platform/DurableCopy.h"
 #include "platform/Uninterrupted.h"
 
+#include <QRandomGenerator>
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -11,14 +13,25 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace {
 
 const char Prefix[] = "/.cabsettings-copy-";
-const char Placeholder[] = "XXXXXX"; // replaced by mkostemp()
+const char Letters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+const int LettersOfName = 6;
 const int Attempts = 10;
+
+/// What cabsettings makes is for the operator alone to change, also where the umask lets everybody.
+const mode_t Permissions = S_IRWXU | S_IRWXG | S_IROTH | S_IXOTH;
+
+QByteArray NewName()
+{
+    QByteArray name = Prefix;
+    for (int i = 0; i < LettersOfName; ++i)
+        name += Letters[QRandomGenerator::system()->bounded(static_cast<int>(sizeof Letters) - 1)];
+    return name;
+}
 
 /// Whether @p path names the open, regular file @p descriptor.
 bool IsNamed(const QByteArray& path, int descriptor)
@@ -47,18 +60,18 @@ void RemoveUnfinishedCopies(const QByteArray& folder)
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(opendir(folder.constData()), closedir);
     if (!entries)
         return;
-    const QByteArray pattern = QByteArray(Prefix) + Placeholder;
+    const auto length = static_cast<int>(qstrlen(Prefix)) + LettersOfName;
     while (const dirent* entry = readdir(entries.get())) {
         const QByteArray name = QByteArray("/") + entry->d_name;
-        if (name.startsWith(Prefix) && name.size() == pattern.size())
+        if (name.startsWith(Prefix) && name.size() == length)
             RemoveUnlessInUse(folder + name);
     }
 }
 
-TUnfinishedCopy::TUnfinishedCopy(const QByteArray& folder) : m_Descriptor(-1)
+TUnfinishedCopy::TUnfinishedCopy(const QByteArray& folder, mode_t mode) : m_Descriptor(-1)
 {
     RemoveUnfinishedCopies(folder);
-    for (int attempt = 0; attempt < Attempts && m_Descriptor < 0 && Make(folder); ++attempt)
+    for (int attempt = 0; attempt < Attempts && m_Descriptor < 0 && Make(folder, mode); ++attempt)
         LockOrDrop();
 }
 
@@ -71,12 +84,16 @@ TUnfinishedCopy::~TUnfinishedCopy()
     errno = error;
 }
 
-bool TUnfinishedCopy::Make(const QByteArray& folder)
+bool TUnfinishedCopy::Make(const QByteArray& folder, mode_t mode)
 {
-    m_Descriptor = Uninterrupted([&] {
-        m_Path = folder + Prefix + Placeholder; // mkostemp() may have changed it
-        return mkostemp(m_Path.data(), O_CLOEXEC);
-    });
+    // O_EXCL: neither another file nor a link that has the name is opened.
+    for (int attempt = 0; attempt < Attempts && m_Descriptor < 0; ++attempt) {
+        m_Path = folder + NewName();
+        m_Descriptor = Uninterrupted(
+            [&] { return open(m_Path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode & Permissions); });
+        if (m_Descriptor < 0 && errno != EEXIST)
+            break;
+    }
     if (m_Descriptor < 0)
         m_Path.clear();
     return m_Descriptor >= 0;

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include <sys/types.h>
+
 /// Removes the files in @p folder that unfinished copies of processes that died have left.
 void RemoveUnfinishedCopies(const QByteArray& folder);
 
@@ -12,8 +14,10 @@ void RemoveUnfinishedCopies(const QByteArray& folder);
 class TUnfinishedCopy
 {
 public:
-    /// Removes the files left behind in @p folder, then makes a new one there.
-    explicit TUnfinishedCopy(const QByteArray& folder);
+    /// Removes the files left behind in @p folder, then makes a new one there, of a name that was not there before and
+    /// that nobody can foretell.
+    /// @param mode the permissions of the file, less the umask. Others never get the one to write.
+    TUnfinishedCopy(const QByteArray& folder, mode_t mode);
 
     /// Removes the file unless MoveTo() has succeeded.
     ~TUnfinishedCopy();
@@ -32,7 +36,7 @@ public:
     bool MoveTo(const QByteArray& target, bool overwrite);
 
 private:
-    bool Make(const QByteArray& folder);
+    bool Make(const QByteArray& folder, mode_t mode);
     void LockOrDrop();
     void Close();
 

@@ -86,11 +86,9 @@ bool Copy(const QString& source, const QString& target, QString* reason)
 bool Write(const QString& path, const QByteArray& content, QString* reason)
 {
     const QByteArray folder = QFileInfo(path).path().toUtf8();
-    TUnfinishedCopy copy(folder);
+    TUnfinishedCopy copy(folder, ReadableByAll);
     const bool isWritten = copy.Descriptor() >= 0 &&
                            WriteAll(copy.Descriptor(), content.constData(), static_cast<std::size_t>(content.size()));
-    if (isWritten) // FAT has no permissions, which is no reason to fail
-        static_cast<void>(fchmod(copy.Descriptor(), ReadableByAll));
     if (isWritten && copy.Sync() && copy.MoveTo(path.toUtf8(), true) && SyncFolder(folder))
         return true;
     *reason = SystemReason(QLatin1String("cannot write"), path);

@@ -20,8 +20,8 @@ bool Rename(const QString& source, const QString& target, QString* reason);
 /// Copies a file. Returns false when @p target exists.
 bool Copy(const QString& source, const QString& target, QString* reason);
 
-/// Writes a file that everyone may read; an existing one is replaced. Whatever happens on the way, @p path is the old
-/// file or the complete new one.
+/// Writes a file that everyone may read whom the umask lets; an existing one is replaced. Whatever happens on the way,
+/// @p path is the old file or the complete new one.
 bool Write(const QString& path, const QByteArray& content, QString* reason);
 
 /// Removes a file. Returns true when there is no such file.

@@ -11,7 +11,7 @@
 
 namespace {
 
-const mode_t FolderMode = 0777; // less the umask
+const mode_t FolderMode = 0775; // less the umask
 
 bool IsFolder(const QString& path)
 {

@@ -22,7 +22,8 @@ QByteArray FolderOf(const QString& path) { return QFileInfo(path).absolutePath()
 
 } // namespace
 
-TZipFile::TZipFile(const QString& path) : m_Path(path), m_File(FolderOf(path)), m_Archive(archive_write_new())
+TZipFile::TZipFile(const QString& path)
+    : m_Path(path), m_File(FolderOf(path), Permissions), m_Archive(archive_write_new())
 {
     if (m_File.Descriptor() < 0 || !m_Archive) {
         Fail();
@@ -66,7 +67,6 @@ bool TZipFile::Finish()
 {
     if (!m_Reason.isEmpty() || !Check(archive_write_close(m_Archive)))
         return false;
-    static_cast<void>(fchmod(m_File.Descriptor(), Permissions));
     const bool isThere = m_File.Sync() && m_File.MoveTo(m_Path.toUtf8(), true) && SyncFolder(FolderOf(m_Path));
     return isThere || Fail();
 }

@@ -1,7 +1,12 @@
 #include "TWorkRoom.h"
 
+#include <condition_variable>
+#include <cstdarg>
+#include <mutex>
+#include <string>
+
+#include <dlfcn.h>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -9,45 +14,43 @@ namespace {
 const int Early = 50;
 const int Later = 30;
 
-/// A file that its reader waits for until it is let go. In between it is a pipe.
+// Not of Qt, whose own calls come by here.
+std::mutex slowMutex;
+std::condition_variable slowChanged;
+std::string slowPath; // empty: no file is slow
+
+/// A file that its readers wait for until it is let go.
 class TSlowFile
 {
 public:
-    explicit TSlowFile(const QString& path) : m_Path(path)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("cannot read %s", qPrintable(path));
-        m_Content = file.readAll();
-        file.close();
-        if (!file.remove() || mkfifo(path.toUtf8().constData(), S_IRUSR | S_IWUSR) != 0)
-            qFatal("cannot make the pipe %s", qPrintable(path));
-    }
+    explicit TSlowFile(const QString& path) { Set(path.toStdString()); }
     ~TSlowFile() { LetGo(); }
 
     TSlowFile(const TSlowFile&) = delete;
     TSlowFile& operator=(const TSlowFile&) = delete;
 
-    /// Lets one reader have the content. Readers that come later find a file.
-    void LetGo()
-    {
-        if (m_Path.isEmpty())
-            return;
-        const int pipe = open(m_Path.toUtf8().constData(), O_WRONLY | O_CLOEXEC); // waits for the reader
-        QFile file(m_Path);
-        if (pipe < 0 || !file.remove() || !file.open(QIODevice::WriteOnly) || file.write(m_Content) < 0)
-            qFatal("cannot write %s", qPrintable(m_Path));
-        file.close();
-        if (write(pipe, m_Content.constData(), static_cast<size_t>(m_Content.size())) != m_Content.size())
-            qFatal("cannot write to the pipe %s", qPrintable(m_Path));
-        close(pipe);
-        m_Path.clear();
-    }
+    static void LetGo() { Set(std::string()); }
 
 private:
-    QString m_Path;
-    QByteArray m_Content;
+    static void Set(const std::string& path)
+    {
+        const std::lock_guard<std::mutex> lock(slowMutex);
+        slowPath = path;
+        slowChanged.notify_all();
+    }
 };
+
+using TOpen = int(const char*, int, ...);
+
+int OpenWhenItIsFast(const char* name, const char* path, int flags, mode_t mode)
+{
+    const auto original = reinterpret_cast<TOpen*>(dlsym(RTLD_NEXT, name));
+    if ((flags & O_ACCMODE) == O_RDONLY) {
+        std::unique_lock<std::mutex> lock(slowMutex);
+        slowChanged.wait(lock, [path] { return slowPath != path; });
+    }
+    return original(path, flags, mode);
+}
 
 /// Begins the work anew, and does not wait for the job.
 void Begin(TWorkRoom& room)
@@ -71,7 +74,39 @@ int StripsOfJob(TWorkRoom& room, const char* job)
 
 QString Boundary(const TWorkRoom& room) { return room.FieldFile("Boundaries/F1/F1.bdy"); }
 
+mode_t Mode(int flags, va_list rest)
+{
+    return (flags & O_CREAT) != 0 ? static_cast<mode_t>(va_arg(rest, unsigned)) : 0;
+}
+
 } // namespace
+
+// These take the place of the C library's functions: libraries are built with one or the other.
+#pragma GCC visibility push(default)
+extern "C" {
+
+int SlowOpen(const char* path, int flags, ...) __asm__("open");
+int SlowOpen64(const char* path, int flags, ...) __asm__("open64");
+
+int SlowOpen(const char* path, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = Mode(flags, rest);
+    va_end(rest);
+    return OpenWhenItIsFast("open", path, flags, mode);
+}
+
+int SlowOpen64(const char* path, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = Mode(flags, rest);
+    va_end(rest);
+    return OpenWhenItIsFast("open64", path, flags, mode);
+}
+}
+#pragma GCC visibility pop
 
 /// Ground that is covered while a job is loaded belongs to that job.
 class WorkWhileLoading : public QObject

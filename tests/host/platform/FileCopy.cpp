@@ -26,6 +26,7 @@ private slots:
     void whatCannotBeCopiedLeavesTheTarget_data();
     void whatCannotBeCopiedLeavesTheTarget();
     void nothingElseIsLeftInTheFolder();
+    void permissionsFollowTheSource_data();
     void permissionsFollowTheSource();
     void copyingAFileOntoItselfKeepsIt();
     void aFullDiskKeepsTheOldFile();
@@ -208,14 +209,32 @@ void FileCopy::nothingElseIsLeftInTheFolder()
              QStringList() << QLatin1String("source") << QLatin1String("target"));
 }
 
+void FileCopy::permissionsFollowTheSource_data()
+{
+    QTest::addColumn<uint>("source");
+    QTest::addColumn<uint>("mask");
+    QTest::addColumn<uint>("copy");
+    QTest::newRow("for a group") << 0640U << 022U << 0640U;
+    QTest::newRow("for all to read") << 0644U << 022U << 0644U;
+    QTest::newRow("for all to read, with a strict umask") << 0644U << 077U << 0600U;
+    QTest::newRow("for all to write, as on FAT") << 0777U << 0U << 0775U;
+    QTest::newRow("for nobody to write") << 0444U << 022U << 0444U;
+}
+
 void FileCopy::permissionsFollowTheSource()
 {
+    QFETCH(uint, source);
+    QFETCH(uint, mask);
+    QFETCH(uint, copy);
     Write(Path("source"), "x");
-    QCOMPARE(chmod(QFile::encodeName(Path("source")).constData(), 0640), 0);
-    QVERIFY(TFileSystemHelper::FileCopy(Path("source"), Path("target"), true));
+    QCOMPARE(chmod(QFile::encodeName(Path("source")).constData(), source), 0);
+    const mode_t before = umask(mask);
+    const bool isCopied = TFileSystemHelper::FileCopy(Path("source"), Path("target"), true);
+    umask(before);
+    QVERIFY(isCopied);
     struct stat status = {};
     QCOMPARE(stat(QFile::encodeName(Path("target")).constData(), &status), 0);
-    QCOMPARE(static_cast<int>(status.st_mode & 0777), 0640);
+    QCOMPARE(static_cast<uint>(status.st_mode & 0777), copy);
 }
 
 void FileCopy::copyingAFileOntoItselfKeepsIt()
