@@ -8,6 +8,7 @@
 #include "fields/FieldSelection.h"
 #include "fields/FileTree.h"
 #include "fields/TFieldLock.h"
+#include "fields/TOpenDrive.h"
 #include "platform/TUnfinishedCopy.h"
 #include "stores/DurableFiles.h"
 #include "stores/DurableFolder.h"
@@ -103,6 +104,16 @@ bool Discard(const QString& clients, const QString& folder, QString* error)
     return FileTree::Rename(folder, discarded + QLatin1String("/item"), error) && FileTree::Remove(discarded, error);
 }
 
+/// Whether the way to an item on the stick is one of folders. A link might lead into the folders of this terminal.
+bool IsOnStick(const QString& stick, const QStringList& path, QString* error)
+{
+    const QString folder = FieldPlaces::Folder(path);
+    if (!TOpenDrive(stick).HasLink(folder))
+        return true;
+    *error = QString::fromLatin1("\"%1\" is neither a file nor a folder").arg(stick + Separator + folder);
+    return false;
+}
+
 } // namespace
 
 TFieldTree::TFieldTree(TParameterStore& store) : m_Store(store) {}
@@ -121,6 +132,8 @@ EFieldResult TFieldTree::List(EFieldDrive drive, const QStringList& path, QList<
         if (lock.IsHeld())
             FinishOthers(m_Store, root, &problem);
         active = FieldSelection::Active();
+    } else if (!IsOnStick(root, path, error)) {
+        return FIELD_FAILED;
     }
     if (!path.isEmpty() && !FieldDrives::IsThere(root, path, error))
         return FIELD_FAILED;
@@ -203,7 +216,8 @@ EFieldResult TFieldTree::Copy(const QStringList& path, EFieldDrive target, bool 
 {
     tagWorkshop workshop;
     QString stick;
-    if (!Enter(m_Store, &workshop, error) || !FieldDrives::Find(FIELD_DRIVE_STICK, &stick, error))
+    if (!Enter(m_Store, &workshop, error) || !FieldDrives::Find(FIELD_DRIVE_STICK, &stick, error) ||
+        !IsOnStick(stick, path, error))
         return FIELD_FAILED;
     // Copies go on side by side, and nothing is renamed or removed meanwhile.
     workshop.lock.reset();

@@ -108,8 +108,9 @@ tagTransferResult CopyLogs(const TOpenDrive& stick, const TTransferProgress& pro
     for (const tagLogFile& file : files)
         all += file.size;
 
-    const QString folder = stick.Path(QLatin1String(TSystemSettings::DiagnosticsFolder));
-    if (!QDir().mkpath(folder))
+    const QLatin1String diagnostics(TSystemSettings::DiagnosticsFolder);
+    const QString folder = stick.Path(diagnostics);
+    if (stick.HasLink(diagnostics) || !QDir().mkpath(folder))
         return Failed(Translated(QT_TRANSLATE_NOOP("Transfer", "The folder %1 cannot be made.")).arg(folder));
     qint64 done = 0;
     for (const tagLogFile& file : files) {
@@ -246,8 +247,9 @@ QVariantList TransferJobs::Profiles(TSqliteStore& store)
         return profiles;
     const QString identity = store.GetParameter(PARAM_TERMINAL_IDENTITY).toString();
     const QDir root(drive.path);
-    const QStringList files =
-        root.entryList({QLatin1Char('*') + ProfileExtension}, QDir::Files | QDir::Readable, QDir::Name);
+    // A link may lead out of the stick.
+    const QStringList files = root.entryList({QLatin1Char('*') + ProfileExtension},
+                                             QDir::Files | QDir::Readable | QDir::NoSymLinks, QDir::Name);
     for (const QString& file : files) {
         QStringList problems;
         const auto profile = TProfile::Read(root.filePath(file), PROFILE_EDITS_REFUSED, &problems);

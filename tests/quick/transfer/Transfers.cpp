@@ -22,6 +22,7 @@ private slots:
 
     void logsAreCopied();
     void logsThatCannotBeListedAreNotReportedAsCopied();
+    void noLinkOfTheStickIsFollowed();
     void aProfileIsWrittenAndListed();
     void aNameIsChecked_data();
     void aNameIsChecked();
@@ -155,6 +156,25 @@ void Transfers::logsThatCannotBeListedAreNotReportedAsCopied()
     QTRY_COMPARE_WITH_TIMEOUT(m_Terminal->Text("Problems.first"), m_Terminal->Text("self.error"), Patience);
     QVERIFY(QFile::remove(folder) && QDir().rename(folder + QLatin1String(".gone"), folder));
     QVERIFY(IsDone("self.exportLogs()"));
+}
+
+void Transfers::noLinkOfTheStickIsFollowed()
+{
+    MountStick();
+    m_Terminal->folder.MakeFile(QLatin1String("outside/kept"), "kept");
+    const QString outside = m_Terminal->folder.Path(QLatin1String("outside"));
+    QVERIFY(QFile::link(outside, OnStick("Diagnostics")));
+    QVERIFY(HasFailed("self.exportLogs()"));
+    QVERIFY(m_Terminal->Text("self.error").contains(OnStick("Diagnostics")));
+    WriteOthersProfile("real.profile", 1);
+    QVERIFY(QFile::rename(OnStick("real.profile"), outside + QLatin1String("/theirs.profile")));
+    QVERIFY(QFile::link(outside + QLatin1String("/theirs.profile"), OnStick("link.profile")));
+    QVERIFY(QFile::link(outside + QLatin1String("/kept"), OnStick("mine.profile")));
+    QVERIFY(IsDone("self.exportProfile('mine', [])"));
+    QTRY_COMPARE(ListedNames(), QStringList{QLatin1String("mine")});
+    QCOMPARE(m_Terminal->folder.Content(QLatin1String("outside/kept")), QByteArray("kept"));
+    QCOMPARE(QDir(outside).entryList(QDir::Files),
+             (QStringList{QLatin1String("kept"), QLatin1String("theirs.profile")}));
 }
 
 void Transfers::aProfileIsWrittenAndListed()
