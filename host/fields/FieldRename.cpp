@@ -3,6 +3,7 @@
 #include "fields/FieldPlaces.h"
 #include "fields/FieldSelection.h"
 #include "fields/FileTree.h"
+#include "platform/RegularFile.h"
 #include "stores/DurableFiles.h"
 
 #include <QFile>
@@ -18,6 +19,7 @@ namespace {
 using TChanges = QList<FieldSelection::tagChange>;
 
 const QLatin1Char Separator('/');
+const qint64 MostBytesOfNote = 0x100000;
 const QLatin1String NoteSuffix("rename");
 const QLatin1String PathKey("path");
 const QLatin1String NameKey("name");
@@ -55,7 +57,13 @@ QByteArray Json(const tagNote& note)
         .toJson();
 }
 
-/// A note without a path when @p json is none.
+/// Whether a name stays in its folder. Older items may have names that are not accepted any more.
+bool IsEntry(const QString& name)
+{
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") && !name.contains(Separator);
+}
+
+/// A note without a path when @p json is none, or has names that lead elsewhere.
 tagNote FromJson(const QByteArray& json)
 {
     const QJsonObject object = QJsonDocument::fromJson(json).object();
@@ -64,6 +72,8 @@ tagNote FromJson(const QByteArray& json)
     for (const QJsonValue& name : path)
         note.path.append(name.toString());
     note.name = object.value(NameKey).toString();
+    if (!IsEntry(note.name) || !std::all_of(note.path.begin(), note.path.end(), IsEntry))
+        note.path.clear();
     const QJsonArray selection = object.value(SelectionKey).toArray();
     for (const QJsonValue& value : selection) {
         const QJsonObject change = value.toObject();
@@ -181,12 +191,13 @@ bool FieldRename::Run(TParameterStore& store, const QString& drive, const QStrin
 
 bool FieldRename::Finish(TParameterStore& store, const QString& drive, QString* error)
 {
-    QFile note(NotePath(drive));
     if (!FileTree::Exists(NotePath(drive)))
         return true;
-    if (!note.open(QIODevice::ReadOnly)) {
+    QFile note;
+    const int descriptor = OpenRegularFile(NotePath(drive).toUtf8(), LINKS_REFUSED);
+    if (descriptor < 0 || !note.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         *error = DurableFiles::SystemReason(QLatin1String("cannot read"), NotePath(drive));
         return false;
     }
-    return Settle(store, drive, FromJson(note.readAll()), error);
+    return Settle(store, drive, FromJson(note.read(MostBytesOfNote)), error);
 }

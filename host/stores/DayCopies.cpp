@@ -1,8 +1,8 @@
 #include "stores/DayCopies.h"
 
-#include "platform/DurableCopy.h"
 #include "platform/EParamID.h"
 #include "stores/DurableFiles.h"
+#include "stores/DurableFolder.h"
 #include "stores/StoreFileCopy.h"
 #include "stores/TStoreLock.h"
 
@@ -10,15 +10,10 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <functional>
-
-#include <sys/stat.h>
-
-#include <cerrno>
 
 namespace DayCopies {
 
@@ -39,18 +34,6 @@ tagCopyName Parse(const QString& fileName)
 QStringList FileNames(const QString& storeFile)
 {
     return QDir(Folder(storeFile)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-}
-
-bool MakeFolder(const QString& folder, QString* reason)
-{
-    const mode_t mode = S_IRWXU | S_IRWXG | S_IRWXO;
-    const bool isMade = mkdir(folder.toUtf8().constData(), mode) == 0;
-    if (!isMade && errno == EEXIST)
-        return true;
-    if (isMade && SyncFolder(QFileInfo(folder).path().toUtf8()))
-        return true;
-    *reason = DurableFiles::SystemReason(QLatin1String("cannot make"), folder);
-    return false;
 }
 
 bool AreTheSame(const QString& one, const QString& other)
@@ -106,7 +89,7 @@ void Prune(const QString& storeFile)
 // Returns false with a reason when the folder cannot be made or another program keeps it locked.
 bool Lock(const QString& storeFile, TStoreLock* lock, QString* reason)
 {
-    return MakeFolder(Folder(storeFile), reason) && lock->Take(QDeadlineTimer(LockPatience), reason);
+    return MakeFolderDurably(Folder(storeFile), reason) && lock->Take(QDeadlineTimer(LockPatience), reason);
 }
 
 QString LockFile(const QString& storeFile) { return Folder(storeFile) + QLatin1Char('/') + LockName; }

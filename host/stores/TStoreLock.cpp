@@ -19,6 +19,13 @@ const char Separator = ' ';
 const char End = '\n';           // a line of the note without it is incomplete
 const char Mark[] = "changed\n"; // the second line
 
+/// A file of another name must not be cut, which is done to a lock.
+bool HasOtherName(int file)
+{
+    struct stat status = {};
+    return fstat(file, &status) == 0 && status.st_nlink > 1;
+}
+
 } // namespace
 
 TStoreLock::TStoreLock(const QString& path)
@@ -38,8 +45,14 @@ bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
     for (;;) {
         const QByteArray path = m_Path.toUtf8();
         m_File = Uninterrupted([&] {
-            return open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
+            // A file that has the name is cut, so it must not be one to which a link leads.
+            return open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
+                        S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
         });
+        if (m_File >= 0 && HasOtherName(m_File)) {
+            Drop();
+            errno = EMLINK;
+        }
         if (m_File < 0) {
             *reason = DurableFiles::SystemReason(QLatin1String("cannot make"), m_Path);
             return false;
