@@ -7,12 +7,16 @@
 
 namespace {
 
+const qint64 PieceBytes = 0x10000;
+
 /// The logs are written in Latin-1, and their lines end in carriage return and line feed. Raw traffic may hold zeros.
 QString Text(const QByteArray& line)
 {
     const int size = static_cast<int>(line.size());
     return QString::fromLatin1(line.constData(), line.endsWith('\r') ? size - 1 : size);
 }
+
+int RoomBehind(const QByteArray& rest) { return TLogTail::LongestLine - static_cast<int>(rest.size()); }
 
 } // namespace
 
@@ -39,13 +43,18 @@ QList<tagLogLine> TLogTail::Read(QString* error)
             continue; // the log has just given it up
         const qint64 before = m_Read.value(name);
         const qint64 start = before <= file.size() ? before : 0; // a shorter one is another file of that name
-        const QByteArray bytes = file.isOpen() && file.seek(start) ? file.readAll() : QByteArray();
+        qint64 end = start;
+        if (file.isOpen() && file.seek(start)) {
+            for (QByteArray piece = file.read(PieceBytes); !piece.isEmpty(); piece = file.read(PieceBytes)) {
+                end += piece.size();
+                Split(name, piece, &lines);
+            }
+        }
         if (file.error() != QFileDevice::NoError)
             *error = QString::fromLatin1("cannot read \"%1\": %2").arg(file.fileName(), file.errorString());
-        read.insert(name, start + bytes.size());
-        if (!bytes.isEmpty())
+        read.insert(name, end);
+        if (end > start)
             m_LastFile = name;
-        Split(name, bytes, &lines);
     }
     m_Read = read;
     if (m_SkipsLine && !lines.isEmpty()) {
@@ -75,12 +84,12 @@ void TLogTail::Split(const QString& file, const QByteArray& bytes, QList<tagLogL
     int start = 0;
     for (int end = static_cast<int>(bytes.indexOf('\n')); end >= 0;
          end = static_cast<int>(bytes.indexOf('\n', start))) {
-        const QByteArray line = m_Rest + bytes.mid(start, end - start);
+        const QByteArray line = m_Rest + bytes.mid(start, qMin(end - start, RoomBehind(m_Rest)));
         lines->append({m_Rest.isEmpty() ? file : m_RestFile, Text(line)});
         m_Rest.clear();
         start = end + 1;
     }
     if (m_Rest.isEmpty())
         m_RestFile = file;
-    m_Rest += bytes.mid(start);
+    m_Rest += bytes.mid(start, RoomBehind(m_Rest));
 }

@@ -31,6 +31,9 @@ struct tagLogLine
 class CABHOST_EXPORT TLogTail
 {
 public:
+    /// Bytes of a line; what follows them is left out, up to the next line.
+    static constexpr int LongestLine = 0x10000;
+
     /// @param basePath see TLogSeries.
     /// @param firstBytes how much of the newest text the first Read() takes, at most; the line in which that begins is
     ///        left out. Everything when it is negative.

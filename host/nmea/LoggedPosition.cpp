@@ -3,12 +3,15 @@
 #include "logs/TLogSeries.h"
 #include "nmea/NmeaChecksum.h"
 #include "nmea/TFixTracker.h"
+#include "nmea/TNmeaLineSplitter.h"
 
 #include <QFile>
 
 #include <cmath>
 
 namespace {
+
+const qint64 PieceBytes = 0x10000;
 
 std::optional<tagLoggedPosition> LastPosition(const QString& fileName)
 {
@@ -17,10 +20,17 @@ std::optional<tagLoggedPosition> LastPosition(const QString& fileName)
         return std::nullopt;
     TNmeaReceiver::tagStatus status;
     TFixTracker tracker(status);
-    for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
+    const auto take = [&tracker](const QByteArray& line) {
         if (CheckNmeaLine(line) == NMEA_RIGHT_CHECKSUM)
             tracker.Take(line);
+    };
+    TNmeaLineSplitter splitter; // a line may be as long as the file
+    for (QByteArray piece = file.read(PieceBytes); !piece.isEmpty(); piece = file.read(PieceBytes)) {
+        splitter.Append(piece.constData(), static_cast<int>(piece.size()));
+        for (QByteArray line = splitter.TakeLine(); !line.isEmpty(); line = splitter.TakeLine())
+            take(line);
     }
+    take(splitter.TakeRest());
     if (std::isnan(status.latitude) || std::isnan(status.longitude))
         return std::nullopt;
     return tagLoggedPosition{status.latitude, status.longitude};

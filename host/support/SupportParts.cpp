@@ -239,7 +239,8 @@ QList<tagSupportMember> SupportMembers()
                             }});
         }
         for (const TLogSeries::tagFile& file : files) {
-            if (!file.number) // a file of another kind, whose name the operator chose
+            // A file of another kind, whose name the operator chose, has no name that is safe in an archive.
+            if (!file.number || series.GetName(*file.number) != file.name)
                 continue;
             const QString path = series.GetPath(file.name);
             members.append(

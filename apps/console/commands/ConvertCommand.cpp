@@ -45,6 +45,8 @@ std::optional<tagColumn> ReadColumn(const QString& text)
     return number > 0 ? std::optional<tagColumn>({QString(), number - 1}) : std::nullopt;
 }
 
+const qint64 LongestLine = 1024 * 1024;
+
 /// Converts one column of standard input to standard output, a line at a time.
 class TCsvConverter
 {
@@ -59,10 +61,12 @@ public:
         if (!input.open(stdin, QIODevice::ReadOnly))
             return Fail(QLatin1String("cannot read standard input"));
         while (!OutputFailed()) {
-            const QByteArray line = input.readLine();
+            const QByteArray line = input.readLine(LongestLine);
             if (line.isEmpty())
                 break;
             ++m_LineNumber;
+            if (line.size() == LongestLine && !line.endsWith('\n'))
+                return Fail(QString::fromLatin1("line %1 has 1 MiB or more").arg(m_LineNumber));
             if (m_Column.index >= 0)
                 PrintBytes(Converted(line));
             else if (FindColumn(line))
