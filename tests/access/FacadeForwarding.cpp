@@ -1,6 +1,7 @@
 #include "CoreTest.h"
 #include "FacadeOperations.h"
 #include "Latin1.h"
+#include "TWorkingDisplay.h"
 #include "TargetOf.h"
 
 #include "colors/TColorSettingsProxy.h"

@@ -3,6 +3,7 @@
 #include "HeldLocks.h"
 #include "HostFailures.h"
 #include "Latin1.h"
+#include "TWorkingDisplay.h"
 
 #include "colors/TColorSettingsProxy.h"
 #include "logs/TUserLogAccessor.h"

@@ -1,21 +1,17 @@
 #pragma once
 
-#include "TJournal.h"
-#include "TTemporaryFolder.h"
-
-#include "settings/TSettings.h"
-
-#include <QColor>
-#include <QDateTime>
-#include <QFileInfo>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
+class TColorSettings;
 class TColorSettingsProxy;
+class TDiagnosticLog;
 class TDiagnosticLogProxy;
+class TRegionSettings;
 class TRegionSettingsProxy;
+class TSystemSettings;
 class TSystemSettingsProxy;
 
 /// How an operation of a locking façade can be seen to hold its lock.
@@ -52,18 +48,5 @@ const std::vector<tagRegionOperation>& RegionOperations();
 const std::vector<tagColorOperation>& ColorOperations();
 const std::vector<tagLogOperation>& LogOperations();
 
-/// A display in mid-work, with open logs: every parameter has a value of its own, so that no operation can stand in for
-/// another.
-class TWorkingDisplay
-{
-public:
-    explicit TWorkingDisplay(bool isStickPresent = true);
-    ~TWorkingDisplay();
-
-    /// Folders, and files with their contents.
-    QStringList Files() const;
-
-    TTemporaryFolder drive;
-    TJournal store;
-    TSettings settings;
-};
+/// The folder in which the operations of the logs keep their files, without a separator at the end.
+void SetDriveOfOperations(const QString& path);
