@@ -59,7 +59,8 @@ ETimeRefusal TTimeGuard::Refusal(const QDateTime& utc, bool isCorrected) const
 bool TTimeGuard::IsConfirmed(const QDateTime& utc, QDateTime* dropped)
 {
     const QDateTime before = std::exchange(m_Waiting, utc);
-    const qint64 step = before.isValid() ? before.secsTo(utc) : -1;
+    // From one second to the next: the fixes of a fast receiver are less than a second apart.
+    const qint64 step = before.isValid() ? utc.toSecsSinceEpoch() - before.toSecsSinceEpoch() : -1;
     if (step < 0 || step > LongestStep) {
         *dropped = before;
         m_Confirmations = 1;

@@ -40,8 +40,8 @@ struct tagTimeCheck
 ///
 /// Against the newest time, up to MostSeconds ahead or back are accepted at once: a receiver that was wrong by so
 /// little can be put right. A time further back is refused. A time further ahead, and a corrected one without a newest
-/// time, waits until FixesToConfirm times in a row follow each other by at most LongestStep seconds. Without a newest
-/// time, the first possible time is accepted.
+/// time, waits until FixesToConfirm times in a row follow each other by at most LongestStep seconds; the times of one
+/// second count once. Without a newest time, the first possible time is accepted.
 ///
 /// Use it from one thread at a time.
 class CABHOST_EXPORT TTimeGuard

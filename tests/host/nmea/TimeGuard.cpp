@@ -27,6 +27,8 @@ private slots:
     void oneTimeIsJudged();
     void aRunOfFixesConfirms_data();
     void aRunOfFixesConfirms();
+    void aFastReceiverConfirmsAsSoon_data();
+    void aFastReceiverConfirmsAsSoon();
     void aRunThatBreaksIsDropped();
     void aLaterTimeIsTheNewest();
     void aWrongDayCanBePutRight();
@@ -122,6 +124,27 @@ void TimeGuard::aRunOfFixesConfirms()
             QCOMPARE(int{check.refusal}, int{TIME_NOT_REFUSED});
             QVERIFY(!check.dropped.isValid());
         }
+    }
+}
+
+void TimeGuard::aFastReceiverConfirmsAsSoon_data()
+{
+    QTest::addColumn<int>("rate"); ///< fixes per second
+    for (const int rate : {2, 5, 10, 20})
+        QTest::newRow(QByteArray::number(rate).constData()) << rate;
+}
+
+void TimeGuard::aFastReceiverConfirmsAsSoon()
+{
+    QFETCH(int, rate);
+    const QDateTime begin = Newest.addDays(200).addMSecs(500);
+    TTimeGuard guard(Built, Newest);
+    for (int fix = 0; fix < (TTimeGuard::FixesToConfirm + 2) * rate; ++fix) {
+        const QDateTime utc = begin.addMSecs(qint64(1000) * fix / rate);
+        const qint64 seconds = utc.toSecsSinceEpoch() - begin.toSecsSinceEpoch() + 1;
+        const tagTimeCheck check = guard.Check(utc);
+        QCOMPARE(check.utc, seconds < TTimeGuard::FixesToConfirm ? QDateTime() : utc);
+        QVERIFY(!check.dropped.isValid());
     }
 }
 
