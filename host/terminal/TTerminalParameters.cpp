@@ -2,6 +2,7 @@
 
 #include "diagnostics/LogTimes.h"
 #include "stores/StandardError.h"
+#include "stores/TChangeAuthor.h"
 #include "terminal/DataFolder.h"
 
 #include <QDir>
@@ -37,17 +38,20 @@ void TTerminalParameters::KeepInOrder(EParamID number, const QString& basePath)
     OrderLogTimes(basePath);
 }
 
-// A log stores its number when it has filled a file, and has not made the next one yet.
+// A log stores its number when it has filled a file, and has not made the next one yet. That is never a change by the
+// operator, also when the line that filled the file was written for one.
 bool TTerminalParameters::SetParameter(EParamID id, const QVariant& value, bool persist)
 {
-    const bool isStored = m_Store.SetParameter(id, value, persist);
     QString log;
     {
         const QMutexLocker lock(&m_Mutex);
         log = m_Logs.value(id);
     }
-    if (!log.isEmpty())
-        OrderLogTimes(log);
+    if (log.isEmpty())
+        return m_Store.SetParameter(id, value, persist);
+    const TChangeAuthor author(CHANGE_AUTHOR_LIBRARY);
+    const bool isStored = m_Store.SetParameter(id, value, persist);
+    OrderLogTimes(log);
     return isStored;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/TLocalTime.h"
 #include "region/TRegionSettingsProxy.h"
 #include "settings/TSettings.h"
+#include "stores/TChangeAuthor.h"
 #include "stores/TMemoryStore.h"
 #include "system/TSystemSettingsProxy.h"
 #include "terminal/DataFolder.h"
@@ -26,6 +27,7 @@ private slots:
     void theVersionAndTheClientRootAreInThePaths();
     void theVersionIsTheApplicationsUnlessAnotherIsGiven();
     void logsAreOpenUntilTheStop();
+    void theLogItselfChangesItsNumber();
     void theClockOffsetIsBack();
     void textsFollowTheLanguage_data();
     void textsFollowTheLanguage();
@@ -55,6 +57,21 @@ protected:
 
 const int FirstSelection = 8919;
 const int LastSelection = 8931;
+
+/// Notes who has changed which parameter last.
+class TAuthorStore : public TParameterStore
+{
+public:
+    QMap<int, EChangeAuthor> authors;
+
+protected:
+    bool Persist(const QMap<int, QVariant>& changes) override
+    {
+        for (auto change = changes.constBegin(); change != changes.constEnd(); ++change)
+            authors.insert(change.key(), AuthorOf(change.key()));
+        return true;
+    }
+};
 
 } // namespace
 
@@ -200,6 +217,26 @@ void TerminalStart::logsAreOpenUntilTheStop()
     terminal.Stop();
     QVERIFY(log.open(QIODevice::ReadOnly));
     QCOMPARE(log.readAll(), QByteArray("staged\r\n"));
+}
+
+void TerminalStart::theLogItselfChangesItsNumber()
+{
+    TAuthorStore store;
+    TTerminal terminal(store);
+    QString error;
+    QVERIFY2(terminal.Start(Folder(), &error), qPrintable(error));
+    store.authors.clear();
+    {
+        const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
+        QVERIFY(ConfigManager->SetParameter(PARAM_METRIC, false, true));
+        const QByteArray fullFile(0x40001, '\n');
+        QVERIFY(TNEMADiagnosticLogProxy().Log(fullFile.constData(), static_cast<int>(fullFile.size())));
+        QVERIFY(ConfigManager->SetParameter(PARAM_US_MEASURES, true, true));
+    }
+    const QMap<int, EChangeAuthor> expected = {{PARAM_METRIC, CHANGE_AUTHOR_OPERATOR},
+                                               {PARAM_NMEA_LOG_FILE_NUMBER, CHANGE_AUTHOR_LIBRARY},
+                                               {PARAM_US_MEASURES, CHANGE_AUTHOR_OPERATOR}};
+    QCOMPARE(store.authors, expected);
 }
 
 void TerminalStart::theClockOffsetIsBack()
