@@ -1,5 +1,5 @@
+#include "HeapTrend.h"
 #include "TestLength.h"
-#include "support/HeapTrend.h"
 #include "support/RestingHeap.h"
 #include "support/TOpenDisplay.h"
 

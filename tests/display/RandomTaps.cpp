@@ -1,6 +1,6 @@
+#include "HeapTrend.h"
 #include "TestLength.h"
 #include "TestSeed.h"
-#include "support/HeapTrend.h"
 #include "support/RestingHeap.h"
 #include "support/TOpenDisplay.h"
 #include "support/VisibleItems.h"
