@@ -1,7 +1,12 @@
 #include "CoreTest.h"
 #include "TLogRoom.h"
 
+#include "logs/TLogSeries.h"
+
 #include <QtTest>
+
+#include <cerrno>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -27,6 +32,8 @@ private slots:
     void theBasePathIsSplitAtItsLastSeparators();
     void aSeriesMayLieInTheCurrentFolder();
     void aZeroInThePathLeavesOthersAlone();
+    void aZeroInTheFolderReadsNoOther();
+    void aNameThatCannotBeLookedAtStopsTheExport();
 };
 
 void LogSeries::otherFilesDoNotBelongToTheSeries()
@@ -256,6 +263,44 @@ void LogSeries::aZeroInThePathLeavesOthersAlone()
     log.LogDiagnostic("abc", 3);
     log.Close();
     QCOMPARE(room.Content(QLatin1String("almanac.log")), QByteArray("xxx"));
+}
+
+void LogSeries::aZeroInTheFolderReadsNoOther()
+{
+    const TLogRoom room;
+    room.MakeFile(1, 3, 0);
+    const TLogSeries series(room.folder.Path(QLatin1String("logs")) + QChar(0) + QLatin1String("/user.log"));
+    std::vector<TLogSeries::tagFile> files;
+    QVERIFY(!series.ReadFiles(QString(), &files));
+    QVERIFY(files.empty());
+}
+
+// A file that exists and cannot be looked at may be one with entries. A link to a name that no system takes is such a
+// file.
+void LogSeries::aNameThatCannotBeLookedAtStopsTheExport()
+{
+    const TLogRoom room;
+    room.MakeFile(1, 3, 0);
+    room.MakeFile(2, 3, 1);
+    const QByteArray target(300, 'n');
+    for (int number : {3, 4}) {
+        const QByteArray link = QFile::encodeName(room.Path(room.Numbered(number)));
+        QCOMPARE(symlink(target.constData(), link.constData()), 0);
+    }
+    const TLogSeries series(room.Base());
+    std::vector<TLogSeries::tagFile> files;
+    const bool isRead = series.ReadFiles(QString(), &files);
+    const int error = errno;
+    QVERIFY(!isRead);
+    QCOMPARE(error, ENAMETOOLONG);
+    QCOMPARE(static_cast<int>(files.size()), 2);
+
+    TDiagnosticLog log(0, 1000, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    room.folder.MakeFolder(QLatin1String("stick"));
+    const TDiagnosticLog::tagExportResult result = log.Export(room.folder.Path(QLatin1String("stick")));
+    QVERIFY(!result.allCopied);
+    QCOMPARE(result.filesFound, 0);
 }
 
 int main(int argc, char** argv) { return RunCoreTest<LogSeries>(argc, argv); }

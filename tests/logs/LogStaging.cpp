@@ -25,6 +25,7 @@ private slots:
     void aLogThatWasNeverRestoredTakesNothing();
     void aNegativeLengthIsNoEntry();
     void rotationTakesTheStagedBytesFirst();
+    void aFullFileWithoutAFolderForTheNextIsTold();
 };
 
 namespace {
@@ -220,6 +221,7 @@ void LogStaging::aNegativeLengthIsNoEntry()
     QVERIFY(log.Restore(room.Base(), 0, 0));
     QVERIFY(Log(log, "abc"));
     QVERIFY(!log.LogDiagnostic("def", -1));
+    QVERIFY(!log.WriteToLog("def", -1));
     QVERIFY(Log(log, "ghi"));
     log.Close();
     QCOMPARE(room.Content(1), QByteArray("abcghi"));
@@ -247,6 +249,18 @@ void LogStaging::rotationTakesTheStagedBytesFirst()
     QVERIFY(log.Open());
     QVERIFY(log.WriteToLog("w", 1));
     QCOMPARE(room.Content(3), QByteArray("w"));
+}
+
+void LogStaging::aFullFileWithoutAFolderForTheNextIsTold()
+{
+    const TLogRoom room;
+    TDiagnosticLog log(10, 10, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QVERIFY(Log(log, Bytes(6))); // staged
+    QVERIFY(QFile::remove(room.Path(room.Numbered(1))));
+    QVERIFY(QDir(room.folder.Path()).rmdir(QLatin1String("logs")));
+    QVERIFY(!Log(log, Bytes(6)));
+    QVERIFY(!log.GetState().isOpen);
 }
 
 int main(int argc, char** argv) { return RunCoreTest<LogStaging>(argc, argv); }
