@@ -129,11 +129,11 @@
     <name>ColorPage</name>
     <message>
         <source>Former</source>
-        <translation>Tidligere</translation>
+        <translation>Forrige</translation>
     </message>
     <message>
         <source>Former colour</source>
-        <translation>Tidligere farge</translation>
+        <translation>Forrige farge</translation>
     </message>
     <message>
         <source>First value</source>
@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Oppsett</translation>
+        <translation>Innstillinger</translation>
     </message>
 </context>
 <context>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>Hvor langt bak kjøretøyets sted bakken blir behandlet</translation>
+        <translation>Hvor langt bak kjøretøyets posisjon bakken blir behandlet</translation>
     </message>
 </context>
 <context>
@@ -998,7 +998,7 @@
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>klokke med 24 timer; ellers 12 timer med am og pm</translation>
+        <translation>24-timersklokke; ellers 12 timer med am og pm</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The clock was set by hand.</source>
-        <translation>De klok is met de hand gezet.</translation>
+        <translation>De klok is handmatig gezet.</translation>
     </message>
     <message>
         <source>The receiver sets the clock.</source>
@@ -232,7 +232,7 @@
     </message>
     <message>
         <source>Settings</source>
-        <translation>Opties</translation>
+        <translation>Instellingen</translation>
     </message>
 </context>
 <context>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>Hoe ver achter de plaats van het voertuig de grond wordt bewerkt</translation>
+        <translation>Hoe ver achter de positie van het voertuig de grond wordt bewerkt</translation>
     </message>
 </context>
 <context>
@@ -874,7 +874,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Instellen</translation>
+        <translation>Opslaan</translation>
     </message>
 </context>
 <context>
@@ -998,7 +998,7 @@
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>klok met 24 uur; anders 12 uur met am en pm</translation>
+        <translation>24-uursklok; anders 12 uur met am en pm</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>
@@ -1038,15 +1038,15 @@
     </message>
     <message>
         <source>language of the display&apos;s texts; a change needs a restart</source>
-        <translation>taal van het display; een wijziging vraagt een herstart</translation>
+        <translation>taal van het display; een wijziging vereist een herstart</translation>
     </message>
     <message>
         <source>decimal point or comma; a change needs a restart</source>
-        <translation>decimale punt of komma; een wijziging vraagt een herstart</translation>
+        <translation>decimale punt of komma; een wijziging vereist een herstart</translation>
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
-        <translation>wanneer de kleuren wisselen tussen dag en nacht: alleen met de hand, bij zonsopgang en zonsondergang, of als de zon 6 graden onder de horizon staat</translation>
+        <translation>wanneer de kleuren wisselen tussen dag en nacht: alleen handmatig, bij zonsopgang en zonsondergang, of als de zon 6 graden onder de horizon staat</translation>
     </message>
     <message>
         <source>what set the display&apos;s clock</source>
@@ -1242,7 +1242,7 @@
     </message>
     <message>
         <source>Time zone set by hand</source>
-        <translation>Tijdzone met de hand</translation>
+        <translation>Tijdzone handmatig</translation>
     </message>
     <message>
         <source>Time zone, hours</source>
@@ -1690,7 +1690,7 @@
     </message>
     <message>
         <source>By hand</source>
-        <translation>Met de hand</translation>
+        <translation>Handmatig</translation>
     </message>
     <message>
         <source>Sunset</source>
@@ -1722,11 +1722,11 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Opp. klaar</translation>
+        <translation>Bewerkte oppervlakte</translation>
     </message>
     <message>
         <source>Area left</source>
-        <translation>Opp. over</translation>
+        <translation>Resterende oppervlakte</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -2072,7 +2072,7 @@
     </message>
     <message>
         <source>By hand</source>
-        <translation>Met de hand</translation>
+        <translation>Handmatig</translation>
     </message>
     <message>
         <source>Simulated</source>

@@ -708,7 +708,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Sinal decimal</translation>
+        <translation>Separador decimal</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Decides the guidance lines beside each other, and the area done</source>
-        <translation>Define as linhas de orientação vizinhas e a área feita</translation>
+        <translation>Define as linhas de orientação vizinhas e a área trabalhada</translation>
     </message>
     <message>
         <source>Implement behind the antenna</source>
@@ -1230,7 +1230,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Sinal decimal</translation>
+        <translation>Separador decimal</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1722,7 +1722,7 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Área feita</translation>
+        <translation>Área trabalhada</translation>
     </message>
     <message>
         <source>Area left</source>
@@ -2486,7 +2486,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>O novo sinal decimal aparece após um reinício.</translation>
+        <translation>O novo separador decimal aparece após um reinício.</translation>
     </message>
 </context>
 <context>
@@ -3140,7 +3140,7 @@
     <message>
         <source>Press.</source>
         <comment>pressure</comment>
-        <translation>Press.</translation>
+        <translation>Pressão</translation>
     </message>
     <message>
         <source>Temp.</source>

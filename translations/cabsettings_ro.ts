@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 Posibil: %4</translation>
+        <translation>%3 Sugestie: %4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>The name must not contain %1.</source>
-        <translation>Numele nu trebuie să conțină %1.</translation>
+        <translation>Numele nu poate conține %1.</translation>
     </message>
     <message>
         <source>The name contains a sign that cannot be seen.</source>
@@ -357,11 +357,11 @@
     </message>
     <message>
         <source>The name must not end in a full stop or a blank.</source>
-        <translation>Numele nu trebuie să se termine cu punct sau spațiu.</translation>
+        <translation>Numele nu se poate termina cu punct sau spațiu.</translation>
     </message>
     <message>
         <source>The name must not begin with a blank.</source>
-        <translation>Numele nu trebuie să înceapă cu spațiu.</translation>
+        <translation>Numele nu poate începe cu spațiu.</translation>
     </message>
     <message>
         <source>A stick cannot hold a file with this name.</source>
@@ -710,7 +710,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Semn zecimal</translation>
+        <translation>Separator zecimal</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>This cannot be the name of a file. Try: %1</source>
-        <translation>Nu poate fi nume de fișier. Posibil: %1</translation>
+        <translation>Nu poate fi nume de fișier. Sugestie: %1</translation>
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
@@ -1232,7 +1232,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Semn zecimal</translation>
+        <translation>Separator zecimal</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1724,11 +1724,11 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Supr. lucrată</translation>
+        <translation>Suprafață lucrată</translation>
     </message>
     <message>
         <source>Area left</source>
-        <translation>Supr. rămasă</translation>
+        <translation>Suprafață rămasă</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -2031,7 +2031,7 @@
     <message>
         <source>set %1</source>
         <comment>the rate that is set</comment>
-        <translation>cerut %1</translation>
+        <translation>cerută %1</translation>
     </message>
 </context>
 <context>
@@ -2165,7 +2165,7 @@
     </message>
     <message>
         <source>Bad checksums</source>
-        <translation>Checksum greșit</translation>
+        <translation>Sume de control greșite</translation>
     </message>
     <message>
         <source>Damaged lines</source>
@@ -2490,7 +2490,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Semnul zecimal nou apare după o repornire.</translation>
+        <translation>Separatorul zecimal nou apare după o repornire.</translation>
     </message>
 </context>
 <context>
@@ -3144,7 +3144,7 @@
     <message>
         <source>Press.</source>
         <comment>pressure</comment>
-        <translation>Pres.</translation>
+        <translation>Presiune</translation>
     </message>
     <message>
         <source>Temp.</source>

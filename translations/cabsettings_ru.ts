@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>На сколько позади машины обрабатывается почва</translation>
+        <translation>На сколько позади машины обрабатывается поле</translation>
     </message>
 </context>
 <context>
@@ -1724,7 +1724,7 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Обработано</translation>
+        <translation>Обработанная площадь</translation>
     </message>
     <message>
         <source>Area left</source>

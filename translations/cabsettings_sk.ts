@@ -759,7 +759,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nové</translation>
+        <translation>Nová</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>Ako ďaleko za miestom vozidla sa pôda spracúva</translation>
+        <translation>Ako ďaleko za vozidlom sa spracúva plocha</translation>
     </message>
 </context>
 <context>
@@ -1724,7 +1724,7 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Hotová plocha</translation>
+        <translation>Spracovaná plocha</translation>
     </message>
     <message>
         <source>Area left</source>
@@ -2031,7 +2031,7 @@
     <message>
         <source>set %1</source>
         <comment>the rate that is set</comment>
-        <translation>zadané %1</translation>
+        <translation>zadaná %1</translation>
     </message>
 </context>
 <context>

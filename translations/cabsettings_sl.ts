@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>Implement behind the antenna</source>
-        <translation>Odmik priključka od antene nazaj</translation>
+        <translation>Odmik priključka za anteno</translation>
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
@@ -878,7 +878,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Nastavi</translation>
+        <translation>V redu</translation>
     </message>
 </context>
 <context>
@@ -990,11 +990,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrične enote; sicer ZDA ali angleške</translation>
+        <translation>metrične enote; sicer ameriške ali angleške</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>mere ZDA, kadar enote niso metrične; sicer angleške</translation>
+        <translation>ameriške, če enote niso metrične; sicer angleške</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1542,11 +1542,11 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>ZDA ali angleške</translation>
+        <translation>Ameriške ali angleške</translation>
     </message>
     <message>
         <source>US</source>
-        <translation>ZDA</translation>
+        <translation>Ameriške</translation>
     </message>
     <message>
         <source>English</source>
@@ -1726,11 +1726,11 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Obdelano</translation>
+        <translation>Obdelana površina</translation>
     </message>
     <message>
         <source>Area left</source>
-        <translation>Preostanek</translation>
+        <translation>Ostanek</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -1746,7 +1746,7 @@
     </message>
     <message>
         <source>Distance</source>
-        <translation>Razdalja</translation>
+        <translation>Prevožena razdalja</translation>
     </message>
     <message>
         <source>Position</source>

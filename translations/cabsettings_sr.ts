@@ -201,7 +201,7 @@
     <name>Display</name>
     <message>
         <source>Restart</source>
-        <translation>Restart</translation>
+        <translation>Restartuj</translation>
     </message>
     <message>
         <source>The fonts of the display</source>
@@ -876,7 +876,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Postavi</translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -988,11 +988,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metričke jedinice; inače US ili engleske</translation>
+        <translation>metričke jedinice; inače američke ili engleske</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US mere kada jedinice nisu metričke; inače engleske</translation>
+        <translation>američke ako jedinice nisu metričke; inače engleske</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1540,11 +1540,11 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>US ili engleski</translation>
+        <translation>Američki ili engleski</translation>
     </message>
     <message>
         <source>US</source>
-        <translation>US</translation>
+        <translation>Američki</translation>
     </message>
     <message>
         <source>English</source>
@@ -1724,11 +1724,11 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Urađeno</translation>
+        <translation>Obrađena površina</translation>
     </message>
     <message>
         <source>Area left</source>
-        <translation>Preostalo</translation>
+        <translation>Ostatak</translation>
     </message>
     <message>
         <source>Productivity</source>
@@ -1744,7 +1744,7 @@
     </message>
     <message>
         <source>Distance</source>
-        <translation>Rastojanje</translation>
+        <translation>Pređeni put</translation>
     </message>
     <message>
         <source>Position</source>
@@ -2165,7 +2165,7 @@
     </message>
     <message>
         <source>Bad checksums</source>
-        <translation>Loš kontr. zbir</translation>
+        <translation>Greške kontr. zbira</translation>
     </message>
     <message>
         <source>Damaged lines</source>

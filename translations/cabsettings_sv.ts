@@ -757,7 +757,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nytt</translation>
+        <translation>Ny</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>Hur långt bakom fordonets plats marken bearbetas</translation>
+        <translation>Hur långt bakom fordonet ytan bearbetas</translation>
     </message>
 </context>
 <context>
@@ -963,7 +963,7 @@
     </message>
     <message>
         <source>Not accepted. Expected: %1.</source>
-        <translation>Inte möjligt. Väntat: %1.</translation>
+        <translation>Godtas inte. Ange: %1.</translation>
     </message>
     <message>
         <source>a name without %1</source>
@@ -986,7 +986,7 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metriska enheter; annars US eller engelska enheter</translation>
+        <translation>metriska enheter; annars US-enheter eller engelska</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
@@ -998,7 +998,7 @@
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>klocka med 24 timmar; annars 12 timmar med am och pm</translation>
+        <translation>24-timmarsklocka; annars 12 timmar med am och pm</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>
@@ -1546,7 +1546,7 @@
     </message>
     <message>
         <source>English</source>
-        <translation>Engelskt</translation>
+        <translation>Engelska</translation>
     </message>
     <message>
         <source>Deg., min., s</source>

@@ -827,7 +827,7 @@
     </message>
     <message>
         <source>Implement behind the antenna</source>
-        <translation>Antenin arkasındaki ekipman</translation>
+        <translation>Ekipmanın antene mesafesi</translation>
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
@@ -872,7 +872,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Ayarla</translation>
+        <translation>Tamam</translation>
     </message>
 </context>
 <context>
@@ -984,19 +984,19 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrik birimler; yoksa ABD veya İngiliz birimleri</translation>
+        <translation>metrik birimler; aksi halde ABD veya İngiliz birimleri</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>birimler metrik değilse ABD ölçüleri; yoksa İngiliz ölçüleri</translation>
+        <translation>birimler metrik değilse ABD; aksi halde İngiliz ölçüleri</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
-        <translation>konumlar derece, dakika ve saniyeyle; yoksa ondalık dereceyle</translation>
+        <translation>konumlar derece, dakika ve saniyeyle; aksi halde ondalık dereceyle</translation>
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>24 saatlik saat; yoksa am ve pm ile 12 saat</translation>
+        <translation>24 saatlik saat; aksi halde am ve pm ile 12 saat</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>
@@ -1004,11 +1004,11 @@
     </message>
     <message>
         <source>colours for day; otherwise for night</source>
-        <translation>gündüz renkleri; yoksa gece renkleri</translation>
+        <translation>gündüz renkleri; aksi halde gece renkleri</translation>
     </message>
     <message>
         <source>the map turns with the vehicle; otherwise north is up</source>
-        <translation>harita araçla döner; yoksa kuzey üsttedir</translation>
+        <translation>harita araçla döner; aksi halde kuzey üsttedir</translation>
     </message>
     <message>
         <source>unit of pressures</source>
@@ -1720,7 +1720,7 @@
     </message>
     <message>
         <source>Area done</source>
-        <translation>Biten alan</translation>
+        <translation>İşlenen alan</translation>
     </message>
     <message>
         <source>Area left</source>
@@ -1740,7 +1740,7 @@
     </message>
     <message>
         <source>Distance</source>
-        <translation>Mesafe</translation>
+        <translation>Gidilen mesafe</translation>
     </message>
     <message>
         <source>Position</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Profiles of settings</source>
-        <translation>设置的配置文件</translation>
+        <translation>设置的配置</translation>
     </message>
     <message>
         <source>Files for support</source>
@@ -329,7 +329,7 @@
     </message>
     <message>
         <source>%3 Try: %4</source>
-        <translation>%3 可用：%4</translation>
+        <translation>%3可用：%4</translation>
     </message>
     <message>
         <source>This name is not possible.</source>
@@ -1044,7 +1044,7 @@
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
-        <translation>颜色何时在白天和夜间之间切换：只手动、在日出和日落时，或太阳在地平线下6度时</translation>
+        <translation>颜色何时在白天和夜间之间切换：仅手动，日出和日落时，或太阳在地平线下6度时</translation>
     </message>
     <message>
         <source>what set the display&apos;s clock</source>
@@ -1740,7 +1740,7 @@
     </message>
     <message>
         <source>Distance</source>
-        <translation>距离</translation>
+        <translation>行驶距离</translation>
     </message>
     <message>
         <source>Position</source>
