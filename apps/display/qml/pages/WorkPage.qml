@@ -111,7 +111,8 @@ Item {
     MapButtons {
         id: mapButtons
 
-        x: Sizes.margin
+        // In a window of 480 px, seven buttons in a row leave less of a margin.
+        x: Math.min(Sizes.margin, (page.width - 7 * Sizes.target - 6 * Sizes.gap) / 2)
         y: Sizes.margin
         room: page.freeHeight - 2 * Sizes.margin
         map: map

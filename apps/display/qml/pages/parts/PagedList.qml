@@ -69,6 +69,13 @@ FocusScope {
         measure()
     }
 
+    // For a row that is to be seen first: as many rows as possible stand above it.
+    function openAt(index) {
+        view.positionViewAtIndex(index, ListView.End)
+        beginWithWholeRow()
+        show(index)
+    }
+
     // Finds the rows that are whole.
     function measure() {
         var index = Math.max(0, view.indexAt(0, view.contentY + view.spacing + 1))

@@ -52,7 +52,7 @@ SettingsPanel {
         Component.onCompleted: {
             for (var index = 0; index < parameter.choices.length; ++index) {
                 if (parameter.choices[index].value === parameter.value)
-                    list.show(Math.floor(index / page.columns))
+                    list.openAt(Math.floor(index / page.columns))
             }
         }
     }
