@@ -1,4 +1,5 @@
 #include "HeapTrend.h"
+#include "MemoryFolder.h"
 #include "TSeason.h"
 #include "TestLength.h"
 #include "TestResults.h"
@@ -17,6 +18,7 @@ class Season : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { KeepTemporaryFilesInMemory(); }
     void nothingIsLostAndNothingGrows();
 };
 
