@@ -5,6 +5,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
@@ -37,7 +38,8 @@ TTcpSource::TTcpSource(const tagTcpAddress& address) : m_Address(address)
 {
     m_Socket.setProxy(QNetworkProxy::NoProxy); // the receiver is in the cab: all_proxy does not apply
     m_Socket.setReadBufferSize(BufferSize);
-    connect(&m_Socket, &QTcpSocket::connected, this, &TTcpSource::OnConnected);
+    connect(&m_Attempt, &TTcpAttempt::Connected, this, &TTcpSource::OnConnected);
+    connect(&m_Attempt, &TTcpAttempt::Failed, this, &TTcpSource::Failed);
     connect(&m_Socket, &QTcpSocket::readyRead, this, &TTcpSource::OnReadyRead);
     // Queued: the socket can be used again only after its own slot has returned.
     connect(&m_Socket, &QTcpSocket::errorOccurred, this, &TTcpSource::OnError, Qt::QueuedConnection);
@@ -48,16 +50,24 @@ TTcpSource::~TTcpSource() { Close(); }
 void TTcpSource::Connect()
 {
     m_Beginning.clear();
-    m_Socket.connectToHost(m_Address.host, m_Address.port);
+    m_Attempt.Begin(m_Address.host, m_Address.port);
 }
 
-void TTcpSource::Disconnect() { m_Socket.abort(); }
-
-void TTcpSource::OnConnected()
+void TTcpSource::Disconnect()
 {
-    const int fd = static_cast<int>(m_Socket.socketDescriptor());
+    m_Attempt.Cancel();
+    m_Socket.abort();
+}
+
+void TTcpSource::OnConnected(int socket)
+{
     for (const tagSocketOption& option : WatchPeer)
-        setsockopt(fd, option.level, option.name, &option.value, sizeof option.value);
+        setsockopt(socket, option.level, option.name, &option.value, sizeof option.value);
+    if (!m_Socket.setSocketDescriptor(socket)) {
+        close(socket);
+        OnError();
+        return;
+    }
     Made();
 }
 

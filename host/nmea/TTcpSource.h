@@ -2,6 +2,7 @@
 
 #include "nmea/NmeaAddress.h"
 #include "nmea/TLinkSource.h"
+#include "nmea/TTcpAttempt.h"
 
 #include <QTcpSocket>
 
@@ -19,12 +20,13 @@ private:
     void Connect() override;
     void Disconnect() override;
 
-    void OnConnected();
+    void OnConnected(int socket);
     void OnError();
     void OnReadyRead();
     bool CompletesGreeting(const QByteArray& bytes);
 
     const tagTcpAddress m_Address;
+    TTcpAttempt m_Attempt;
     QTcpSocket m_Socket;
     QByteArray m_Beginning; ///< the first bytes of the connection, as many as the greeting has
 };

@@ -22,6 +22,8 @@
 #include <cmath>
 #include <memory>
 
+#include <sys/socket.h>
+
 namespace {
 
 constexpr int Connections = 10000;
@@ -49,6 +51,10 @@ private:
     {
         while (hasPendingConnections()) {
             const std::unique_ptr<QTcpSocket> client(nextPendingConnection());
+            if (m_Greeting.isEmpty()) { // the connection is reset, perhaps before the client knows of it
+                const linger none = {1, 0};
+                setsockopt(static_cast<int>(client->socketDescriptor()), SOL_SOCKET, SO_LINGER, &none, sizeof none);
+            }
             client->write(m_Greeting);
             client->flush();
             client->close();
