@@ -1,6 +1,8 @@
 #include "support/FuzzTarget.h"
 #include "support/TFuzzRoom.h"
+#include "support/TSeededInputs.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QtTest>
 
@@ -19,6 +21,7 @@ private slots:
     void everyTargetHasInputs();
     void everyInputKeepsThePromises_data();
     void everyInputKeepsThePromises();
+    void aSeedGivesTheSameInputsEverywhere();
 
 private:
     std::unique_ptr<TFuzzRoom> m_Room;
@@ -73,6 +76,30 @@ void FuzzReplay::everyInputKeepsThePromises()
     } catch (const TBrokenProperty& broken) {
         QFAIL(broken.what());
     }
+}
+
+// The digest is the same with every compiler, Qt and width of the machine: a stage of the checks relies on it.
+void FuzzReplay::aSeedGivesTheSameInputsEverywhere()
+{
+    const QList<QByteArray> beginnings = {"", "speed=12.5\r\n", QByteArray(3000, 'x'), QByteArray::fromHex("0001ff")};
+    const int most = 2000;
+    const auto digestOf = [&](unsigned seed, bool isReversed) {
+        TSeededInputs inputs(seed);
+        for (int i = 0; i < beginnings.size(); ++i)
+            inputs.Add(beginnings.at(isReversed ? static_cast<int>(beginnings.size()) - 1 - i : i));
+        QCryptographicHash digest(QCryptographicHash::Sha256);
+        for (int i = 0; i < 5000; ++i) {
+            const QByteArray input = inputs.Next(most);
+            if (input.isEmpty() || input.size() > most)
+                return QByteArray("an input has a wrong size");
+            digest.addData(QByteArray::number(input.size()) + ':' + input);
+        }
+        return digest.result().toHex().left(16);
+    };
+    QCOMPARE(digestOf(1, false), QByteArray("723f611ab691b2c6"));
+    QCOMPARE(digestOf(1, true), digestOf(1, false));
+    QVERIFY(digestOf(2, false) != digestOf(1, false));
+    QVERIFY(TSeededInputs(1).Next(1).size() == 1); // with nothing to begin with
 }
 
 QTEST_GUILESS_MAIN(FuzzReplay)
