@@ -1,33 +1,31 @@
 #pragma once
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cstdio>
+#include <utility>
 
-/// Sends what the host says on standard error nowhere while it lives: a store that fails a thousand times says so a
-/// thousand times.
+/// Sends what the host and Qt say on standard error nowhere while it lives: a store that fails a thousand times says so
+/// a thousand times.
+///
+/// The stream alone goes nowhere, which is a variable in the GNU C library. The descriptor stays: a sanitizer writes
+/// its report to that, and the report must be seen.
 class TSilence
 {
 public:
-    TSilence() : m_Original(dup(STDERR_FILENO))
+    TSilence() : m_Original(stderr)
     {
-        std::fflush(stderr);
-        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-        dup2(nowhere, STDERR_FILENO);
-        close(nowhere);
+        if (std::FILE* nowhere = std::fopen("/dev/null", "we"))
+            stderr = nowhere;
     }
 
     ~TSilence()
     {
-        std::fflush(stderr);
-        dup2(m_Original, STDERR_FILENO);
-        close(m_Original);
+        if (stderr != m_Original)
+            std::fclose(std::exchange(stderr, m_Original));
     }
 
     TSilence(const TSilence&) = delete;
     TSilence& operator=(const TSilence&) = delete;
 
 private:
-    int m_Original;
+    std::FILE* const m_Original;
 };
