@@ -1,9 +1,10 @@
 #include "boundaries/ExclusionZones.h"
 
+#include "boundaries/TShapeFiles.h"
 #include "platform/RegularFile.h"
 #include "stores/DurableFiles.h"
+#include "stores/DurableFolder.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -15,19 +16,14 @@
 
 namespace {
 
-constexpr int IndexHeaderBytes = 100;
-constexpr int LengthPlace = 24; ///< of a file, in words of two bytes
-constexpr const char* Extensions[] = {"shp", "shx", "dbf"};
+constexpr qint64 MostBytes = qint64{256} * 1024 * 1024; ///< of a file of zones
+constexpr int HeaderBytes = 100;
+constexpr int LengthPlace = 24;      ///< of a file, in words of two bytes
+constexpr int RowBytes = 8;          ///< of the index: the place of a record and the length of its content, in words
+constexpr int RecordHeaderBytes = 8; ///< the number of the record, from 1, and the length of its content, in words
 
-void BeSilent(const char*) {} // the library would print on standard error
-
-SAHooks SilentHooks()
-{
-    SAHooks hooks;
-    SASetupDefaultHooks(&hooks);
-    hooks.Error = BeSilent;
-    return hooks;
-}
+/// In the order in which they are written: with the shapes, the new zones are there.
+constexpr const char* Extensions[] = {"dbf", "shx", "shp"};
 
 struct tagCloser
 {
@@ -35,6 +31,8 @@ struct tagCloser
     void operator()(SHPObject* shape) const { SHPDestroyObject(shape); }
     void operator()(DBFHandle table) const { DBFClose(table); }
 };
+constexpr char Name[] = "zones.shp"; ///< in memory
+
 using TShapeFile = std::unique_ptr<std::remove_pointer_t<SHPHandle>, tagCloser>;
 using TShape = std::unique_ptr<SHPObject, tagCloser>;
 using TTable = std::unique_ptr<std::remove_pointer_t<DBFHandle>, tagCloser>;
@@ -46,16 +44,44 @@ QString Beside(const QString& path, const char* extension)
     return info.path() + QLatin1Char('/') + info.completeBaseName() + QLatin1Char('.') + QLatin1String(extension);
 }
 
+qint64 Number(const QByteArray& bytes, qint64 at) { return qFromBigEndian<quint32>(bytes.constData() + at); }
+qint64 Words(const QByteArray& bytes, qint64 at) { return 2 * Number(bytes, at); }
+
 /// Whether a file is as long as its header says. The library believes the header, and takes memory for it.
-bool HasItsLength(const QString& path)
+bool HasItsLength(const QByteArray& bytes)
+{
+    return bytes.size() >= HeaderBytes && Words(bytes, LengthPlace) <= bytes.size();
+}
+
+bool ReadWhole(const QString& path, QByteArray* bytes)
 {
     QFile file;
     const int descriptor = OpenRegularFile(path.toUtf8());
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ||
+        file.size() > MostBytes)
         return false;
-    const QByteArray header = file.read(IndexHeaderBytes);
-    return header.size() == IndexHeaderBytes &&
-           2 * static_cast<qint64>(qFromBigEndian<quint32>(header.constData() + LengthPlace)) <= file.size();
+    *bytes = file.readAll();
+    return HasItsLength(*bytes);
+}
+
+/// The index of the records, one behind the other; empty when they are not.
+QByteArray IndexOf(const QByteArray& shapes)
+{
+    QByteArray index = shapes.left(HeaderBytes);
+    const qint64 end = Words(shapes, LengthPlace);
+    qint64 at = HeaderBytes;
+    for (qint64 number = 1; at < end; ++number) {
+        if (at + RecordHeaderBytes > end || Number(shapes, at) != number)
+            return QByteArray();
+        const qint64 length = Words(shapes, at + 4);
+        QByteArray row(RowBytes, '\0');
+        qToBigEndian(static_cast<quint32>(at / 2), row.data());
+        qToBigEndian(static_cast<quint32>(length / 2), row.data() + 4);
+        index += row;
+        at += RecordHeaderBytes + length;
+    }
+    qToBigEndian(static_cast<quint32>(index.size() / 2), index.data() + LengthPlace);
+    return at == end ? index : QByteArray();
 }
 
 bool IsPolygon(int type) { return type == SHPT_POLYGON || type == SHPT_POLYGONZ || type == SHPT_POLYGONM; }
@@ -114,11 +140,10 @@ struct tagCorners
     std::vector<double> latitudes;
 };
 
-bool WriteShapes(const QString& path, const std::vector<TGeoRing>& zones, SAHooks* hooks)
+bool WriteShapes(const std::vector<TGeoRing>& zones, SAHooks* hooks)
 {
-    const QByteArray name = path.toUtf8();
-    const TShapeFile file(SHPCreateLL(name.constData(), SHPT_POLYGON, hooks));
-    const TTable table(DBFCreateLL(name.constData(), nullptr, hooks));
+    const TShapeFile file(SHPCreateLL(Name, SHPT_POLYGON, hooks));
+    const TTable table(DBFCreateLL(Name, nullptr, hooks));
     bool isGood = file && table && DBFAddField(table.get(), "ID", FTInteger, 9, 0) >= 0;
     for (std::size_t i = 0; isGood && i < zones.size(); ++i) {
         tagCorners corners(zones[i]);
@@ -143,9 +168,14 @@ std::optional<std::vector<TGeoRing>> ReadExclusionZones(const QString& path, QSt
         *error = QString::fromLatin1("%1 has no index: there is no %2").arg(path, index);
         return std::nullopt;
     }
-    SAHooks hooks = SilentHooks();
-    const bool isWhole = HasItsLength(path) && HasItsLength(index);
-    const TShapeFile file(isWhole ? SHPOpenLL(path.toUtf8().constData(), "rb", &hooks) : nullptr);
+    TShapeFiles files;
+    SAHooks hooks = TShapeFiles::Hooks();
+    const bool isWhole = ReadWhole(path, &files["shp"]) && ReadWhole(index, &files["shx"]);
+    // When writing was cut off, the index may be of other zones than the shapes, which are whole.
+    const QByteArray rebuilt = isWhole ? IndexOf(files["shp"]) : QByteArray();
+    if (!rebuilt.isEmpty())
+        files["shx"] = rebuilt;
+    const TShapeFile file(isWhole ? SHPOpenLL(Name, "rb", &hooks) : nullptr);
     if (!file) {
         *error = Damage(path);
         return std::nullopt;
@@ -178,14 +208,15 @@ bool WriteExclusionZones(const QString& path, const std::vector<TGeoRing>& zones
             return false;
         }
     }
-    const QString folder = QFileInfo(path).path();
-    SAHooks hooks = SilentHooks();
-    if (!QDir().mkpath(folder) || !WriteShapes(path, zones, &hooks)) {
+    TShapeFiles files;
+    SAHooks hooks = TShapeFiles::Hooks();
+    QString reason;
+    if (!MakeFolderDurably(QFileInfo(path).path(), &reason) || !WriteShapes(zones, &hooks)) {
         *error = QString::fromLatin1("cannot write %1").arg(path);
         return false;
     }
     for (const char* extension : Extensions) {
-        if (!DurableFiles::SyncContent(Beside(path, extension), error))
+        if (!DurableFiles::Write(Beside(path, extension), files[extension], error))
             return false;
     }
     return true;

@@ -3,6 +3,7 @@
 #include "../host/coverage/Drive.h"
 
 #include "boundaries/Boundary.h"
+#include "boundaries/ExclusionZones.h"
 #include "coverage/TCoverageFile.h"
 #include "guidance/FlagPoints.h"
 #include "guidance/GuidanceLine.h"
@@ -14,6 +15,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -98,6 +101,33 @@ int ReadProfile(const QString& path)
     return -1;
 }
 
+/// Other zones, and one more of them: the index differs too.
+bool WriteZones(const QString& path, int version, QString* error)
+{
+    std::vector<TGeoRing> zones;
+    for (int zone = 0; zone < 20 + version; ++zone)
+        zones.push_back({{52, 10}, {52.001, 10 + 0.001 * zone}, {52, 10.002 + version * 0.001}, {51.999, 10}});
+    return WriteExclusionZones(path, zones, error);
+}
+
+int ReadZones(const QString& path)
+{
+    QString error;
+    const auto zones = ReadExclusionZones(path, &error);
+    if (!zones || zones->empty())
+        return -1;
+    const int version = static_cast<int>(zones->size()) - 20;
+    for (const TGeoRing& zone : *zones) {
+        const auto isCorner = [version](const tagGeoPoint& corner) {
+            return corner.longitude == 10.002 + version * 0.001;
+        };
+        if (zone.size() != 4 || std::none_of(zone.begin(), zone.end(), isCorner))
+            return -1;
+    }
+    return version;
+}
+
+constexpr tagWholeFile Zones = {"Zones/F1/F1.shp", &WriteZones, &ReadZones};
 constexpr tagWholeFile Line = {"Fields/F1/ABLines/line.ini", &WriteLine, &ReadLine};
 constexpr tagWholeFile LineOfField = {"Lines/line.ini", &WriteLine, &ReadLine};
 constexpr tagWholeFile Outline = {"F1.bdy", &WriteOutline, &ReadOutline};
@@ -247,6 +277,8 @@ std::vector<tagOperation> FileOperations()
          &BrokenFile<LineOfField, false>, false, true, 1},
         Replacing<Outline>("boundary"),
         Replacing<Machine>("implement"),
+        Making<Zones>("first exclusion zones"),
+        Replacing<Zones>("exclusion zones"),
         Replacing<Profile>("export of a profile"),
         {"first coverage", &PrepareNothing, &AppendCoverage, &BrokenCoverage<0>, false, true, 1},
         {"coverage", &PrepareCoverage, &AppendCoverage, &BrokenCoverage<OldStrips>, false, true, 1},

@@ -37,6 +37,7 @@ private slots:
     void aMissingIndexIsSaid();
     void otherShapesAreRefused();
     void otherCoordinatesAreRefused();
+    void theIndexOfOtherZonesIsNotUsed();
     void damagedFilesDoNoHarm_data();
     void damagedFilesDoNoHarm();
     void whatIsNoZoneIsNotWritten();
@@ -124,6 +125,27 @@ void ExclusionZones::otherCoordinatesAreRefused()
     QString error;
     QVERIFY(!ReadExclusionZones(QString::fromUtf8(path), &error));
     QCOMPARE(error, QString::fromUtf8(path) + QLatin1String(" has coordinates that are not degrees; expected WGS84"));
+}
+
+/// As a power cut leaves it between the renaming of two files.
+void ExclusionZones::theIndexOfOtherZonesIsNotUsed()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    const QLatin1String index("Zones/F1/F1.shx");
+    QVERIFY(WriteExclusionZones(Path(folder), {{{52, 10}, {52, 11}, {53, 11}, {53, 10}, {52.5, 9}}}, &error));
+    const QByteArray ofOthers = folder.Content(index);
+    QVERIFY(WriteExclusionZones(Path(folder), Zones, &error));
+    const auto zones = ReadExclusionZones(Path(folder), &error);
+    QVERIFY(zones && folder.Content(index) != ofOthers);
+    folder.MakeFile(index, ofOthers);
+    const auto again = ReadExclusionZones(Path(folder), &error);
+    QVERIFY2(again, qPrintable(error));
+    QCOMPARE(again->size(), zones->size());
+    for (std::size_t i = 0; i < zones->size(); ++i) {
+        QCOMPARE(again->at(i).size(), zones->at(i).size());
+        QCOMPARE(again->at(i).front().latitude, zones->at(i).front().latitude);
+    }
 }
 
 void ExclusionZones::damagedFilesDoNoHarm_data()

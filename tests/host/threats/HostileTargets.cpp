@@ -1,5 +1,6 @@
 #include "Obstacles.h"
 
+#include "boundaries/ExclusionZones.h"
 #include "coverage/TCoverageFile.h"
 #include "guidance/GuidanceLine.h"
 #include "platform/TFileSystemHelper.h"
@@ -54,6 +55,13 @@ bool WriteLine(const QString&, const QString& target)
     return WriteGuidanceLine(target, {{52, 10}, {52.001, 10}}, &error);
 }
 
+bool WriteZones(const QString&, const QString& target)
+{
+    QString error;
+    return WriteExclusionZones(target.left(target.size() - 3) + QLatin1String("shp"),
+                               {{{52, 10}, {52.001, 10}, {52, 10.001}}}, &error);
+}
+
 /// What writes a whole file to a place that may be on a stick.
 struct tagWriter
 {
@@ -67,6 +75,9 @@ constexpr tagWriter Writers[] = {
     {"profile", "place/tractor.profile", &WriteProfile},
     {"support bundle", "place/support.zip", &WriteBundle},
     {"guidance line", "place/line.ini", &WriteLine},
+    {"exclusion zones", "place/F1.shp", &WriteZones},
+    {"index of exclusion zones", "place/F1.shx", &WriteZones},
+    {"table of exclusion zones", "place/F1.dbf", &WriteZones},
 };
 
 } // namespace
