@@ -1,4 +1,5 @@
 #include "CoreTest.h"
+#include "Latin1.h"
 #include "TLogRoom.h"
 
 #include "logs/TLogSeries.h"
@@ -33,6 +34,8 @@ private slots:
     void aSeriesMayLieInTheCurrentFolder();
     void aZeroInThePathLeavesOthersAlone();
     void aZeroInTheFolderReadsNoOther();
+    void aFolderThatCannotBeReadIsToldByItsError_data();
+    void aFolderThatCannotBeReadIsToldByItsError();
     void aNameThatCannotBeLookedAtStopsTheExport();
 };
 
@@ -271,8 +274,34 @@ void LogSeries::aZeroInTheFolderReadsNoOther()
     room.MakeFile(1, 3, 0);
     const TLogSeries series(room.folder.Path(QLatin1String("logs")) + QChar(0) + QLatin1String("/user.log"));
     std::vector<TLogSeries::tagFile> files;
-    QVERIFY(!series.ReadFiles(QString(), &files));
+    errno = 0;
+    const bool isRead = series.ReadFiles(QString(), &files);
+    const int error = errno;
+    QVERIFY(!isRead);
+    QCOMPARE(error, ENOENT);
     QVERIFY(files.empty());
+}
+
+void LogSeries::aFolderThatCannotBeReadIsToldByItsError_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("error");
+    QTest::newRow("no folder") << Latin1("nowhere/user.log") << ENOENT;
+    QTest::newRow("a file") << Latin1("logs/file/user.log") << ENOTDIR;
+}
+
+void LogSeries::aFolderThatCannotBeReadIsToldByItsError()
+{
+    QFETCH(QString, path);
+    QFETCH(int, error);
+    const TLogRoom room;
+    room.MakeFile(Latin1("file"), 3, 0);
+    std::vector<TLogSeries::tagFile> files;
+    errno = 0;
+    const bool isRead = TLogSeries(room.folder.Path(path)).ReadFiles(QString(), &files);
+    const int told = errno;
+    QVERIFY(!isRead);
+    QCOMPARE(told, error);
 }
 
 // A file that exists and cannot be looked at may be one with entries. A link to a name that no system takes is such a
