@@ -59,7 +59,7 @@ std::vector<int> TPromises::Before(std::size_t steps) const
 std::vector<tagOperation> AllOperations()
 {
     std::vector<tagOperation> all;
-    for (const auto& some : {LogOperations(), FileOperations(), StoreOperations()})
+    for (const auto& some : {LogOperations(), FileOperations(), FieldOperations(), StoreOperations()})
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

@@ -78,9 +78,10 @@ struct tagOperation
     int cost;
 };
 
-/// Of the logs, of the files of the work on a field, and of the store.
+/// Of the logs, of the files of the work on a field, of fields and what is written to a stick, and of the store.
 std::vector<tagOperation> LogOperations();
 std::vector<tagOperation> FileOperations();
+std::vector<tagOperation> FieldOperations();
 std::vector<tagOperation> StoreOperations();
 
 std::vector<tagOperation> AllOperations();
