@@ -1,3 +1,4 @@
+#include "../system/TPrivateMounts.h"
 #include "DiskRecord.h"
 #include "FaultResults.h"
 #include "FileCalls.h"
@@ -113,6 +114,7 @@ private:
     const std::vector<tagOperation> m_Operations = AllOperations();
     TPromises m_Promises;
     std::unique_ptr<TTemporaryFolder> m_Folder;
+    std::unique_ptr<TMemoryDrive> m_Stick;
     QString m_Room;
     int m_Threads = 0; ///< of this process, without those of a store
 };
@@ -121,7 +123,9 @@ void FailingFiles::initTestCase()
 {
     KeepTemporaryFilesInMemory();
     m_Folder = std::make_unique<TTemporaryFolder>();
-    m_Room = m_Folder->Path(QLatin1String("room"));
+    // A stick, on which the room is the folder of the clients. Without mounts, the copy of a field fails.
+    m_Stick = std::make_unique<TMemoryDrive>(m_Folder->Path(), "size=100m");
+    m_Room = m_Folder->Path(QLatin1String("Clients"));
     m_Threads = Threads();
 }
 
@@ -237,6 +241,7 @@ void FailingFiles::nothingIsLostAtAnyCall()
 
 int main(int argc, char** argv)
 {
+    PrivateMounts::Enter();
     const QCoreApplication application(argc, argv);
     FailingFiles test;
     return QTest::qExec(&test, argc, argv);

@@ -3,6 +3,7 @@
 #include "TTemporaryFolder.h"
 
 #include "fields/TFieldTree.h"
+#include "parameters/HostParameters.h"
 #include "stores/TMemoryStore.h"
 #include "stores/TSqliteStore.h"
 #include "support/SupportBundle.h"
@@ -11,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -44,22 +46,22 @@ void Put(const QString& path, const QByteArray& content)
 /// A terminal that runs while the object lives.
 struct tagTerminal
 {
-    explicit tagTerminal(const QString& folder) : terminal(store), tree(store)
-    {
-        isRunning = terminal.Start(folder, &error);
-    }
+    tagTerminal() : terminal(store), tree(store) {}
+
+    bool Start(const QString& folder) { return terminal.Start(folder, &error); }
 
     TMemoryStore store;
     TTerminal terminal;
     TFieldTree tree;
     QString error;
-    bool isRunning = false;
 };
 
 void PrepareField(const QString& folder)
 {
     QDir().mkpath(folder);
-    const tagTerminal terminal(folder); // makes its folders
+    tagTerminal terminal;
+    if (!terminal.Start(folder)) // which makes its folders
+        qFatal("%s", qPrintable(terminal.error));
     for (const char* pattern : Files)
         Put(FileOf(folder, pattern, Names[0]), pattern);
 }
@@ -79,8 +81,8 @@ int PlaceOfField(const QString& folder)
 
 bool RenameField(const QString& folder, const std::function<void()>& begin, TPromises& promises)
 {
-    tagTerminal terminal(folder);
-    if (!terminal.isRunning)
+    tagTerminal terminal;
+    if (!terminal.Start(folder))
         return false;
     begin();
     const bool isDone = terminal.tree.Rename(Farm + QStringList(Names[0]), Names[1], &terminal.error) == FIELD_DONE;
@@ -91,9 +93,9 @@ bool RenameField(const QString& folder, const std::function<void()>& begin, TPro
 
 QByteArray BrokenField(const QString& folder, const tagAftermath& after)
 {
-    tagTerminal next(folder);
+    tagTerminal next;
     QList<tagFieldItem> items;
-    if (!next.isRunning || next.tree.List(FIELD_DRIVE_INTERNAL, Farm, &items, &next.error) != FIELD_DONE)
+    if (!next.Start(folder) || next.tree.List(FIELD_DRIVE_INTERNAL, Farm, &items, &next.error) != FIELD_DONE)
         return "the next program cannot list the fields: " + next.error.toUtf8();
     const int place = PlaceOfField(folder);
     if (place < 0)
@@ -105,6 +107,64 @@ QByteArray BrokenField(const QString& folder, const tagAftermath& after)
     if (PlaceOfField(folder) != 1 - place)
         return "the next renaming has left something";
     return Leftovers(folder + QLatin1String("/internal/Clients"));
+}
+
+// A field is copied to a stick; the folder is that of the clients on it.
+
+const QByteArray OldFile = "an older file";
+
+QByteArray FileToCopy(const char* pattern) { return QByteArray(pattern).repeated(20000); } // in several pieces
+
+QString CopyOf(const QString& folder, const char* pattern)
+{
+    return folder + QLatin1String("/Smith/North/") + QString::fromLatin1(pattern).replace(QLatin1Char('%'), Names[0]);
+}
+
+void PrepareClients(const QString& folder) { Put(CopyOf(folder, Files[0]), OldFile); }
+
+bool CopyField(const QString& folder, const std::function<void()>& begin, TPromises& promises)
+{
+    static const TTemporaryFolder data; // not on the stick
+    tagTerminal terminal;
+    terminal.store.SetParameter(PARAM_EXTERNAL_DRIVE, QFileInfo(folder).path(), true);
+    if (!terminal.Start(data.Path()))
+        return false;
+    for (const char* pattern : Files)
+        Put(FileOf(data.Path(), pattern, Names[0]), FileToCopy(pattern));
+    begin();
+    tagFieldCopy copy;
+    const bool isDone = terminal.tree.Copy(Farm + QStringList(Names[0]), FIELD_DRIVE_STICK, true, {}, &copy,
+                                           &terminal.error) == FIELD_DONE;
+    if (isDone)
+        promises.Make(1);
+    return isDone;
+}
+
+/// Which of the copies is neither the old file nor the new one, or not @p isNew; empty when all are.
+QByteArray BrokenCopy(const QString& folder, bool isNew)
+{
+    for (const char* pattern : Files) {
+        const QString path = CopyOf(folder, pattern);
+        const QByteArray there = Content(path);
+        const bool isOld = pattern == Files[0] ? there == OldFile : !QFile::exists(path);
+        if (there != FileToCopy(pattern) && (isNew || !isOld))
+            return "not the file that was copied: " + path.toUtf8();
+    }
+    return QByteArray();
+}
+
+QByteArray BrokenClients(const QString& folder, const tagAftermath& after)
+{
+    QByteArray broken = BrokenCopy(folder, !after.promises.empty());
+    TPromises promises;
+    promises.Begin();
+    const bool isDone = CopyField(
+        folder, [] {}, promises);
+    if (broken.isEmpty() && !isDone)
+        broken = "the next copy fails";
+    if (broken.isEmpty())
+        broken = BrokenCopy(folder, true);
+    return broken.isEmpty() ? Leftovers(folder) : broken;
 }
 
 // A support bundle is written; the folder is the stick.
@@ -160,6 +220,7 @@ std::vector<tagOperation> FieldOperations()
 {
     return {
         {"renamed field", &PrepareField, &RenameField, &BrokenField, false, true, 4},
+        {"field copied to a stick", &PrepareClients, &CopyField, &BrokenClients, false, true, 4},
         {"support bundle", &PrepareStick, &WriteBundle, &BrokenBundle, false, true, 8},
     };
 }

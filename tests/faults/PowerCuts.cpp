@@ -1,3 +1,4 @@
+#include "../system/TPrivateMounts.h"
 #include "DiskRecord.h"
 #include "FaultResults.h"
 #include "FileCalls.h"
@@ -68,6 +69,7 @@ private:
     const std::vector<tagOperation> m_Operations = AllOperations();
     TPromises m_Promises;
     std::unique_ptr<TTemporaryFolder> m_Folder;
+    std::unique_ptr<TMemoryDrive> m_Stick;
     QString m_Room;
 };
 
@@ -75,7 +77,9 @@ void PowerCuts::initTestCase()
 {
     KeepTemporaryFilesInMemory();
     m_Folder = std::make_unique<TTemporaryFolder>();
-    m_Room = m_Folder->Path(QLatin1String("room"));
+    // A stick, on which the room is the folder of the clients. Without mounts, the copy of a field fails.
+    m_Stick = std::make_unique<TMemoryDrive>(m_Folder->Path(), "size=100m");
+    m_Room = m_Folder->Path(QLatin1String("Clients"));
 }
 
 void PowerCuts::whatWasPromisedIsThere_data()
@@ -147,6 +151,7 @@ void PowerCuts::whatWasPromisedIsThere()
 
 int main(int argc, char** argv)
 {
+    PrivateMounts::Enter();
     const QCoreApplication application(argc, argv);
     PowerCuts test;
     return QTest::qExec(&test, argc, argv);
