@@ -7,6 +7,6 @@
 /// synced. A folder that the environment names is taken instead.
 inline void KeepTemporaryFilesInMemory()
 {
-    if (qEnvironmentVariableIsEmpty("TMPDIR") && QFileInfo(QLatin1String("/dev/shm")).isWritable())
+    if (qgetenv("TMPDIR").isEmpty() && QFileInfo(QLatin1String("/dev/shm")).isWritable())
         qputenv("TMPDIR", "/dev/shm");
 }

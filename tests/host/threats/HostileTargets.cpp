@@ -15,7 +15,6 @@
 #include <QtTest>
 
 #include <cerrno>
-#include <cstring>
 #include <memory>
 
 namespace {
@@ -127,7 +126,7 @@ QString HostileTargets::Make(TTemporaryFolder& folder, const tagWriter& writer, 
     const QString target = folder.Path(QLatin1String(writer.target));
     const QByteArray kept = folder.Path(QLatin1String("outside/kept")).toUtf8();
     if (!obstacle.make(target.toUtf8().constData(), kept.constData()))
-        qFatal("cannot make a %s: %s", obstacle.name, std::strerror(errno));
+        qFatal("cannot make a %s: error %d", obstacle.name, errno);
     return target;
 }
 
