@@ -2,12 +2,12 @@
 
 #include "FacadeOperations.h"
 #include "Latin1.h"
-#include "ThreadHost.h"
 
 #include "colors/TColorSettingsProxy.h"
 #include "logs/TNEMADiagnosticLogProxy.h"
 #include "logs/TUserDiagnosticLogProxy.h"
 #include "logs/TUserLogAccessor.h"
+#include "platform/TConfigManager.h"
 #include "region/TRegionSettingsProxy.h"
 #include "serialization/TBinarySerializer.h"
 #include "system/TSystemSettings.h"
@@ -23,6 +23,7 @@
 #include <array>
 
 const char* const FirstName = "Start";
+QColor FirstColor() { return QColor(12, 34, 56); } // as the calls of FacadeCalls() set it
 
 namespace {
 
@@ -48,33 +49,16 @@ bool IsWritten(const QString& text)
            text == TSystemSettings::DefaultSprayerProfile;
 }
 
-/// Unlike any other line of any thread. Mostly short; a few are longer than the staging buffer of the NMEA log.
-QByteArray LineText(tagWorker& worker, const tagWorker::tagLogged& log)
-{
-    const int most = worker.Draw(8) == 0 ? 1200 : 80;
-    const qlonglong number = log.lines.size() + log.refused;
-    return QByteArray::number(worker.number) + '-' + QByteArray::number(number) + '-' +
-           QByteArray(worker.Draw(most), static_cast<char>('a' + worker.number));
-}
-
 // ---- Logs --------------------------------------------------------------------------------------------------------
-
-bool Note(tagWorker::tagLogged& log, const QByteArray& line, bool isLogged)
-{
-    if (isLogged)
-        log.lines.append(line);
-    else
-        ++log.refused;
-    return true;
-}
 
 bool LogTroubleCode(tagWorker& worker)
 {
     const QByteArray text = LineText(worker, worker.user);
     const bool isLogged = TUserDiagnosticLogProxy().AddEntry(DIAG_COMPONENT_IMPLEMENT, DIAG_TYPE_DTC, worker.number,
                                                              Latin1(text), QLatin1String("first,second"));
-    return Note(worker.user, "Implement,DTC," + QByteArray::number(worker.number) + ',' + text + ",first second",
-                isLogged);
+    NoteLine(worker.user, "Implement,DTC," + QByteArray::number(worker.number) + ',' + text + ",first second",
+             isLogged);
+    return true;
 }
 
 bool LogEventByAccessor(tagWorker& worker)
@@ -82,21 +66,24 @@ bool LogEventByAccessor(tagWorker& worker)
     const QByteArray text = LineText(worker, worker.user);
     const bool isLogged =
         TUserLogAccessor().AddEntry(DIAG_COMPONENT_CONSOLE, DIAG_TYPE_EVENT, worker.number, Latin1(text), QString());
-    return Note(worker.user, QByteArray("Console,Event,") + TSlowStore::DiagnosticText + ',' + text + ',', isLogged);
+    NoteLine(worker.user, "Console,Event," + worker.eventText + ',' + text + ',', isLogged);
+    return true;
 }
 
 bool LogText(tagWorker& worker)
 {
     TUserDiagnosticLogProxy log;
     const QByteArray text = LineText(worker, worker.user);
-    return Note(worker.user, text, static_cast<TDiagnosticLogProxy&>(log).AddEntry(Latin1(text)));
+    NoteLine(worker.user, text, static_cast<TDiagnosticLogProxy&>(log).AddEntry(Latin1(text)));
+    return true;
 }
 
 bool LogSentence(tagWorker& worker)
 {
     const QByteArray text = LineText(worker, worker.nmea);
     const QByteArray line = text + "\r\n";
-    return Note(worker.nmea, text, TNEMADiagnosticLogProxy().Log(line.constData(), static_cast<int>(line.size())));
+    NoteLine(worker.nmea, text, TNEMADiagnosticLogProxy().Log(line.constData(), static_cast<int>(line.size())));
+    return true;
 }
 
 bool LogSentenceAsBytes(tagWorker& worker)
@@ -104,7 +91,8 @@ bool LogSentenceAsBytes(tagWorker& worker)
     const QByteArray text = LineText(worker, worker.nmea);
     const QByteArray line = text + "\r\n";
     TNEMADiagnosticLogProxy log;
-    return Note(worker.nmea, text, log.LogDiagnostic(line.constData(), static_cast<int>(line.size())));
+    NoteLine(worker.nmea, text, log.LogDiagnostic(line.constData(), static_cast<int>(line.size())));
+    return true;
 }
 
 /// Without a pause, so that the threads meet in the log rather than in the store. Both logs go on to another file, and
@@ -157,11 +145,10 @@ bool ExportsWholeLines(TDiagnosticLogProxy& log, const QString& folder)
 
 bool ExportLogs(tagWorker& worker)
 {
-    const QString folder = worker.drive + Latin1("/Exported%1/").arg(worker.number);
     TUserDiagnosticLogProxy user;
     TNEMADiagnosticLogProxy nmea;
-    return ExportsWholeLines(user, folder + QLatin1String("User")) &&
-           ExportsWholeLines(nmea, folder + QLatin1String("NMEA"));
+    return ExportsWholeLines(user, worker.exports + QLatin1String("/User")) &&
+           ExportsWholeLines(nmea, worker.exports + QLatin1String("/NMEA"));
 }
 
 /// Meanwhile other threads lose the lines they give to the log, and are told so.
@@ -171,8 +158,8 @@ bool CloseAndRestoreLogs(tagWorker& worker)
     TNEMADiagnosticLogProxy nmea;
     user.Close();
     nmea.Close();
-    user.Restore(UserLogPath(worker.drive), 0, 0);
-    nmea.Restore(NMEALogPath(worker.drive), 0, 0);
+    user.Restore(worker.userLog, 0, 0);
+    nmea.Restore(worker.nmeaLog, 0, 0);
     return true;
 }
 
@@ -238,7 +225,7 @@ bool WriteAndReadColours(tagWorker& worker)
     colors.SetMapColor(QColor(worker.number, Green, Blue));
     const QColor color = colors.GetMapColor();
     const bool isOfWorker = color.green() == Green && color.blue() == Blue && color.red() < 16;
-    return !color.isValid() || isOfWorker || color == QColor(12, 34, 56);
+    return !color.isValid() || isOfWorker || color == FirstColor();
 }
 
 bool SetAndReadClock(tagWorker& worker)
@@ -311,6 +298,23 @@ void Append(const std::vector<Operation>& operations, std::vector<tagFacadeCall>
 
 } // namespace
 
+// Mostly short; a few are longer than the staging buffer of the NMEA log.
+QByteArray LineText(tagWorker& worker, const tagWorker::tagLogged& log)
+{
+    const int most = worker.Draw(8) == 0 ? 1200 : 80;
+    const qlonglong number = log.lines.size() + log.refused;
+    return QByteArray::number(worker.number) + '-' + QByteArray::number(number) + '-' +
+           QByteArray(worker.Draw(most), static_cast<char>('a' + worker.number));
+}
+
+void NoteLine(tagWorker::tagLogged& log, const QByteArray& line, bool isLogged)
+{
+    if (isLogged)
+        log.lines.append(line);
+    else
+        ++log.refused;
+}
+
 const std::vector<tagWork>& FacadeWorks()
 {
     static const std::vector<tagWork> works = {
@@ -361,6 +365,3 @@ QString QuantityText(int unit)
     constexpr double Value = 12.345;
     return TUnits::GetValueString(Value, static_cast<EUnitsType>(unit), 2, nullptr);
 }
-
-QString UserLogPath(const QString& drive) { return drive + QLatin1String("/Logs/User.csv"); }
-QString NMEALogPath(const QString& drive) { return drive + QLatin1String("/Logs/NMEA.csv"); }

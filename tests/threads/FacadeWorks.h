@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
+#include <QColor>
 #include <QString>
 #include <QStringList>
 
@@ -14,7 +16,10 @@
 struct tagWorker
 {
     int number;
-    QString drive; ///< the internal drive, without a separator at the end
+    QString exports;      ///< a folder of the thread's own
+    QString userLog;      ///< base path
+    QString nmeaLog;      ///< base path
+    QByteArray eventText; ///< what the host calls the event whose code is the thread's number
     std::mt19937& random;
 
     /// What a call put into a log: without time stamp, in the order of the calls.
@@ -45,6 +50,12 @@ struct tagWork
 
 const std::vector<tagWork>& FacadeWorks();
 
+/// A text for a line of @p log, unlike that of any other line of any thread.
+QByteArray LineText(tagWorker& worker, const tagWorker::tagLogged& log);
+
+/// Remembers that @p line was given to a log, and whether it was taken.
+void NoteLine(tagWorker::tagLogged& log, const QByteArray& line, bool isLogged);
+
 /// A call of one operation of a façade, whose answer depends on what other threads do.
 struct tagFacadeCall
 {
@@ -61,10 +72,6 @@ void ChooseMeasures(int bits);
 constexpr int MeasureChoices = 16;
 QString QuantityText(int unit);
 
-/// The base paths of the logs, and what comes before the text in a line of the user log: "2024.03.05-14:05:09:042,"
-QString UserLogPath(const QString& drive);
-QString NMEALogPath(const QString& drive);
-constexpr int StampLength = 24;
-
-/// The start of what every selection and text in memory may hold.
+/// What every selection, the CFF root and the software version hold at first, and both map colours, if any.
 extern const char* const FirstName;
+QColor FirstColor();

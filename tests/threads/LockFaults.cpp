@@ -143,6 +143,7 @@ private slots:
     void theOrderIsJudged();
     void theOrderIsReadFromThePage();
     void whatCannotWaitForEverMakesNoPair();
+    void aLockIsNamedByTheCallThatTakesIt();
 };
 
 void LockFaults::aPlantedFaultIsReported_data()
@@ -204,9 +205,10 @@ void LockFaults::theOrderIsJudged_data()
 
     const FPairs chain = {{"a", "b"}, {"b", "c"}};
     QTest::newRow("as documented") << chain << chain << QStringList();
-    QTest::newRow("one pair more") << chain << FPairs{{"a", "b"}, {"b", "c"}, {"a", "c"}}
+    QTest::newRow("by way of another") << chain << FPairs{{"a", "b"}, {"b", "c"}, {"a", "c"}} << QStringList();
+    QTest::newRow("one pair more") << chain << FPairs{{"a", "b"}, {"b", "c"}, {"b", "a"}}
                                    << QStringList{
-                                          Text("\"c\" was taken while \"a\" was held, which is not documented")};
+                                          Text("\"a\" was taken while \"b\" was held, which is not documented")};
     QTest::newRow("one pair less") << chain << FPairs{{"b", "c"}}
                                    << QStringList{Text(
                                           "\"b\" was never taken while \"a\" was held, although that is documented")};
@@ -257,6 +259,27 @@ void LockFaults::whatCannotWaitForEverMakesNoPair()
     QCOMPARE(LockRecord::Threads().size(), std::size_t(0));
     QCOMPARE(LockRecord::Pairs().size(), std::size_t(0));
     QCOMPARE(LockRecord::Acquisitions() - before, 2L);
+}
+
+void LockFaults::aLockIsNamedByTheCallThatTakesIt()
+{
+    QMutex known;
+    QMutex hidden;
+    LockRecord::NameLock(&known, "known");
+    const auto lockBoth = [&known, &hidden] {
+        const QMutexLocker outer(&known);
+        const QMutexLocker inner(&hidden);
+    };
+    QVERIFY(LockRecord::NameFirstLockOf(lockBoth, "hidden"));
+    QVERIFY(!LockRecord::NameFirstLockOf(lockBoth, "another"));
+    QCOMPARE(LockRecord::Pairs().size(), std::size_t(2)); // before it had its name, and with it
+    LockRecord::ForgetPairs();
+    QCOMPARE(LockRecord::Pairs().size(), std::size_t(0));
+    lockBoth();
+    QCOMPARE(LockRecord::Pairs().size(), std::size_t(1));
+    QCOMPARE(LockRecord::Pairs().front().held, QByteArray("known"));
+    QCOMPARE(LockRecord::Pairs().front().taken, QByteArray("hidden"));
+    LockRecord::ForgetPairs();
 }
 
 int main(int argc, char** argv)

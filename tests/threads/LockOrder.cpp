@@ -2,7 +2,6 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <set>
 
 namespace {
@@ -67,7 +66,7 @@ QStringList LockOrder::Faults(const std::vector<FPair>& documented, const std::v
     std::set<FPair> seen;
     for (const LockRecord::tagPair& pair : recorded) {
         seen.emplace(pair.held, pair.taken);
-        if (std::count(documented.begin(), documented.end(), FPair(pair.held, pair.taken)) == 0)
+        if (Reachable(pair.held, documented).count(pair.taken) == 0)
             faults +=
                 Sentence("\"%2\" was taken while \"%1\" was held, which is not documented", pair.held, pair.taken);
     }

@@ -20,9 +20,8 @@ constexpr std::size_t MostLocks = 32;
 constexpr std::size_t MostHeld = 16;
 constexpr std::size_t MostThreads = 256;
 
-/// Locks are numbered: 0 is none, 1 any without a name.
-constexpr std::size_t NoLock = 0;
-constexpr std::size_t UnnamedLock = 1;
+/// Locks are numbered in the order of their names. The last number is of those without one.
+constexpr std::size_t UnnamedLock = MostLocks - 1;
 
 constexpr auto Relaxed = std::memory_order_relaxed;
 
@@ -36,9 +35,9 @@ struct tagSlot
 {
     std::atomic<bool> isUsed;
     std::atomic<const char*> name;
-    std::atomic<std::size_t> waitsFor;
+    std::atomic<const void*> waitsFor; ///< null while the thread does not wait
     std::atomic<std::size_t> heldCount;
-    std::array<std::atomic<std::size_t>, MostHeld> held;
+    std::array<std::atomic<const void*>, MostHeld> held;
 };
 
 // All zero before the first constructor of the program runs, so that locks may be taken at any time.
@@ -47,6 +46,10 @@ std::atomic<std::size_t> NameCount;
 std::array<tagSlot, MostThreads> Slots;
 std::array<std::array<std::atomic<long>, MostLocks>, MostLocks> PairCounts;
 std::atomic<long> AcquisitionCount;
+
+// Of NameFirstLockOf(), in the thread that called it.
+thread_local bool IsLooking = false;
+thread_local const void* FirstFound = nullptr;
 
 [[noreturn]] void Fail(const char* what)
 {
@@ -95,14 +98,14 @@ std::size_t NumberOf(const void* lock)
     const std::size_t count = NameCount.load(std::memory_order_acquire);
     for (std::size_t i = 0; i < count; ++i) {
         if (Names[i].lock.load(Relaxed) == lock)
-            return UnnamedLock + 1 + i;
+            return i;
     }
     return UnnamedLock;
 }
 
 const char* NameOf(std::size_t number)
 {
-    return number <= UnnamedLock ? LockRecord::Unnamed : Names[number - UnnamedLock - 1].name.load(Relaxed);
+    return number == UnnamedLock ? LockRecord::Unnamed : Names[number].name.load(Relaxed);
 }
 
 } // namespace
@@ -111,16 +114,37 @@ void LockRecord::NameLock(const void* lock, const char* name)
 {
     const std::size_t number = NumberOf(lock);
     if (number != UnnamedLock) {
-        Names[number - UnnamedLock - 1].name.store(name, Relaxed);
+        Names[number].name.store(name, Relaxed);
         return;
     }
     const std::size_t count = NameCount.load(Relaxed);
-    if (UnnamedLock + 1 + count == MostLocks)
+    if (count == UnnamedLock)
         Fail("locks with names");
     Names[count].lock.store(lock, Relaxed);
     Names[count].name.store(name, Relaxed);
     NameCount.store(count + 1, std::memory_order_release);
 }
+
+bool LockRecord::NameFirstLockOf(const std::function<void()>& call, const char* name)
+{
+    FirstFound = nullptr;
+    IsLooking = true;
+    call();
+    IsLooking = false;
+    if (FirstFound)
+        NameLock(FirstFound, name);
+    return FirstFound != nullptr;
+}
+
+void LockRecord::ForgetPairs()
+{
+    for (auto& counts : PairCounts) {
+        for (std::atomic<long>& count : counts)
+            count.store(0, Relaxed);
+    }
+}
+
+void LockRecord::ForgetNames() { NameCount.store(0, std::memory_order_release); }
 
 void LockRecord::NameThread(const char* name) { Own().name.store(name, Relaxed); }
 
@@ -146,10 +170,10 @@ std::vector<LockRecord::tagThread> LockRecord::Threads()
         tagThread thread;
         const std::size_t heldCount = slot.isUsed.load(Relaxed) ? slot.heldCount.load(Relaxed) : 0;
         for (std::size_t i = 0; i < heldCount; ++i)
-            thread.holds.append(NameOf(slot.held[i].load(Relaxed)));
-        const std::size_t waitsFor = slot.isUsed.load(Relaxed) ? slot.waitsFor.load(Relaxed) : NoLock;
-        if (waitsFor != NoLock)
-            thread.waitsFor = NameOf(waitsFor);
+            thread.holds.append(NameOf(NumberOf(slot.held[i].load(Relaxed))));
+        const void* const waitsFor = slot.isUsed.load(Relaxed) ? slot.waitsFor.load(Relaxed) : nullptr;
+        if (waitsFor)
+            thread.waitsFor = NameOf(NumberOf(waitsFor));
         if (!thread.holds.isEmpty() || !thread.waitsFor.isEmpty()) {
             thread.name = slot.name.load(Relaxed);
             threads.push_back(thread);
@@ -169,8 +193,10 @@ void Asked(const void* lock)
     const std::size_t number = NumberOf(lock);
     const std::size_t heldCount = own.heldCount.load(Relaxed);
     for (std::size_t i = 0; i < heldCount; ++i)
-        PairCounts[own.held[i].load(Relaxed)][number].fetch_add(1, Relaxed);
-    own.waitsFor.store(number, Relaxed);
+        PairCounts[NumberOf(own.held[i].load(Relaxed))][number].fetch_add(1, Relaxed);
+    own.waitsFor.store(lock, Relaxed);
+    if (IsLooking && !FirstFound && number == UnnamedLock)
+        FirstFound = lock;
 }
 
 void Taken(const void* lock)
@@ -179,9 +205,9 @@ void Taken(const void* lock)
     const std::size_t heldCount = own.heldCount.load(Relaxed);
     if (heldCount == MostHeld)
         Fail("locks held by one thread");
-    own.held[heldCount].store(NumberOf(lock), Relaxed);
+    own.held[heldCount].store(lock, Relaxed);
     own.heldCount.store(heldCount + 1, Relaxed);
-    own.waitsFor.store(NoLock, Relaxed);
+    own.waitsFor.store(nullptr, Relaxed);
     AcquisitionCount.fetch_add(1, Relaxed);
 }
 
@@ -189,10 +215,9 @@ void Taken(const void* lock)
 void Released(const void* lock)
 {
     tagSlot& own = Own();
-    const std::size_t number = NumberOf(lock);
     const std::size_t heldCount = own.heldCount.load(Relaxed);
     std::size_t at = heldCount;
-    while (at > 0 && own.held[at - 1].load(Relaxed) != number)
+    while (at > 0 && own.held[at - 1].load(Relaxed) != lock)
         --at;
     if (at == 0)
         return;

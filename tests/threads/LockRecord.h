@@ -4,6 +4,7 @@
 #include <QByteArrayList>
 #include <QtGlobal>
 
+#include <functional>
 #include <vector>
 
 /// What each thread does with Qt's locks: which it holds, for which it waits, and which it took while it held others.
@@ -29,6 +30,16 @@ const char* const Unnamed = "a lock without a name";
 
 /// Gives a name to the lock at an address. Names are never copied or freed.
 void NameLock(const void* lock, const char* name);
+
+/// Gives a name to a lock that nobody else can reach: the first one without a name that this thread takes in @p call.
+/// Returns whether there was one.
+bool NameFirstLockOf(const std::function<void()>& call, const char* name);
+
+/// Forgets the pairs that were recorded before all locks had their names.
+void ForgetPairs();
+
+/// Forgets all names: what was named is gone. While no other thread uses a lock.
+void ForgetNames();
 
 /// Gives a name to the calling thread until it ends.
 void NameThread(const char* name);
