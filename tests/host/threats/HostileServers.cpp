@@ -69,9 +69,8 @@ private:
 
 int Descriptors()
 {
-    return QDir(QLatin1String("/proc/self/fd"))
-        .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
-        .size();
+    const QDir open(QLatin1String("/proc/self/fd"));
+    return static_cast<int>(open.entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size());
 }
 
 tagTcpAddress AddressOf(const QTcpServer& server) { return {QLatin1String("127.0.0.1"), server.serverPort()}; }
