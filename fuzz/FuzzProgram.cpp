@@ -17,12 +17,17 @@
 #include <cstdlib>
 #include <memory>
 
+#include <unistd.h>
+
 namespace {
 
 /// The name of the target, for the processes that libFuzzer starts of this program.
 const char* const TargetVariable = "CABSETTINGS_FUZZ_TARGET";
 
 const tagFuzzTarget* Target = nullptr;
+
+/// A second descriptor of standard error: with -close_fd_mask libFuzzer sends the first one nowhere.
+int Report = -1;
 
 std::unique_ptr<TSeededInputs> Seeded; ///< null without --seeded
 bool AreFilesRead = false;
@@ -48,6 +53,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
+    Report = dup(STDERR_FILENO);
     if (*argc > 1 && FuzzTargets::Find(QString::fromUtf8((*argv)[1]))) {
         qputenv(TargetVariable, (*argv)[1]);
         (*argv)[1] = (*argv)[0];
@@ -81,7 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         Target->check(input);
     } catch (const TBrokenProperty& broken) {
-        std::fprintf(stderr, "%s: broken: %s\n", Target->name, broken.what());
+        dprintf(Report, "%s: broken: %s\n", Target->name, broken.what());
         std::abort();
     }
     return 0;

@@ -18,7 +18,7 @@ struct tagDamage
 {
     QByteArray bytes;
     int changes = 0;
-    int place = 0; ///< of the last change
+    int place = 0; ///< of the last byte that became another one
 };
 
 tagDamage Damaged(const QByteArray& bytes, TFuzzInput& input)
@@ -30,8 +30,10 @@ tagDamage Damaged(const QByteArray& bytes, TFuzzInput& input)
         const int place = (low | middle << 8 | input.Byte() << 16) % static_cast<int>(bytes.size());
         const int change = input.Byte();
         damage.bytes[place] = static_cast<char>(damage.bytes.at(place) ^ change);
-        damage.changes += change != 0 ? 1 : 0;
-        damage.place = place;
+        if (change != 0) {
+            ++damage.changes;
+            damage.place = place;
+        }
     }
     return damage;
 }
