@@ -12,11 +12,11 @@
 /// A season of work in minutes: whatever a terminal keeps and writes stays within its bounds, and nothing is lost. An
 /// hour of work takes some seconds, and the whole season about half an hour:
 ///
-///     TZ=UTC GLIBC_TUNABLES=glibc.malloc.tcache_count=0 CABSETTINGS_TEST_LENGTH=500 QTEST_FUNCTION_TIMEOUT=14400000
-///     build/default/tests/host/season/Season
+///     TZ=UTC GLIBC_TUNABLES=glibc.malloc.tcache_count=0:glibc.malloc.arena_max=1 CABSETTINGS_TEST_LENGTH=500
+///     QTEST_FUNCTION_TIMEOUT=14400000 build/default/tests/host/season/Season
 ///
-/// What the C library keeps for each thread counts as memory in use, and fills slowly up to some hundred kilobytes. The
-/// tunable leaves it out.
+/// What the C library keeps for each thread counts as memory in use, and its heap for each thread gets holes: both grow
+/// slowly up to a bound. The tunables leave them out.
 class Season : public QObject
 {
     Q_OBJECT
