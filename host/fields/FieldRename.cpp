@@ -63,7 +63,8 @@ bool IsEntry(const QString& name)
     return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") && !name.contains(Separator);
 }
 
-/// A note without a path when @p json is none, or has names that lead elsewhere.
+/// A note without a path, and of no parameter, when @p json is none, has names that lead elsewhere, or parameters that
+/// select nothing: another program may have written it.
 tagNote FromJson(const QByteArray& json)
 {
     const QJsonObject object = QJsonDocument::fromJson(json).object();
@@ -72,15 +73,16 @@ tagNote FromJson(const QByteArray& json)
     for (const QJsonValue& name : path)
         note.path.append(name.toString());
     note.name = object.value(NameKey).toString();
-    if (!IsEntry(note.name) || !std::all_of(note.path.begin(), note.path.end(), IsEntry))
-        note.path.clear();
     const QJsonArray selection = object.value(SelectionKey).toArray();
     for (const QJsonValue& value : selection) {
         const QJsonObject change = value.toObject();
         note.selection.append({static_cast<EParamID>(change.value(ParameterKey).toInt()),
                                change.value(BeforeKey).toString(), change.value(AfterKey).toString()});
     }
-    return note;
+    const bool isOurs = IsEntry(note.name) && std::all_of(note.path.begin(), note.path.end(), IsEntry) &&
+                        std::all_of(note.selection.begin(), note.selection.end(),
+                                    [](const auto& change) { return FieldSelection::Selects(change.parameter); });
+    return isOurs ? note : tagNote();
 }
 
 /// Whether the library gives a file of an item called @p name the name @p file: "J_1.cov", "J_1_PPD.pbz".

@@ -4,6 +4,9 @@
 #include "fields/FieldPlaces.h"
 #include "stores/TPersistenceHold.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace FieldSelection {
 
 namespace {
@@ -35,6 +38,13 @@ bool Store(TParameterStore& store, const QList<tagChange>& changes, Value value)
 }
 
 } // namespace
+
+bool Selects(EParamID parameter)
+{
+    return std::any_of(std::begin(FieldPlaces::Levels), std::end(FieldPlaces::Levels),
+                       [&](const FieldPlaces::tagLevel& level) { return level.parameter == parameter; }) ||
+           std::find(std::begin(ItemsOfField), std::end(ItemsOfField), parameter) != std::end(ItemsOfField);
+}
 
 QStringList Active()
 {

@@ -18,6 +18,9 @@ struct tagChange
     QString after;
 };
 
+/// Whether the parameter is one of a selection.
+bool Selects(EParamID parameter);
+
 /// The names of the active client, farm, field and job, up to the first that is not selected.
 QStringList Active();
 

@@ -15,6 +15,8 @@ private slots:
     void aRenamingThatWasCutOffIsFinished_data();
     void aRenamingThatWasCutOffIsFinished();
     void aNoteThatIsNoneIsRemoved();
+    void aNoteOfOthersChangesNothing_data();
+    void aNoteOfOthersChangesNothing();
 };
 
 namespace {
@@ -276,6 +278,35 @@ void FieldRenames::aNoteThatIsNoneIsRemoved()
     QCOMPARE(terminal.Tree().Rename(TFieldTerminal::Path("Smith"), QLatin1String("Jones"), &terminal.error),
              FIELD_DONE);
     QCOMPARE(terminal.Files(), List("Jones/North/F1/F1.ini"));
+}
+
+void FieldRenames::aNoteOfOthersChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("path");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("parameter");
+    QTest::newRow("another parameter") << QByteArray("Smith") << QByteArray("Jones") << int(PARAM_ACTIVE_VEHICLE);
+    QTest::newRow("no parameter") << QByteArray("Smith") << QByteArray("Jones") << -5;
+    QTest::newRow("a name above") << QByteArray("..") << QByteArray("Jones") << int(PARAM_FARM);
+    QTest::newRow("a new name elsewhere") << QByteArray("Smith") << QByteArray("../Jones") << int(PARAM_FARM);
+}
+
+void FieldRenames::aNoteOfOthersChangesNothing()
+{
+    QFETCH(QByteArray, path);
+    QFETCH(QByteArray, name);
+    QFETCH(int, parameter);
+    TFieldTerminal terminal;
+    terminal.MakeFile("Smith/North/F1/F1.ini");
+    const EParamID changed = static_cast<EParamID>(parameter);
+    terminal.Store().SetParameter(changed, QString(QLatin1String("")), true);
+    terminal.MakeFile(Note, "{\"path\": [\"" + path + "\"], \"name\": \"" + name +
+                                "\", \"selection\": [{\"parameter\": " + QByteArray::number(parameter) +
+                                ", \"before\": \"foreign\", \"after\": \"foreign\"}]}");
+    QCOMPARE(terminal.Tree().Rename(TFieldTerminal::Path("Smith"), QLatin1String("Miller"), &terminal.error),
+             FIELD_DONE);
+    QCOMPARE(terminal.Store().GetParameter(changed).toString(), QString(QLatin1String("")));
+    QCOMPARE(terminal.Files(), List("Miller/North/F1/F1.ini"));
 }
 
 QTEST_GUILESS_MAIN(FieldRenames)
