@@ -12,18 +12,18 @@
 #include <shapefil.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
+#include <utility>
 
 namespace {
 
 constexpr qint64 MostBytes = qint64{256} * 1024 * 1024; ///< of a file of zones
+constexpr char Name[] = "zones.shp";                    ///< in memory
 constexpr int HeaderBytes = 100;
 constexpr int LengthPlace = 24;      ///< of a file, in words of two bytes
 constexpr int RowBytes = 8;          ///< of the index: the place of a record and the length of its content, in words
 constexpr int RecordHeaderBytes = 8; ///< the number of the record, from 1, and the length of its content, in words
-
-/// In the order in which they are written: with the shapes, the new zones are there.
-constexpr const char* Extensions[] = {"dbf", "shx", "shp"};
 
 struct tagCloser
 {
@@ -31,8 +31,6 @@ struct tagCloser
     void operator()(SHPObject* shape) const { SHPDestroyObject(shape); }
     void operator()(DBFHandle table) const { DBFClose(table); }
 };
-constexpr char Name[] = "zones.shp"; ///< in memory
-
 using TShapeFile = std::unique_ptr<std::remove_pointer_t<SHPHandle>, tagCloser>;
 using TShape = std::unique_ptr<SHPObject, tagCloser>;
 using TTable = std::unique_ptr<std::remove_pointer_t<DBFHandle>, tagCloser>;
@@ -210,14 +208,18 @@ bool WriteExclusionZones(const QString& path, const std::vector<TGeoRing>& zones
     }
     TShapeFiles files;
     SAHooks hooks = TShapeFiles::Hooks();
-    QString reason;
-    if (!MakeFolderDurably(QFileInfo(path).path(), &reason) || !WriteShapes(zones, &hooks)) {
+    if (!MakeFolderDurably(QFileInfo(path).path(), error))
+        return false;
+    if (!WriteShapes(zones, &hooks)) {
         *error = QString::fromLatin1("cannot write %1").arg(path);
         return false;
     }
-    for (const char* extension : Extensions) {
-        if (!DurableFiles::Write(Beside(path, extension), files[extension], error))
-            return false;
-    }
-    return true;
+    // With the shapes, the new zones are there. An old index is replaced after them: it can be made from new shapes,
+    // but the new one not from old shapes, which another program may have numbered in its way.
+    std::array<const char*, 3> extensions = {"dbf", "shx", "shp"};
+    if (QFile::exists(Beside(path, "shx")))
+        std::swap(extensions[1], extensions[2]);
+    return std::all_of(extensions.begin(), extensions.end(), [&](const char* extension) {
+        return DurableFiles::Write(Beside(path, extension), files[extension], error);
+    });
 }

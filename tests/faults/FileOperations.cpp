@@ -142,6 +142,19 @@ void PrepareOld(const QString& folder)
         qFatal("%s", qPrintable(error));
 }
 
+/// The old zones were written by a program that numbers its records from 0.
+void PrepareZones(const QString& folder)
+{
+    QString error;
+    const QString path = Path(folder, "Zones/F1/F1.shp");
+    if (!WriteZones(path, 0, &error))
+        qFatal("%s", qPrintable(error));
+    QFile file(path);
+    const qint64 firstRecord = 100;
+    if (!file.open(QIODevice::ReadWrite) || !file.seek(firstRecord) || file.write(QByteArray(4, '\0')) != 4)
+        qFatal("cannot write %s", qPrintable(path));
+}
+
 void PrepareNothing(const QString& folder) { QDir().mkpath(folder); }
 
 template <const tagWholeFile& File>
@@ -278,7 +291,7 @@ std::vector<tagOperation> FileOperations()
         Replacing<Outline>("boundary"),
         Replacing<Machine>("implement"),
         Making<Zones>("first exclusion zones"),
-        Replacing<Zones>("exclusion zones"),
+        {"exclusion zones", &PrepareZones, &WriteNew<Zones>, &BrokenFile<Zones, true>, false, true, 1},
         Replacing<Profile>("export of a profile"),
         {"first coverage", &PrepareNothing, &AppendCoverage, &BrokenCoverage<0>, false, true, 1},
         {"coverage", &PrepareCoverage, &AppendCoverage, &BrokenCoverage<OldStrips>, false, true, 1},
