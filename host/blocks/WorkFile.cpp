@@ -69,7 +69,7 @@ std::optional<QByteArray> WorkFile::Read(const QString& path, const tagKind& kin
     error->clear();
     QFile file;
     if (!Open(path, &file)) {
-        if (errno == EINVAL) // a pipe or a device
+        if (errno == EINVAL) // a pipe, a device or a folder
             *error = NotOfKind(path, kind);
         else if (errno != ENOENT && errno != ENOTDIR)
             *error = DurableFiles::SystemReason(QLatin1String("cannot read"), path);

@@ -50,7 +50,7 @@ QByteArray ChecksumReadBack(int file)
     return lseek(file, 0, SEEK_SET) == 0 ? Checksum(file) : QByteArray();
 }
 
-/// A copy with the time of today is a copy too.
+/// A failure is ignored: the content is what counts.
 void TakeOverTime(const struct stat& source, int file)
 {
     const struct timespec times[] = {source.st_atim, source.st_mtim};

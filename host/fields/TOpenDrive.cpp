@@ -42,7 +42,8 @@ bool TOpenDrive::HasLink(const QString& relative) const
         path += name + Separator;
         struct stat status = {};
         const QByteArray entry = Path(path.chopped(1)).toUtf8();
-        return lstat(entry.constData(), &status) == 0 && S_ISLNK(status.st_mode);
+        // What cannot be looked at may be one.
+        return lstat(entry.constData(), &status) == 0 ? S_ISLNK(status.st_mode) : errno != ENOENT && errno != ENOTDIR;
     });
 }
 

@@ -44,7 +44,11 @@ TTcpAttempt::TTcpAttempt()
     connect(&m_Patience, &QTimer::timeout, this, [this] { GiveUp(ETIMEDOUT); });
 }
 
-TTcpAttempt::~TTcpAttempt() { Cancel(); }
+TTcpAttempt::~TTcpAttempt()
+{
+    m_Notifier.reset(); // no event loop may be there to delete it later
+    Cancel();
+}
 
 void TTcpAttempt::Begin(const QString& host, quint16 port)
 {

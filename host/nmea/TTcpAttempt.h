@@ -21,8 +21,8 @@ public:
     TTcpAttempt();
     ~TTcpAttempt() override;
 
-    /// Begins an attempt; what is left of an earlier one is dropped. Exactly one of the signals follows, also before
-    /// this returns.
+    /// Begins an attempt; what is left of an earlier one is dropped. One of the signals follows, unless Cancel() is
+    /// called; it may be emitted before this returns.
     void Begin(const QString& host, quint16 port);
 
     /// Ends the attempt without a signal.

@@ -22,7 +22,7 @@ const char Letters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123
 const int LettersOfName = 6;
 const int Attempts = 10;
 
-/// What cabsettings makes is for the operator alone to change, also where the umask lets everybody.
+/// Others never get the permission to write, whatever the umask.
 const mode_t Permissions = S_IRWXU | S_IRWXG | S_IROTH | S_IXOTH;
 
 QByteArray NewName()

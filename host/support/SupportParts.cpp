@@ -239,7 +239,7 @@ QList<tagSupportMember> SupportMembers()
                             }});
         }
         for (const TLogSeries::tagFile& file : files) {
-            // A file of another kind, whose name the operator chose, has no name that is safe in an archive.
+            // Only names that the log itself gives are safe in an archive.
             if (!file.number || series.GetName(*file.number) != file.name)
                 continue;
             const QString path = series.GetPath(file.name);

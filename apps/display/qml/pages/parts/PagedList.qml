@@ -69,7 +69,7 @@ FocusScope {
         measure()
     }
 
-    // For a row that is to be seen first: as many rows as possible stand above it.
+    // Shows the row with as many rows above it as fit.
     function openAt(index) {
         view.positionViewAtIndex(index, ListView.End)
         beginWithWholeRow()
