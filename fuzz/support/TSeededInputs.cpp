@@ -87,8 +87,8 @@ void TSeededInputs::Change(QByteArray& input)
         input.remove(at, 1 + Below(MostPieceBytes));
         break;
     case CHANGE_REPEAT: {
-        const QByteArray piece = input.mid(Below(size), 1 + Below(MostPieceBytes));
-        input.insert(at, piece);
+        const int length = 1 + Below(MostPieceBytes); // before its place is drawn, whatever the compiler
+        input.insert(at, input.mid(Below(size), length));
         break;
     }
     case CHANGE_SPLICE:

@@ -100,7 +100,7 @@ void AllFacadesAtOnce::eightThreadsLoseAndMixNothing_data()
     QTest::addColumn<int>("threads");
     QTest::addColumn<int>("rounds");
     // First, so that also the first use of everything is by several threads.
-    QTest::newRow("eight threads") << TestLength() << FacadeThreads::Most << 4;
+    QTest::newRow("eight threads") << TestLength() << FacadeThreads::Most << 6;
     // For tools that do not know how the first use of a static variable is guarded.
     QTest::newRow("one thread") << 1 << 1 << 1;
     QTest::newRow("eight threads after one") << 1 << FacadeThreads::Most << 1;

@@ -32,13 +32,15 @@ int WaitForEachOther()
 {
     TWatchdog watchdog(2, WatchdogLimit, Hint);
     std::atomic<int> holders{0};
+    std::atomic<int> watched{0};
     const auto lockBoth = [&](int thread, const char* name, QMutex& outer, QMutex& inner) {
         LockRecord::NameThread(name);
-        watchdog.Begins(thread, "LockBoth");
         outer.lock();
         ++holders;
-        while (holders < 2)
+        while (holders < 2 || watched < thread) // the first thread is the first that is watched, and reported
             std::this_thread::yield();
+        watchdog.Begins(thread, "LockBoth");
+        ++watched;
         inner.lock();
     };
     std::thread one(lockBoth, 0, "thread 0", std::ref(First), std::ref(Second));

@@ -73,8 +73,9 @@ void DocumentedTranscripts::transcriptsAreTrue()
     }
     QVERIFY(!isInside);
     // The table of parameters is tested where the commands for it are; how fast the library is, the bench has measured.
-    const QStringList withoutTranscript = {QLatin1String("display.md"), QLatin1String("languages.md"),
-                                           QLatin1String("parameters.md"), QLatin1String("performance.md"),
+    const QStringList withoutTranscript = {QLatin1String("display.md"),     QLatin1String("languages.md"),
+                                           QLatin1String("parameters.md"),  QLatin1String("performance.md"),
+                                           QLatin1String("reliability.md"), QLatin1String("threads.md"),
                                            QLatin1String("threats.md")};
     QVERIFY2(commands > 0 || withoutTranscript.contains(document), "there is a document without a transcript");
 }
