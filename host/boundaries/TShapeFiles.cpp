@@ -7,7 +7,7 @@
 
 namespace {
 
-thread_local TShapeFiles* ofThread = nullptr;
+thread_local TShapeFiles* FilesOfThread = nullptr;
 
 struct tagOpenFile
 {
@@ -78,7 +78,7 @@ struct tagShapeCalls
 {
     static SAFile Open(const char* name, const char* access)
     {
-        auto& files = ofThread->m_Files;
+        auto& files = FilesOfThread->m_Files;
         const std::string extension = ExtensionOf(name);
         if (*access == 'w')
             files[extension].clear();
@@ -87,8 +87,8 @@ struct tagShapeCalls
     }
 };
 
-TShapeFiles::TShapeFiles() { ofThread = this; }
-TShapeFiles::~TShapeFiles() { ofThread = nullptr; }
+TShapeFiles::TShapeFiles() { FilesOfThread = this; }
+TShapeFiles::~TShapeFiles() { FilesOfThread = nullptr; }
 
 SAHooks TShapeFiles::Hooks()
 {

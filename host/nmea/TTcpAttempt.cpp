@@ -56,7 +56,7 @@ void TTcpAttempt::Begin(const QString& host, quint16 port)
     m_Port = port;
     const QHostAddress address(host);
     if (address.isNull()) {
-        m_LookUp = QHostInfo::lookupHost(host, this, &TTcpAttempt::OnFound);
+        m_LookUp = QHostInfo::lookupHost(host, this, SLOT(OnFound(QHostInfo)));
         return;
     }
     m_Addresses = {address};

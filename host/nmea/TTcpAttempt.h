@@ -33,8 +33,10 @@ signals:
     void Connected(int socket);
     void Failed(const QString& reason);
 
-private:
+private slots:
     void OnFound(const QHostInfo& info);
+
+private:
     void TryNext();
     bool IsBegun(const QHostAddress& address);
     void OnAnswer();

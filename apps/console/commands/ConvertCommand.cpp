@@ -45,7 +45,7 @@ std::optional<tagColumn> ReadColumn(const QString& text)
     return number > 0 ? std::optional<tagColumn>({QString(), number - 1}) : std::nullopt;
 }
 
-const qint64 LongestLine = 1024 * 1024;
+const qint64 LongestLine = qint64{1024} * 1024;
 
 /// Converts one column of standard input to standard output, a line at a time.
 class TCsvConverter
