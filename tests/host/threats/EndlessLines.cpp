@@ -18,14 +18,6 @@
 
 #include <memory>
 
-// A sanitizer keeps memory that was freed, to see who still uses it; a little of it, for this program.
-#if defined(__SANITIZE_ADDRESS__)
-extern "C" __attribute__((visibility("default"))) const char* __asan_default_options()
-{
-    return "quarantine_size_mb=8";
-}
-#endif
-
 namespace {
 
 constexpr qint64 MostKilobytes = 16 * 1024;
