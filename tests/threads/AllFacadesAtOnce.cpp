@@ -197,7 +197,7 @@ void AllFacadesAtOnce::CheckQuantities()
 void AllFacadesAtOnce::locksAreTakenInTheDocumentedOrder()
 {
     if (!LockRecord::SeesLocks)
-        QSKIP("Qt 6 locks inline, so that its locks cannot be seen");
+        QSKIP("the locks cannot be told from those of Qt, or not be seen");
     const auto documented = LockOrder::Documented(Latin1(CABSETTINGS_THREADS_PAGE), "Order of locks");
     QVERIFY(!documented.empty());
     const QStringList faults = LockOrder::Faults(documented, LockRecord::Pairs());

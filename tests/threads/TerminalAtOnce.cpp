@@ -263,7 +263,7 @@ void TerminalAtOnce::eightThreadsLoseAndMixNothing()
 void TerminalAtOnce::locksAreTakenInTheDocumentedOrder()
 {
     if (!LockRecord::SeesLocks)
-        QSKIP("Qt 6 locks inline, so that its locks cannot be seen");
+        QSKIP("the locks cannot be told from those of Qt, or not be seen");
     const auto documented = LockOrder::Documented(Latin1(CABSETTINGS_THREADS_PAGE), "Order of locks in the ready host");
     QVERIFY(!documented.empty());
     const QStringList faults = LockOrder::Faults(documented, m_Pairs);
