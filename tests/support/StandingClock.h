@@ -1,9 +1,8 @@
 #pragma once
 
-#include <ctime>
+#include "SystemClock.h"
 
-#include <sys/syscall.h>
-#include <unistd.h>
+#include <ctime>
 
 /// The clock CLOCK_MONOTONIC_COARSE of the program that includes this, in one of its files: it stands still until the
 /// test moves it. The other clocks go as ever.
@@ -21,9 +20,5 @@ extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t cl
         time->tv_nsec = static_cast<long>(StandingClock::milliseconds % 1000 * 1000000);
         return 0;
     }
-#if defined(SYS_clock_gettime64)
-    return static_cast<int>(syscall(SYS_clock_gettime64, clock, time));
-#else
-    return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
-#endif
+    return ReadSystemClock(clock, time);
 }

@@ -1,4 +1,5 @@
 #include "../../system/TPrivateMounts.h"
+#include "MemoryFolder.h"
 #include "StoreTestSupport.h"
 #include "SystemCalls.h"
 #include "TTemporaryFolder.h"

@@ -1,3 +1,4 @@
+#include "MemoryFolder.h"
 #include "StoreTestSupport.h"
 #include "SystemCalls.h"
 #include "TTemporaryFolder.h"

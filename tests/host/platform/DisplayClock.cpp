@@ -1,3 +1,5 @@
+#include "SystemClock.h"
+
 #include "platform/TLocalTime.h"
 #include "region/TRegionSettingsProxy.h"
 #include "stores/TParameterStore.h"
@@ -5,22 +7,12 @@
 
 #include <QtTest>
 
-#include <sys/syscall.h>
-#include <unistd.h>
-
 #include <atomic>
 #include <ctime>
 
 namespace {
 
 const qint64 Running = -1;
-
-// On 32-bit machines times have 64 bits here.
-#ifdef SYS_clock_gettime64
-const long ClockCall = SYS_clock_gettime64;
-#else
-const long ClockCall = SYS_clock_gettime;
-#endif
 
 /// Milliseconds since 1970 at which the machine's clock stands still, or Running.
 std::atomic<qint64> StoppedAt{Running};
@@ -32,7 +24,7 @@ extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t cl
 {
     const qint64 stoppedAt = StoppedAt;
     if (clock != CLOCK_REALTIME || stoppedAt == Running)
-        return static_cast<int>(syscall(ClockCall, clock, now));
+        return ReadSystemClock(clock, now);
     now->tv_sec = static_cast<time_t>(stoppedAt / 1000);
     now->tv_nsec = static_cast<decltype(now->tv_nsec)>(stoppedAt % 1000 * 1000000);
     return 0;

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "SystemClock.h"
+
 #include <atomic>
 #include <ctime>
 
-#include <sys/syscall.h>
 #include <sys/time.h>
-#include <unistd.h>
 
 /// The machine's clock, which tells the time of day, of the program that includes this, in one of its files: it stands
 /// where the test has put it. The clocks that measure time go as ever.
@@ -25,11 +25,7 @@ extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t cl
         time->tv_nsec = static_cast<long>(now % 1000 * 1000000);
         return 0;
     }
-#if defined(SYS_clock_gettime64)
-    return static_cast<int>(syscall(SYS_clock_gettime64, clock, time));
-#else
-    return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
-#endif
+    return ReadSystemClock(clock, time);
 }
 
 extern "C" __attribute__((visibility("default"))) int gettimeofday(timeval* time, void*) noexcept

@@ -25,12 +25,6 @@ std::unique_ptr<QTemporaryDir> MakeFolder()
     return folder->isValid() ? std::move(folder) : std::make_unique<QTemporaryDir>();
 }
 
-void KeepTemporaryFilesInMemory()
-{
-    if (MakeFolder()->path().startsWith(QLatin1String("/dev/shm/")))
-        qputenv("TMPDIR", "/dev/shm");
-}
-
 std::unique_ptr<TSqliteStore> OpenStore(const QString& path)
 {
     QString error;

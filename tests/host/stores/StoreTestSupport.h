@@ -19,9 +19,6 @@ inline EParamID Param(int id) { return static_cast<EParamID>(id); }
 /// a folder for temporary files, in that one.
 std::unique_ptr<QTemporaryDir> MakeFolder();
 
-/// Lets the temporary folders of this program be in memory in the same way.
-void KeepTemporaryFilesInMemory();
-
 /// Opens a store. When that fails, the reason is a warning of the test.
 std::unique_ptr<TSqliteStore> OpenStore(const QString& path);
 
