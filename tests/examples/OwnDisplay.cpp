@@ -1,5 +1,8 @@
 #include "TQuickTerminal.h"
 
+#include "parameters/HostParameters.h"
+#include "sun/EDaySwitching.h"
+
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -39,7 +42,8 @@ void Press(QQuickWindow* window, const QString& text)
 
 void OwnDisplay::itsButtonsSwitchUnitsAndColors()
 {
-    const TQuickTerminal terminal;
+    // By hand: after sunset on the simulator's field the first sentences would switch the colours to night.
+    const TQuickTerminal terminal({{PARAM_DAY_SWITCHING, DAY_SWITCHING_BY_HAND}});
     const QQmlApplicationEngine engine(QUrl::fromLocalFile(QString::fromUtf8(CABSETTINGS_OWN_DISPLAY)));
     QCOMPARE(static_cast<int>(engine.rootObjects().size()), 1);
     auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().first());
