@@ -183,8 +183,7 @@ bool WritePageOrOverlay(const TDisplaySession& session, const QString& name, con
 {
     auto* const display = session.Window()->findChild<QQuickItem*>(QStringLiteral("display"));
     if (const tagPage* const page = FindPage(name)) {
-        display->setProperty("section", QLatin1String(page->section));
-        display->setProperty("page", QLatin1String(page->door));
+        OpenPage(*session.Window(), *page);
         return WritePicture(*display, path, error);
     }
     const tagOverlay& overlay = *FindOverlay(name);
