@@ -3253,6 +3253,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Wird gelesen</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Wird geschrieben</translation>
     </message>

@@ -3253,6 +3253,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Leyendo</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Escribiendo</translation>
     </message>

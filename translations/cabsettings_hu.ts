@@ -3249,6 +3249,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Olvasás</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Írás</translation>
     </message>

@@ -3249,6 +3249,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>読み込み中</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>書き込み中</translation>
     </message>

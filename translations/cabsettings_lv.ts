@@ -3257,6 +3257,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Lasa</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Raksta</translation>
     </message>

@@ -3253,6 +3253,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Lezen</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Schrijven</translation>
     </message>

@@ -3261,6 +3261,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Branje</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Zapisovanje</translation>
     </message>

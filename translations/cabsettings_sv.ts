@@ -3253,6 +3253,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>Läser</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>Skriver</translation>
     </message>

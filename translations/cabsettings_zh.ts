@@ -3249,6 +3249,10 @@
 <context>
     <name>TransferState</name>
     <message>
+        <source>Reading</source>
+        <translation>正在读取</translation>
+    </message>
+    <message>
         <source>Writing</source>
         <translation>正在写入</translation>
     </message>

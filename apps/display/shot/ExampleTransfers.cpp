@@ -138,6 +138,11 @@ void ExampleTransfers::SetProfileFailed(TSqliteStore& /*store*/, bool isThere)
 
 void ExampleTransfers::SetProfiles(TSqliteStore& store, bool isThere) { ShowImport(store, isThere, {}); }
 
+void ExampleTransfers::SetImportRunning(TSqliteStore& store, bool isThere)
+{
+    ShowImport(store, isThere, {Progress, {}, {}, {}});
+}
+
 void ExampleTransfers::SetImportDone(TSqliteStore& store, bool isThere)
 {
     const QString done =

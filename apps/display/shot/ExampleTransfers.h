@@ -20,6 +20,7 @@ void SetProfileFailed(TSqliteStore& store, bool isThere);
 /// The stick has three profiles. The first one is of another terminal and can be opened: it changes some settings, one
 /// of which was changed here, too.
 void SetProfiles(TSqliteStore& store, bool isThere);
+void SetImportRunning(TSqliteStore& store, bool isThere);
 void SetImportDone(TSqliteStore& store, bool isThere);
 void SetImportFailed(TSqliteStore& store, bool isThere);
 

@@ -58,6 +58,13 @@ inline constexpr std::array Overlays = {
     tagOverlay{"profile-done", "settings-profiles", {}, "", "transferEnd", false, ExampleTransfers::SetProfileDone},
     tagOverlay{"profile-failed", "settings-profiles", {}, "", "transferEnd", false, ExampleTransfers::SetProfileFailed},
     tagOverlay{"import", "settings-profiles", {"profile"}, "", "difference", false, ExampleTransfers::SetProfiles},
+    tagOverlay{"import-running",
+               "settings-profiles",
+               {"profile"},
+               "",
+               "transferRunning",
+               false,
+               ExampleTransfers::SetImportRunning},
     tagOverlay{
         "import-done", "settings-profiles", {"profile"}, "", "transferEnd", false, ExampleTransfers::SetImportDone},
     tagOverlay{

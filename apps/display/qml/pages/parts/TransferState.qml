@@ -9,6 +9,8 @@ Item {
     id: state
 
     property var transfer
+    // From the stick, rather than to it.
+    property bool isReading: false
 
     readonly property bool isRunning: transfer.state === Transfer.Running
 
@@ -20,7 +22,7 @@ Item {
         objectName: "transferRunning"
         width: parent.width
         visible: state.isRunning
-        title: qsTr("Writing")
+        title: state.isReading ? qsTr("Reading") : qsTr("Writing")
         text: qsTr("Leave the stick where it is until this is done.")
         fraction: state.transfer.progress
     }

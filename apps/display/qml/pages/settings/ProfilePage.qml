@@ -37,6 +37,7 @@ SettingsPanel {
         id: state
         width: parent.width
         transfer: transfer
+        isReading: true
     }
 
     TextLabel {
