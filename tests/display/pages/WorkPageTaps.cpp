@@ -49,6 +49,8 @@ private slots:
     void aLockedScreenTakesNoTaps();
     void everySizeShowsWhatIsNeeded_data() { AddSizes(); }
     void everySizeShowsWhatIsNeeded();
+    void aLongMessageCoversNothing_data() { AddSizes(); }
+    void aLongMessageCoversNothing();
     void everyTileIsReached_data() { AddSizes(); }
     void everyTileIsReached();
 
@@ -320,6 +322,37 @@ void WorkPageTaps::everySizeShowsWhatIsNeeded()
             QVERIFY2(!place.adjusted(-7, -7, 7, 7).intersects(other), name);
         places.append(place);
     }
+}
+
+/// The page gets lower. What floats on the map stays apart, and the row of buttons has one margin at both ends.
+void WorkPageTaps::aLongMessageCoversNothing()
+{
+    QFETCH(const QSize, size);
+    Resize(size);
+    QCOMPARE(m_Work->loadLine(QLatin1String(DemoField::Line)), QString());
+    const QLatin1String key("example");
+    CabQuick::SetProblem(key,
+                         QString::fromLatin1("The coverage is kept in memory until it can be stored. ").repeated(4));
+    QTRY_VERIFY(Find("problem") && Find("linePanel"));
+    QTRY_VERIFY(SceneRect(*Find("linePanel")).top() >= SceneRect(*Find("problem")).bottom());
+    QMap<QString, QRectF> places;
+    for (const char* const name : {"linePanel", "turnTiles", "zoomIn", "zoomOut", "turn", "recentre", "setA", "setB",
+                                   "lines", "mark", "working", "tile.rate"}) {
+        const QQuickItem* const item = Find(name);
+        if (!item && qstrcmp(name, "turnTiles") == 0)
+            continue; // a large window shows all tiles
+        QVERIFY2(item, name);
+        const QRectF place = SceneRect(*item);
+        QVERIFY2(QRectF(QPointF(0, 0), QSizeF(size)).contains(place), name);
+        for (auto other = places.constBegin(); other != places.constEnd(); ++other)
+            QVERIFY2(!place.adjusted(-5, -5, 5, 5).intersects(other.value()),
+                     qPrintable(QLatin1String(name) + QLatin1String(" is on ") + other.key()));
+        places.insert(QLatin1String(name), place);
+    }
+    if (places[QLatin1String("working")].top() == places[QLatin1String("setA")].top() && size.width() == 480)
+        QCOMPARE(size.width() - places[QLatin1String("working")].right(), places[QLatin1String("zoomIn")].left());
+    CabQuick::ClearProblem(key);
+    QTRY_VERIFY(!Find("problem"));
 }
 
 /// All tiles that are chosen show, on as many pages as the window needs, each within the window and beside the others.

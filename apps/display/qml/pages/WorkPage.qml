@@ -86,9 +86,12 @@ Item {
 
         readonly property real from: mapButtons.x + mapButtons.width
 
-        x: from + (page.free.width - from - width) / 2
+        readonly property real to: turner.visible && !turner.isBeside ? turner.x - Sizes.gap + Sizes.margin
+                                                                      : page.free.width
+
+        x: from + (to - from - width) / 2
         y: Sizes.margin
-        room: page.free.width - from - 2 * Sizes.margin
+        room: to - from - 2 * Sizes.margin
         // Without a position no line is followed.
         visible: Work.hasLine && Work.hasPosition
     }
@@ -111,8 +114,10 @@ Item {
     MapButtons {
         id: mapButtons
 
-        // In a window of 480 px, seven buttons in a row leave less of a margin.
-        x: Math.min(Sizes.margin, (page.width - 7 * Sizes.target - 6 * Sizes.gap) / 2)
+        // All buttons at the foot: in a window of 480 px they leave less of a margin.
+        readonly property real rowWidth: width + lineButtons.width + working.width + 2 * Sizes.gap
+
+        x: page.isLow ? Math.min(Sizes.margin, (page.width - rowWidth) / 2) : Sizes.margin
         y: Sizes.margin
         room: page.freeHeight - 2 * Sizes.margin
         map: map
@@ -162,12 +167,15 @@ Item {
         onChosen: page.openSettings("tiles")
     }
     TileTurner {
-        // A message that takes room moves the buttons of the line to the right.
+        id: turner
+
+        // A message that takes room moves the buttons of the line to the right. Where the turner has no room beside
+        // them, it stands beside the light bar: above them there is none either below a long message.
         readonly property real from: page.isLow ? working.x + working.width + Sizes.gap : 0
         readonly property bool isBeside: from + width <= page.free.width
 
         x: isBeside ? Math.max(page.free.width - width - Sizes.margin, from) : page.free.width - width - Sizes.margin
-        y: page.free.height - height - Sizes.margin - (isBeside ? 0 : Sizes.target + Sizes.gap)
+        y: isBeside ? page.free.height - height - Sizes.margin : Sizes.margin
         tiles: tiles
     }
 }
