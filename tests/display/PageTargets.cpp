@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-/// What a finger is to hit on any page is large enough, and apart from what is beside it.
+/// What a finger is to hit on any page is large enough, and apart from what is beside it and from the text above it.
 class PageTargets : public QObject
 {
     Q_OBJECT
@@ -20,6 +20,9 @@ namespace {
 const int LeastSize = 76;
 const int LeastSizeOfLowScreen = 60;
 const double LeastGap = 8;
+
+/// Between the line of a text and what is below it: the tail of a letter that reaches a button looks like a part of it.
+const double LeastGapBelowText = 2;
 
 /// Places are at fractions of a pixel.
 const double Tolerance = 0.51;
@@ -44,6 +47,15 @@ double Gap(const QRectF& first, const QRectF& second)
     return std::max(0.0, std::max(across, along));
 }
 
+bool Touches(const QQuickItem& text, const QQuickItem& target)
+{
+    const QRectF letters = VisibleItems::Letters(text);
+    const QRectF place = VisibleItems::SeenPart(target);
+    const bool isAbove = letters.center().y() < place.top() && place.top() - letters.bottom() < LeastGapBelowText;
+    const bool isInColumn = letters.left() < place.right() && letters.right() > place.left();
+    return isAbove && isInColumn && VisibleItems::Layer(text) == VisibleItems::Layer(target);
+}
+
 } // namespace
 
 void PageTargets::areLargeEnoughAndApart_data() { AddSizes(); }
@@ -61,11 +73,17 @@ void PageTargets::areLargeEnoughAndApart()
     for (const QString& view : TOpenDisplay::Views()) {
         display.Show(view);
         const QList<QQuickItem*> targets = VisibleItems::Targets(display.Content());
+        const QList<QQuickItem*> texts = VisibleItems::Texts(display.Content());
         QVERIFY(!targets.isEmpty());
         for (const QQuickItem* target : targets) {
             const QRectF whole = VisibleItems::WholePart(*target);
             if (std::min(whole.width(), whole.height()) < least - Tolerance)
                 found.append(view + QLatin1String(": ") + VisibleItems::Describe(*target) + QLatin1String(" is small"));
+            for (const QQuickItem* text : texts) {
+                if (Touches(*text, *target))
+                    found.append(view + QLatin1String(": ") + VisibleItems::Describe(*text) +
+                                 QLatin1String(" touches ") + VisibleItems::Describe(*target));
+            }
         }
         for (int first = 0; first < targets.size(); ++first) {
             for (int second = first + 1; second < targets.size(); ++second) {

@@ -12,15 +12,6 @@ namespace {
 const int LeastText = 24;
 const int LeastFigure = 48;
 
-/// What of the display a text belongs to: the pages, or the questions above them.
-const QQuickItem* Layer(const QQuickItem& text)
-{
-    const QQuickItem* item = &text;
-    while (item->parentItem() && item->parentItem()->objectName() != QLatin1String("display"))
-        item = item->parentItem();
-    return item;
-}
-
 /// Texts of a layer that have letters on those of another one.
 void LookForOverlaps(const QList<QQuickItem*>& texts, const QString& view, QStringList* found)
 {
@@ -31,7 +22,8 @@ void LookForOverlaps(const QList<QQuickItem*>& texts, const QString& view, QStri
             const QQuickItem& other = *texts.at(second);
             const QRectF shared = VisibleItems::Letters(one) & VisibleItems::SeenPart(one) &
                                   VisibleItems::Letters(other) & VisibleItems::SeenPart(other);
-            if (Layer(one) == Layer(other) && shared.width() > tolerance && shared.height() > tolerance)
+            if (VisibleItems::Layer(one) == VisibleItems::Layer(other) && shared.width() > tolerance &&
+                shared.height() > tolerance)
                 found->append(view + QLatin1String(": ") + VisibleItems::Describe(one) + QLatin1String(" is on ") +
                               VisibleItems::Describe(other));
         }

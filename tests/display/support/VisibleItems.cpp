@@ -130,6 +130,14 @@ QQuickItem* VisibleItems::Named(QQuickItem& root, const QString& name)
     return nullptr;
 }
 
+const QQuickItem* VisibleItems::Layer(const QQuickItem& item)
+{
+    const QQuickItem* layer = &item;
+    while (layer->parentItem() && layer->parentItem()->objectName() != QLatin1String("display"))
+        layer = layer->parentItem();
+    return layer;
+}
+
 QString VisibleItems::Text(const QQuickItem& item)
 {
     return item.property(item.inherits("QQuickTextInput") ? "displayText" : "text").toString();

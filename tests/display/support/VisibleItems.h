@@ -34,6 +34,9 @@ QQuickItem* Target(QQuickItem& root, const QString& name);
 /// Loader has made is found too: it is a child for the eye alone.
 QQuickItem* Named(QQuickItem& root, const QString& name);
 
+/// What of the display an item belongs to: the pages, or the questions above them.
+const QQuickItem* Layer(const QQuickItem& item);
+
 /// The text that the item shows.
 QString Text(const QQuickItem& item);
 

@@ -26,7 +26,8 @@ Item {
         moved(isRound ? (to + 1) % 1 : Math.max(0, Math.min(1, to)))
     }
 
-    implicitHeight: label.height + Sizes.target
+    // The tails of the title's letters end above the buttons.
+    implicitHeight: label.height + Sizes.gap / 2 + Sizes.target
 
     TextLabel {
         id: label
@@ -37,6 +38,7 @@ Item {
     IconButton {
         id: less
         anchors.top: label.bottom
+        anchors.topMargin: Sizes.gap / 2
         icon: "minus"
         accessibleName: qsTr("%1: less").arg(bar.title)
         enabled: bar.isRound || bar.value > 0
@@ -45,7 +47,7 @@ Item {
 
     IconButton {
         id: more
-        anchors.top: label.bottom
+        anchors.top: less.top
         anchors.right: parent.right
         icon: "plus"
         accessibleName: qsTr("%1: more").arg(bar.title)
