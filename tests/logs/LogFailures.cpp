@@ -22,6 +22,9 @@ private slots:
     void lostLinesAreCounted();
     void linesOfACutOffWriteAreCounted_data();
     void linesOfACutOffWriteAreCounted();
+    void onlyWhatIsNotWrittenIsLost_data();
+    void onlyWhatIsNotWrittenIsLost();
+    void openingAnOpenLogIsNoFailure();
     void theFacadeTellsAndReopens();
 };
 
@@ -189,6 +192,55 @@ void LogFailures::linesOfACutOffWriteAreCounted()
     }
     QCOMPARE(log.GetState().lostLines, static_cast<long long>(lost));
     QCOMPARE(log.GetState().isOpen, true);
+}
+
+void LogFailures::onlyWhatIsNotWrittenIsLost_data()
+{
+    QTest::addColumn<int>("stagingSize");
+    QTest::addColumn<int>("room");
+    QTest::addColumn<int>("lost");
+    QTest::newRow("straight to the file, nothing") << 0 << 12 << 3;
+    QTest::newRow("straight to the file, a letter") << 0 << 13 << 3;
+    QTest::newRow("straight to the file, a line") << 0 << 14 << 2;
+    QTest::newRow("straight to the file, two lines") << 0 << 16 << 1;
+    QTest::newRow("behind the staged ones, nothing") << 14 << 12 << 3;
+    QTest::newRow("behind the staged ones, a letter") << 14 << 13 << 3;
+    QTest::newRow("behind the staged ones, a line") << 14 << 14 << 2;
+    QTest::newRow("behind the staged ones, two lines") << 14 << 16 << 1;
+}
+
+void LogFailures::onlyWhatIsNotWrittenIsLost()
+{
+    QFETCH(int, stagingSize);
+    QFETCH(int, room);
+    QFETCH(int, lost);
+    const TLogRoom logRoom;
+    TDiagnosticLog log(stagingSize, 1000, 4, logRoom.parameter);
+    QVERIFY(log.Restore(logRoom.Base(), 0, 0));
+    // Lines stand before and behind those that are logged: whoever counts in the wrong place counts these.
+    const QByteArray others(40, '\n');
+    const QByteArray lines("j\nk\nl\n");
+    const QByteArray data = others + lines + others;
+    {
+        const TFileSizeLimit limit(room);
+        QVERIFY(limit.IsSet());
+        QVERIFY(Log(log, "abcdefghijk\n"));
+        QVERIFY(!log.LogDiagnostic(data.constData() + others.size(), static_cast<int>(lines.size())));
+    }
+    QCOMPARE(log.GetState().lostLines, static_cast<long long>(lost));
+}
+
+void LogFailures::openingAnOpenLogIsNoFailure()
+{
+    const TLogRoom room;
+    TDiagnosticLog log(0, 10, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    QVERIFY(!log.Open());
+    QVERIFY(!log.GetState().hasFailed);
+
+    TDiagnosticLog unnamed(0, 10, 4, room.parameter);
+    QVERIFY(!unnamed.Open());
+    QVERIFY(!unnamed.GetState().hasFailed);
 }
 
 void LogFailures::theFacadeTellsAndReopens()

@@ -6,14 +6,21 @@
 
 #include <QtTest>
 
-#include <cerrno>
+#include <dirent.h>
 #include <dlfcn.h>
+#include <sys/stat.h>
+
+#include <cerrno>
 
 namespace {
 
 /// The value of errno with which fstatat() fails for the file of this number; 0 when it works.
 int statError = 0;
 const char* const UnknownFile = "user00002.log";
+
+/// The value of errno with which readdir() fails after this many entries; 0 when it works.
+int readError = 0;
+int entriesBefore = 0;
 
 } // namespace
 
@@ -32,6 +39,16 @@ extern "C" __attribute__((visibility("default"))) int fstatat(int folder, const 
     return original(folder, name, status, flags);
 }
 
+extern "C" __attribute__((visibility("default"))) dirent* readdir(DIR* folder)
+{
+    static const auto original = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir64"));
+    if (readError != 0 && entriesBefore-- == 0) {
+        errno = readError;
+        return nullptr;
+    }
+    return original(folder);
+}
+
 /// What a tool learns of the files of a log: the same as the log itself goes by.
 class LogFileList : public QObject
 {
@@ -42,11 +59,15 @@ private slots:
     void filesAreListedFromTheOldestToTheNewest();
     void theFileWrittenLastIsTheNewestOfEqualOnes();
     void aFileIsListedWithItsSizeTimeAndNumber();
+    void aTimeIsToldInWholeMilliseconds();
+    void whatTheListHeldBeforeIsGone();
     void theLogGoesOnInTheLastFileOfTheList_data();
     void theLogGoesOnInTheLastFileOfTheList();
     void aMissingFolderHasNoFiles();
     void aFileOfWhichNothingIsKnownIsMissed_data();
     void aFileOfWhichNothingIsKnownIsMissed();
+    void aFolderIsReadToItsEndOrMissed_data();
+    void aFolderIsReadToItsEndOrMissed();
     void aLinkToNothingIsNoFile();
     void aNumberIsWrittenInFiveDigits_data();
     void aNumberIsWrittenInFiveDigits();
@@ -81,6 +102,10 @@ const struct
      "user00009.log user00010.log user00011.log"},
     {"round the last number", "user00001.log@1 user99999.log@1 user99998.log@1",
      "user99998.log user99999.log user00001.log"},
+    {"round the last number, to zero", "user00000.log@1 user99998.log@1 user00001.log@1",
+     "user99998.log user00000.log user00001.log"},
+    {"half of all numbers apart", "user00001.log@1 user50000.log@1", "user00001.log user50000.log"},
+    {"more than half of them apart", "user00001.log@1 user50001.log@1", "user50001.log user00001.log"},
     {"without a number", "user00001.log@1 userguide.log@1 user.log@1", "user.log userguide.log user00001.log"},
     {"without a number, but newer", "user00001.log@1 userguide.log@2", "user00001.log userguide.log"},
     {"of others", "user00001.log@1 other00002.log@2 user00003.txt@3 user00004.log.bak@4", "user00001.log"},
@@ -129,6 +154,26 @@ void LogFileList::aFileIsListedWithItsSizeTimeAndNumber()
     QVERIFY(!files[1].number);
 }
 
+void LogFileList::aTimeIsToldInWholeMilliseconds()
+{
+    const TLogRoom room;
+    room.MakeFile(1, 10, 0);
+    const timespec times[2] = {{1700000007, 500000000}, {1700000007, 500000000}};
+    QCOMPARE(utimensat(AT_FDCWD, QFile::encodeName(room.Path(room.Numbered(1))).constData(), times, 0), 0);
+    QCOMPARE(TLogSeries(room.Base()).GetFiles().front().modified, qint64(1700000007500));
+}
+
+void LogFileList::whatTheListHeldBeforeIsGone()
+{
+    const TLogRoom room;
+    MakeFiles(room, Latin1("user00001.log@1"));
+    const TLogSeries series(room.Base());
+    std::vector<TLogSeries::tagFile> files;
+    QVERIFY(series.ReadFiles(QString(), &files));
+    QVERIFY(series.ReadFiles(QString(), &files));
+    QCOMPARE(Names(files), Latin1("user00001.log"));
+}
+
 void LogFileList::theLogGoesOnInTheLastFileOfTheList_data() { filesAreListedFromTheOldestToTheNewest_data(); }
 
 void LogFileList::theLogGoesOnInTheLastFileOfTheList()
@@ -161,7 +206,8 @@ void LogFileList::aFileOfWhichNothingIsKnownIsMissed_data()
     QTest::addColumn<int>("error");
     QTest::addColumn<bool>("isRead");
     QTest::newRow("cannot be read") << EIO << false;
-    QTest::newRow("not permitted") << EACCES << false;
+    QTest::newRow("access denied") << EACCES << false;
+    QTest::newRow("not permitted") << EPERM << false;
     QTest::newRow("removed meanwhile") << ENOENT << true;
 }
 
@@ -184,6 +230,30 @@ void LogFileList::aFileOfWhichNothingIsKnownIsMissed()
     QVERIFY(isRead || reason == error);
     QCOMPARE(Names(files), Latin1("user00001.log user00003.log"));
     QCOMPARE(result.allCopied, isRead);
+}
+
+void LogFileList::aFolderIsReadToItsEndOrMissed_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::newRow("nothing is read") << 0;
+    QTest::newRow("one entry is read") << 1;
+    QTest::newRow("the end is not read") << 5; // behind both folders and three files
+}
+
+void LogFileList::aFolderIsReadToItsEndOrMissed()
+{
+    QFETCH(int, before);
+    const TLogRoom room;
+    MakeFiles(room, Latin1("user00001.log@1 user00002.log@2 user00003.log@3"));
+    std::vector<TLogSeries::tagFile> files;
+    entriesBefore = before;
+    readError = EIO;
+    const bool isRead = TLogSeries(room.Base()).ReadFiles(QString(), &files);
+    const int reason = errno;
+    readError = 0;
+    QVERIFY(!isRead);
+    QCOMPARE(reason, EIO);
+    QCOMPARE(entriesBefore, -1);
 }
 
 void LogFileList::aLinkToNothingIsNoFile()

@@ -17,13 +17,19 @@ private slots:
     void countAndLimitStayAsTheyWere();
     void whatIsStagedGoesToTheOtherFile();
     void withoutAnotherFileTheLogHasFailed();
+    void anEmptyWriteLooksToo();
     void aFileThatIsThereIsKept();
+    void aFileThatIsThereIsKeptBesideANewerOne();
     void theFileIsLookedAtOnceASecond();
+    void aSecondHasAThousandWholeMilliseconds_data();
+    void aSecondHasAThousandWholeMilliseconds();
 };
 
 namespace {
 
 int Looks = 0; ///< calls of fstat()
+
+const long long Second = 1000000000; // nanoseconds
 
 const int StagingSizes[] = {0, 5, 100};
 
@@ -55,7 +61,7 @@ void LogRemovedFile::aQuietLogLosesNoLine()
     QVERIFY(Log(log, "first\n"));
     log.FlushTempBuffer();
     Remove(room, 1);
-    StandingClock::milliseconds += 1000;
+    StandingClock::nanoseconds += Second;
     QVERIFY(Log(log, "second\n"));
     log.Close();
     QCOMPARE(room.FileList(), QString::fromLatin1("user00002.log"));
@@ -72,7 +78,7 @@ void LogRemovedFile::aBusyLogNoticesWithinASecond()
     int linesBefore = 0;
     for (; room.Files().isEmpty() && linesBefore < 100; ++linesBefore) {
         QVERIFY(Log(log, "line\n"));
-        StandingClock::milliseconds += 100;
+        StandingClock::nanoseconds += Second / 10;
     }
     QCOMPARE(linesBefore, 11); // ten in the first second, and the one that went to the next file
     QCOMPARE(room.FileList(), QString::fromLatin1("user00002.log"));
@@ -90,7 +96,7 @@ void LogRemovedFile::theLogGoesOnInTheFileOfTheSecondWriter()
         QVERIFY(Log(busy, "more than ten\n"));
     QCOMPARE(room.FileList(), QString::fromLatin1("user00003.log user00004.log"));
 
-    StandingClock::milliseconds += 5000;
+    StandingClock::nanoseconds += 5 * Second;
     QVERIFY(Log(quiet, "quiet\n"));
     QCOMPARE(room.FileList(), QString::fromLatin1("user00003.log user00004.log"));
     QCOMPARE(room.Content(4), QByteArray("quiet\n"));
@@ -103,7 +109,7 @@ void LogRemovedFile::countAndLimitStayAsTheyWere()
     QVERIFY(log.Restore(room.Base(), 1, 50));
     QVERIFY(Log(log, Bytes(20)));
     QVERIFY(QFile::remove(room.Base()));
-    StandingClock::milliseconds += 1000;
+    StandingClock::nanoseconds += Second;
     QVERIFY(Log(log, Bytes(40)));
     QCOMPARE(room.FileList(), QString::fromLatin1("user.log"));
     QCOMPARE(room.Content(QLatin1String("user.log")), Bytes(40));
@@ -116,7 +122,7 @@ void LogRemovedFile::whatIsStagedGoesToTheOtherFile()
     QVERIFY(log.Restore(room.Base(), 0, 0));
     QVERIFY(Log(log, "staged\n"));
     Remove(room, 1);
-    StandingClock::milliseconds += 1000;
+    StandingClock::nanoseconds += Second;
     QVERIFY(Log(log, "written\n"));
     QCOMPARE(room.FileList(), QString::fromLatin1("user00002.log"));
     QCOMPARE(room.Content(2), QByteArray("staged\nwritten\n"));
@@ -129,7 +135,7 @@ void LogRemovedFile::withoutAnotherFileTheLogHasFailed()
     QVERIFY(log.Restore(room.Base(), 0, 0));
     Remove(room, 1);
     QVERIFY(QDir().rmdir(room.folder.Path(QLatin1String("logs"))));
-    StandingClock::milliseconds += 1000;
+    StandingClock::nanoseconds += Second;
     QVERIFY(!Log(log, "lost\n"));
     QVERIFY(!log.GetState().isOpen);
     QVERIFY(log.GetState().hasFailed);
@@ -141,17 +147,41 @@ void LogRemovedFile::withoutAnotherFileTheLogHasFailed()
     QCOMPARE(room.Content(2), QByteArray("kept\n"));
 }
 
+void LogRemovedFile::anEmptyWriteLooksToo()
+{
+    const TLogRoom room;
+    TDiagnosticLog log(0, 100, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    Remove(room, 1);
+    StandingClock::nanoseconds += Second;
+    QVERIFY(log.WriteToLog("", 0));
+    QCOMPARE(room.FileList(), QString::fromLatin1("user00002.log"));
+}
+
 void LogRemovedFile::aFileThatIsThereIsKept()
 {
     const TLogRoom room;
     TDiagnosticLog log(0, 100, 4, room.parameter);
     QVERIFY(log.Restore(room.Base(), 0, 0));
     for (int line = 0; line < 3; ++line) {
-        StandingClock::milliseconds += 2000;
+        StandingClock::nanoseconds += 2 * Second;
         QVERIFY(Log(log, "line\n"));
     }
     QCOMPARE(room.FileList(), QString::fromLatin1("user00001.log"));
     QCOMPARE(room.Content(1), QByteArray("line\nline\nline\n"));
+}
+
+void LogRemovedFile::aFileThatIsThereIsKeptBesideANewerOne()
+{
+    const TLogRoom room;
+    TDiagnosticLog log(0, 100, 4, room.parameter);
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    room.MakeFile(7, 3, 0);
+    room.SetModified(room.Numbered(1), -1);
+    StandingClock::nanoseconds += Second;
+    QVERIFY(Log(log, "line\n"));
+    QCOMPARE(room.Content(1), QByteArray("line\n"));
+    QCOMPARE(room.Content(7), QByteArray("xxx"));
 }
 
 void LogRemovedFile::theFileIsLookedAtOnceASecond()
@@ -162,9 +192,39 @@ void LogRemovedFile::theFileIsLookedAtOnceASecond()
     Looks = 0;
     for (int line = 0; line < 35; ++line) {
         QVERIFY(Log(log, "line\n"));
-        StandingClock::milliseconds += 100;
+        StandingClock::nanoseconds += Second / 10;
     }
     QCOMPARE(Looks, 3);
+}
+
+void LogRemovedFile::aSecondHasAThousandWholeMilliseconds_data()
+{
+    QTest::addColumn<qint64>("opened");
+    QTest::addColumn<qint64>("written");
+    QTest::addColumn<int>("looks");
+    const qint64 ms = 1000000;
+    QTest::newRow("999 ms") << 500 * ms << 1499 * ms << 0;
+    QTest::newRow("999 ms and a part") << 500 * ms << 1500 * ms - 1 << 0;
+    QTest::newRow("1000 ms") << 500 * ms << 1500 * ms << 1;
+    QTest::newRow("1000 ms by whole ones") << 500 * ms + ms - 1 << 1500 * ms << 1;
+    QTest::newRow("a later second") << 2000 * ms << 3000 * ms << 1;
+    QTest::newRow("a later second, 999 ms") << 2001 * ms << 3000 * ms << 0;
+}
+
+void LogRemovedFile::aSecondHasAThousandWholeMilliseconds()
+{
+    QFETCH(qint64, opened);
+    QFETCH(qint64, written);
+    QFETCH(int, looks);
+    const TLogRoom room;
+    TDiagnosticLog log(0, 1000, 4, room.parameter);
+    const long long start = StandingClock::nanoseconds - StandingClock::nanoseconds % Second;
+    StandingClock::nanoseconds = start + opened;
+    QVERIFY(log.Restore(room.Base(), 0, 0));
+    Looks = 0;
+    StandingClock::nanoseconds = start + written;
+    QVERIFY(Log(log, "line\n"));
+    QCOMPARE(Looks, looks);
 }
 
 int main(int argc, char** argv) { return RunCoreTest<LogRemovedFile>(argc, argv); }

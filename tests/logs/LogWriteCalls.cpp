@@ -164,6 +164,7 @@ void LogWriteCalls::aWriteGoesOnWhereItBrokeOff_data()
         {"short, full", "2F", "6 4", "ab"},
         {"interrupted, full", "EF", "6 6", ""},
         {"takes nothing", "0", "6", ""},
+        {"interrupted, takes nothing", "E0", "6 6", ""}, // errno still tells of the interruption
         {"short, takes nothing", "50", "6 1", "abcde"},
     };
     for (const auto& row : rows)
@@ -263,6 +264,7 @@ void LogWriteCalls::aLineLongerThanTheBufferIsAWriteOfItsOwn_data()
     QTest::addColumn<int>("length");
     QTest::addColumn<QByteArray>("calls");
     QTest::newRow("as long") << 9 << 10 << QByteArray("19");
+    QTest::newRow("as long, a byte staged") << 1 << 10 << QByteArray("11");
     QTest::newRow("longer") << 9 << 11 << QByteArray("9 11");
     QTest::newRow("much longer") << 1 << 1000 << QByteArray("1 1000");
     QTest::newRow("longer, nothing staged") << 0 << 11 << QByteArray("11");

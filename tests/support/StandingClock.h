@@ -8,7 +8,7 @@
 /// test moves it. The other clocks go as ever.
 struct StandingClock
 {
-    static inline long long milliseconds = 1000000;
+    static inline long long nanoseconds = 1000000000000;
 };
 
 // Found before that of the C library, by the library under test too.
@@ -16,8 +16,8 @@ struct StandingClock
 extern "C" __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
     if (clock == CLOCK_MONOTONIC_COARSE) {
-        time->tv_sec = static_cast<time_t>(StandingClock::milliseconds / 1000);
-        time->tv_nsec = static_cast<long>(StandingClock::milliseconds % 1000 * 1000000);
+        time->tv_sec = static_cast<time_t>(StandingClock::nanoseconds / 1000000000);
+        time->tv_nsec = static_cast<long>(StandingClock::nanoseconds % 1000000000);
         return 0;
     }
     return ReadSystemClock(clock, time);
