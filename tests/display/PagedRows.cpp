@@ -16,6 +16,8 @@ private slots:
     void everyRowIsReached();
     void theWayBackShowsTheFirstRows();
     void theKeysOfPagesTurnThem();
+    void aColourIsChangedOnOnePage_data();
+    void aColourIsChangedOnOnePage();
 };
 
 namespace {
@@ -107,6 +109,26 @@ void PagedRows::theKeysOfPagesTurnThem()
     QVERIFY(!Seen(display).contains(first.first()));
     display.Press(Qt::Key_PageUp);
     QCOMPARE(Seen(display), first);
+}
+
+void PagedRows::aColourIsChangedOnOnePage_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("800x480") << QSize(800, 480);
+    QTest::newRow("480x800") << QSize(480, 800);
+    QTest::newRow("1280x800") << QSize(1280, 800);
+}
+
+/// All bars are seen with what they change.
+void PagedRows::aColourIsChangedOnOnePage()
+{
+    QFETCH(const QSize, size);
+    TOpenDisplay display(size);
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    display.MakeExample();
+    display.Show(QLatin1String("color"));
+    for (const char* const bar : {"Hue", "Saturation", "Lightness"})
+        QVERIFY2(VisibleItems::Target(display.Content(), QLatin1String(bar)), bar);
 }
 
 QTEST_MAIN(PagedRows)

@@ -24,7 +24,7 @@ SettingsPanel {
     // All bars are on one page with what they change: in a low one, two are side by side.
     readonly property bool isLow: Sizes.isCompact && !Sizes.isPortrait
     // A slim one has the buttons below the title.
-    readonly property int between: Sizes.isSlim ? Sizes.gap / 4 : Sizes.gap
+    readonly property int between: Sizes.isSlim ? Sizes.gap / 4 : isLow ? Sizes.gap / 2 : Sizes.gap
     // Of the bar of hues, which is not to dazzle.
     readonly property real brightness: Scheme.isDay ? 0.5 : 0.3
 
