@@ -46,8 +46,11 @@ Panel {
         width: tile.inner
 
         Item {
-            // Words that are too wide together get narrower letters, which stay as high as others.
-            readonly property real squeeze: Math.min(1, (width - Sizes.gap) / (name.implicitWidth + unit.implicitWidth))
+            // Words that are too wide together get narrower letters, which stay as high as others. Letters that are
+            // narrower still cannot be read: the end of the title is left out.
+            readonly property real narrowest: 0.75
+            readonly property real wanted: (width - Sizes.gap) / (name.implicitWidth + unit.implicitWidth)
+            readonly property real squeeze: Math.max(narrowest, Math.min(1, wanted))
 
             width: parent.width
             height: Math.round(Sizes.text * 1.4)
@@ -55,7 +58,11 @@ Panel {
             TextLabel {
                 id: name
 
+                objectName: "title"
                 anchors.bottom: parent.bottom
+                width: parent.wanted >= parent.narrowest ? implicitWidth
+                       : Math.max(0, (parent.width - Sizes.gap) / parent.squeeze - unit.implicitWidth)
+                elide: Text.ElideRight
                 text: tile.title
                 muted: true
                 transform: Scale { xScale: name.parent.squeeze }
