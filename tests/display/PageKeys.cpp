@@ -85,6 +85,9 @@ QQuickItem* CoverOf(const TOpenDisplay& display, const QString& view)
     return shown && shown->metaObject()->indexOfMethod("close()") >= 0 ? shown : nullptr;
 }
 
+/// As any first key after a tap: this one does nothing else.
+void ShowFocus(QQuickWindow& window) { QTest::keyClick(&window, Qt::Key_Shift); }
+
 /// Presses Tab or Shift+Tab until the focus is where it began. Says what is wrong on the way.
 QStringList Walk(const TOpenDisplay& display, const QString& view, bool isForward)
 {
@@ -103,6 +106,7 @@ QStringList Walk(const TOpenDisplay& display, const QString& view, bool isForwar
         else if (!IsHeardByKeypad(*target))
             found.append(name + QLatin1String(" is no stop"));
     }
+    ShowFocus(window);
     QQuickItem* const cover = CoverOf(display, view);
     // The last stop: the first one may be a button that turns a list, which goes away at the list's end.
     QQuickItem* const first = TabFocus(cover ? cover : &display.Content(), nullptr, false);
@@ -168,6 +172,8 @@ private slots:
     void returnToWhereTheyWere_data();
     void returnToWhereTheyWere();
     void goOnWhenWhatTheyActOnGoesAway();
+    void showTheirFrameUntilATap_data();
+    void showTheirFrameUntilATap();
     void reachNothingBelowTheLock();
     void walkThroughLists();
     void turnPagesOfLists_data();
@@ -246,6 +252,7 @@ void PageKeys::doWhatATapDoes()
         if (key == 0) {
             display.Tap(place.center());
         } else {
+            ShowFocus(display.Window());
             TabFocus(&display.Content(), item, true)->forceActiveFocus(Qt::TabFocusReason);
             const QImage before = display.Picture().copy(place.toRect());
             item->forceActiveFocus(Qt::TabFocusReason);
@@ -332,6 +339,45 @@ void PageKeys::goOnWhenWhatTheyActOnGoesAway()
     display.Tap(QPointF(400, 300));
     display.ShowPage(QLatin1String("receiver"));
     QVERIFY(!isSeen()); // who works by taps sees no focus
+}
+
+void PageKeys::showTheirFrameUntilATap_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Tab") << int(Qt::Key_Tab);
+    QTest::newRow("arrow") << int(Qt::Key_Left);
+    QTest::newRow("Enter") << int(Qt::Key_Return);
+    QTest::newRow("space bar") << int(Qt::Key_Space);
+}
+
+/// The first key after a tap shows where the focus is, and does not act on what was not seen.
+void PageKeys::showTheirFrameUntilATap()
+{
+    QFETCH(const int, key);
+    TOpenDisplay display(QSize(1280, 800));
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    Activate(display);
+    display.Show(QLatin1String("settings-units"));
+    QQuickItem* const stop = FindStop(display.Content(), QLatin1String("door.logs"));
+    QVERIFY(stop);
+    QVERIFY(!RingOf(*stop));
+    display.Press(Qt::Key_Tab);
+    stop->forceActiveFocus(Qt::TabFocusReason);
+    QVERIFY(RingOf(*stop));
+
+    QVERIFY(display.Tap(QLatin1String("Acre")));
+    QCOMPARE(display.Window().activeFocusItem(), stop);
+    QVERIFY(!RingOf(*stop));
+    QSignalSpy clicked(stop, SIGNAL(clicked()));
+    display.Press(static_cast<Qt::Key>(key));
+    QCOMPARE(display.Window().activeFocusItem(), stop);
+    QVERIFY(RingOf(*stop));
+    QCOMPARE(clicked.count(), 0);
+
+    display.Press(Qt::Key_Left);
+    QQuickItem* const next = display.Window().activeFocusItem();
+    QVERIFY(next != stop);
+    QCOMPARE(WhatIsUnseen(*next), QString());
 }
 
 /// Escape leads from any page to the map, but not from a screen that is locked.

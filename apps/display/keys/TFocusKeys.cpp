@@ -25,6 +25,10 @@ constexpr std::array Arrows = {
     tagArrow{Qt::Key_Down, FOCUS_DOWN},
 };
 
+/// Move the focus, or act on what has it.
+constexpr std::array ActingKeys = {Qt::Key_Left,    Qt::Key_Right,  Qt::Key_Up,    Qt::Key_Down, Qt::Key_Tab,
+                                   Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space};
+
 const tagArrow* ArrowOf(int key)
 {
     const auto* const arrow =
@@ -72,15 +76,33 @@ void TFocusKeys::Watch(QQuickWindow* window)
 bool TFocusKeys::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
-        m_IsByKeys = false;
+        SetByKeys(false);
     if (event->type() == QEvent::KeyPress) {
         const auto& key = *static_cast<const QKeyEvent*>(event);
         KeepFocusLater();
-        if (MoveByTab(key))
+        if (ShowFocus(key) || MoveByTab(key))
             return true;
-        m_IsByKeys = m_IsByKeys || ArrowOf(key.key());
     }
     return QQuickItem::eventFilter(watched, event);
+}
+
+void TFocusKeys::SetByKeys(bool isByKeys)
+{
+    if (isByKeys == m_IsByKeys)
+        return;
+    m_IsByKeys = isByKeys;
+    emit byKeysChanged();
+}
+
+/// Returns whether that is all that the key does. A field of text has a cursor that is seen at all times.
+bool TFocusKeys::ShowFocus(const QKeyEvent& event)
+{
+    if (m_IsByKeys)
+        return false;
+    SetByKeys(true);
+    const QQuickItem* const item = m_Window->activeFocusItem();
+    const bool isFramed = item && IsFocusStop(*item) && !(item->flags() & ItemAcceptsInputMethod);
+    return isFramed && std::find(ActingKeys.begin(), ActingKeys.end(), event.key()) != ActingKeys.end();
 }
 
 /// Qt's own order takes the rows of a list in the order in which they were made, which scrolling changes.
@@ -89,7 +111,6 @@ bool TFocusKeys::MoveByTab(const QKeyEvent& event)
     const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
     if (!isTab || (event.modifiers() & ~Qt::ShiftModifier) != Qt::NoModifier)
         return false;
-    m_IsByKeys = true;
     const bool isForward = event.key() == Qt::Key_Tab && !(event.modifiers() & Qt::ShiftModifier);
     Reveal(m_Window->activeFocusItem(), isForward);
     if (QQuickItem* const next = TabFocus(this, m_Window->activeFocusItem(), isForward))

@@ -15,15 +15,25 @@
 /// While keys are used, the item with the focus is always in view: when it goes away, is disabled or scrolled away, or
 /// a page or question takes the focus without a stop of its own, the focus goes to its "firstStop", or to the stop
 /// nearest to the last one. Taps move no focus, except to a field that is typed into.
+///
+/// byKeys says whether keys are used: what has the focus is framed then. A tap ends it. The first key after that shows
+/// where the focus is: an arrow, Tab, Enter or the space bar does nothing else when the focus was not framed, so that
+/// no key acts on what is not seen.
 class TFocusKeys : public QQuickItem
 {
     Q_OBJECT
+    Q_PROPERTY(bool byKeys READ IsByKeys NOTIFY byKeysChanged)
 
 public:
     explicit TFocusKeys(QQuickItem* parent = nullptr);
 
+    bool IsByKeys() const { return m_IsByKeys; }
+
     /// Sees the keys and taps of the window first.
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void byKeysChanged();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -31,6 +41,8 @@ protected:
 
 private:
     void Watch(QQuickWindow* window);
+    void SetByKeys(bool isByKeys);
+    bool ShowFocus(const QKeyEvent& event);
     bool MoveByTab(const QKeyEvent& event);
     void FollowFocus();
     void KeepFocusLater();
@@ -40,6 +52,6 @@ private:
     QPointer<QQuickItem> m_Stop; ///< that had the focus last
     QRectF m_Place;              ///< of that stop, in the scene
     std::array<QMetaObject::Connection, 2> m_StopChanges;
-    bool m_IsByKeys = false; ///< the focus was last moved by a key, and nothing was tapped since
+    bool m_IsByKeys = false; ///< a key was pressed, and nothing was tapped since
     bool m_IsKeeping = false;
 };

@@ -37,6 +37,7 @@ FocusKeys {
     Binding { target: Sizes; property: "width"; value: display.width }
     Binding { target: Sizes; property: "height"; value: display.height }
     Binding { target: Sizes; property: "overlay"; value: overlay }
+    Binding { target: Sizes; property: "byKeys"; value: display.byKeys }
     // Delayed: a field that moves asks the input method anew, which is just about to show the keyboard.
     Binding { target: Sizes; property: "keyboard"; value: keyboard.covered; delayed: true }
 

@@ -384,6 +384,7 @@ void WorkPageTaps::everyTileIsReached()
             places.append(place);
         }
         if (byKey) {
+            QTest::keyClick(m_Session->Window(), Qt::Key_Shift); // the first key after a tap shows the focus alone
             Find("turnTiles")->forceActiveFocus();
             QTest::keyClick(m_Session->Window(), Qt::Key_Return);
         } else {

@@ -2,14 +2,14 @@ import QtQuick 2.15
 import CabSettings 1.0
 import "."
 
-// The frame around what the keyboard acts on. Taps never move the focus to a button, so that it shows for keys alone.
+// The frame around what the keyboard or the knob acts on. A tap hides it, and the next key shows it again.
 //
 //     FocusRing { target: button }
 Rectangle {
     property Item target: parent
 
     anchors.fill: parent
-    visible: target.activeFocus
+    visible: target.activeFocus && Sizes.byKeys
     color: "transparent"
     radius: Sizes.radius
     border { width: 4 * Sizes.line; color: Scheme.focus }

@@ -1,8 +1,8 @@
 pragma Singleton
 import QtQuick 2.15
 
-// The sizes that all pages share, in pixels, for the size of the window. The window sets width, height, overlay and
-// keyboard.
+// The sizes that all pages share, in pixels, for the size of the window. The window sets width, height, overlay,
+// keyboard and byKeys.
 //
 //     width: Sizes.target
 //     anchors.margins: Sizes.gap
@@ -17,6 +17,8 @@ QtObject {
     property Item overlay: null
     // Of the keyboard on the screen; 0 while there is none. What is typed stands above it.
     property real keyboard: 0
+    // Keys or the knob are used, rather than a finger: what has the focus is framed.
+    property bool byKeys: false
 
     readonly property bool isPortrait: height > width
     // A window as low as 480 px: bands, titles and targets are smaller.
