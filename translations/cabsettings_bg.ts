@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Устройството не отговаря.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Това е връзка към друго място.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Към него има твърде много връзки.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

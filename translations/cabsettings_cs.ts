@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Zařízení neodpovídá.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Je to odkaz na jiné místo.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Vede na to příliš mnoho odkazů.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

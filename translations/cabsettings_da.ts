@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Apparatet svarer ikke.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Det er et link til et andet sted.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>For mange links fører dertil.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

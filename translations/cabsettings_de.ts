@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Das Gerät antwortet nicht.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Es ist eine Verknüpfung zu einem anderen Ort.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Es gibt zu viele Verknüpfungen dorthin.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

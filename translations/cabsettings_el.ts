@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Η συσκευή δεν απαντά.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Είναι σύνδεσμος προς άλλη θέση.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Υπάρχουν πάρα πολλοί σύνδεσμοι προς αυτό.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

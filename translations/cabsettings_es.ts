@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>El equipo no responde.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Es un enlace a otro lugar.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Hay demasiados enlaces que llevan a él.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

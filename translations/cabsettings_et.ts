@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Seade ei vasta.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>See on link teise kohta.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Sellele viitab liiga palju linke.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

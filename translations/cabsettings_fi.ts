@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Laite ei vastaa.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Se on linkki toiseen paikkaan.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Siihen johtaa liian monta linkkiä.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>L&apos;appareil ne répond pas.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>C&apos;est un lien vers un autre endroit.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Trop de liens y mènent.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

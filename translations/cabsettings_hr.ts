@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Uređaj ne odgovara.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>To je poveznica na drugo mjesto.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Previše poveznica vodi do toga.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

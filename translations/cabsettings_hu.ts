@@ -639,6 +639,14 @@
         <source>The device does not answer.</source>
         <translation>Az eszköz nem válaszol.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Ez egy másik helyre mutató hivatkozás.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Túl sok hivatkozás mutat rá.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Il dispositivo non risponde.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>È un collegamento a un altro posto.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Troppi collegamenti portano lì.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

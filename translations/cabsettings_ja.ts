@@ -639,6 +639,14 @@
         <source>The device does not answer.</source>
         <translation>機器が応答しません。</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>別の場所へのリンクです。</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>リンクが多すぎます。</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

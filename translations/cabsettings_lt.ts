@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Įrenginys neatsako.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Tai nuoroda į kitą vietą.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Į tai veda per daug nuorodų.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Ierīce neatbild.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Tā ir saite uz citu vietu.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Uz to ved pārāk daudz saišu.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

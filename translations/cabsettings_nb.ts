@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Apparatet svarer ikke.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Det er en lenke til et annet sted.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>For mange lenker fører dit.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Het apparaat antwoordt niet.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Het is een koppeling naar een andere plaats.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Er zijn te veel koppelingen naartoe.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

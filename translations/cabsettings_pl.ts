@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Urządzenie nie odpowiada.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>To jest dowiązanie do innego miejsca.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Prowadzi tam za dużo dowiązań.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

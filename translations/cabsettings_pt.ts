@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>O dispositivo não responde.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>É um link para outro lugar.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Há links demais que levam até lá.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Dispozitivul nu răspunde.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Este o legătură către alt loc.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Prea multe legături duc acolo.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

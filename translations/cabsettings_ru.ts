@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Устройство не отвечает.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Это ссылка на другое место.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>На это ведёт слишком много ссылок.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Zariadenie neodpovedá.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Je to odkaz na iné miesto.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Vedie na to priveľa odkazov.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -645,6 +645,14 @@
         <source>The device does not answer.</source>
         <translation>Naprava se ne odziva.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>To je povezava na drugo mesto.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Na to kaže preveč povezav.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

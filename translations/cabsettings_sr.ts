@@ -643,6 +643,14 @@
         <source>The device does not answer.</source>
         <translation>Uređaj ne odgovara.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>To je veza ka drugom mestu.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Previše veza vodi do toga.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

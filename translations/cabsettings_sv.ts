@@ -641,6 +641,14 @@
         <source>The device does not answer.</source>
         <translation>Apparaten svarar inte.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Det är en länk till en annan plats.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>För många länkar leder dit.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

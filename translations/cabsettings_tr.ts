@@ -639,6 +639,14 @@
         <source>The device does not answer.</source>
         <translation>Aygıt yanıt vermiyor.</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>Bu, başka bir yere giden bir bağlantı.</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>Buna giden çok fazla bağlantı var.</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

@@ -639,6 +639,14 @@
         <source>The device does not answer.</source>
         <translation>设备没有响应。</translation>
     </message>
+    <message>
+        <source>It is a link to another place.</source>
+        <translation>这是指向别处的链接。</translation>
+    </message>
+    <message>
+        <source>There are too many links to it.</source>
+        <translation>指向它的链接过多。</translation>
+    </message>
 </context>
 <context>
     <name>ItemActions</name>

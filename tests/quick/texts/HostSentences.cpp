@@ -238,9 +238,10 @@ void HostSentences::reasonsOfTheSystem_data()
 {
     QTest::addColumn<int>("number");
     for (const int number :
-         {ENOSPC, EDQUOT, EIO,     EROFS,     EACCES,       EPERM,      ENOENT,       ENODEV,      ENXIO,
-          EEXIST, EISDIR, ENOTDIR, ENOTEMPTY, ENAMETOOLONG, EFBIG,      EBUSY,        EAGAIN,      ETXTBSY,
-          EMFILE, ENFILE, ENOMEM,  EINVAL,    ECONNREFUSED, ECONNRESET, EHOSTUNREACH, ENETUNREACH, ETIMEDOUT})
+         {ENOSPC,       EDQUOT,     EIO,          EROFS,       EACCES,    EPERM,     ENOENT,   ENODEV,
+          ENXIO,        EEXIST,     EISDIR,       ENOTDIR,     ENOTEMPTY, ELOOP,     EMLINK,   ENAMETOOLONG,
+          EFBIG,        EBUSY,      EAGAIN,       ETXTBSY,     EMFILE,    ENFILE,    ENOMEM,   EINVAL,
+          ECONNREFUSED, ECONNRESET, EHOSTUNREACH, ENETUNREACH, ENETDOWN,  EHOSTDOWN, ETIMEDOUT})
         QTest::addRow("%d", number) << number;
 }
 
