@@ -14,8 +14,6 @@
 
 namespace {
 
-const qint64 MostBytes = qint64{64} * 1024 * 1024; ///< of a file that can be one of these
-
 QString Utf8(const char* text) { return QString::fromUtf8(text); }
 
 QString NotOfKind(const QString& path, const WorkFile::tagKind& kind)

@@ -1,5 +1,6 @@
 #include "boundaries/ExclusionZones.h"
 
+#include "blocks/WorkFile.h"
 #include "boundaries/TShapeFiles.h"
 #include "platform/RegularFile.h"
 #include "stores/DurableFiles.h"
@@ -14,12 +15,12 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace {
 
-constexpr qint64 MostBytes = qint64{256} * 1024 * 1024; ///< of a file of zones
-constexpr char Name[] = "zones.shp";                    ///< in memory
+constexpr char Name[] = "zones.shp"; ///< in memory
 constexpr int HeaderBytes = 100;
 constexpr int LengthPlace = 24;      ///< of a file, in words of two bytes
 constexpr int RowBytes = 8;          ///< of the index: the place of a record and the length of its content, in words
@@ -51,15 +52,23 @@ bool HasItsLength(const QByteArray& bytes)
     return bytes.size() >= HeaderBytes && Words(bytes, LengthPlace) <= bytes.size();
 }
 
-bool ReadWhole(const QString& path, QByteArray* bytes)
+QString Damage(const QString& path) { return QString::fromLatin1("%1 is damaged").arg(path); }
+
+/// Returns false, with @p error, when the file cannot be one of a shapefile.
+bool ReadWhole(const QString& path, QByteArray* bytes, QString* error)
 {
     QFile file;
     const int descriptor = OpenRegularFile(path.toUtf8());
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) ||
-        file.size() > MostBytes)
+    const bool isOpen = descriptor >= 0 && file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    if (isOpen && file.size() > WorkFile::MostBytes) {
+        *error = QString::fromLatin1("%1 is too large: it has %2 bytes, a file of exclusion zones has at most %3")
+                     .arg(path, QString::number(file.size()), QString::number(WorkFile::MostBytes));
         return false;
-    *bytes = file.readAll();
-    return HasItsLength(*bytes);
+    }
+    *bytes = isOpen ? file.readAll() : QByteArray();
+    if (!HasItsLength(*bytes))
+        *error = Damage(path);
+    return error->isEmpty();
 }
 
 /// The index of the records, one behind the other; empty when they are not.
@@ -83,8 +92,6 @@ QByteArray IndexOf(const QByteArray& shapes)
 }
 
 bool IsPolygon(int type) { return type == SHPT_POLYGON || type == SHPT_POLYGONZ || type == SHPT_POLYGONM; }
-
-QString Damage(const QString& path) { return QString::fromLatin1("%1 is damaged").arg(path); }
 
 TGeoRing Part(const SHPObject& shape, int part)
 {
@@ -168,12 +175,13 @@ std::optional<std::vector<TGeoRing>> ReadExclusionZones(const QString& path, QSt
     }
     TShapeFiles files;
     SAHooks hooks = TShapeFiles::Hooks();
-    const bool isWhole = ReadWhole(path, &files["shp"]) && ReadWhole(index, &files["shx"]);
+    if (!ReadWhole(path, &files["shp"], error) || !ReadWhole(index, &files["shx"], error))
+        return std::nullopt;
     // When writing was cut off, the index may be of other zones than the shapes, which are whole.
-    const QByteArray rebuilt = isWhole ? IndexOf(files["shp"]) : QByteArray();
+    const QByteArray rebuilt = IndexOf(files["shp"]);
     if (!rebuilt.isEmpty())
         files["shx"] = rebuilt;
-    const TShapeFile file(isWhole ? SHPOpenLL(Name, "rb", &hooks) : nullptr);
+    const TShapeFile file(SHPOpenLL(Name, "rb", &hooks));
     if (!file) {
         *error = Damage(path);
         return std::nullopt;

@@ -84,6 +84,7 @@ constexpr tagRow Host[] = {
     {"%1 has coordinates that are not degrees; expected WGS84",
      QT_TRANSLATE_NOOP("Host", "%1 has other coordinates than WGS84.")},
     {"%1 has no index: there is no %2", QT_TRANSLATE_NOOP("Host", "%1 is not complete. %2 is missing.")},
+    {"%1 is too large: it has %2 bytes, %3", QT_TRANSLATE_NOOP("Host", "The file is too large.")},
     {"%1 has no polygons", QT_TRANSLATE_NOOP("Host", "%1 has no areas.")},
     {"another program has %1 open", QT_TRANSLATE_NOOP("Host", "Another program uses %1.")},
     {"invalid guidance line; expected A and B from %1 m to %2 m apart",

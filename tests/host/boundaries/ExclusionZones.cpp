@@ -6,6 +6,10 @@
 
 #include <shapefil.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace {
 
 const std::vector<TGeoRing> Zones = {
@@ -38,6 +42,8 @@ private slots:
     void otherShapesAreRefused();
     void otherCoordinatesAreRefused();
     void theIndexOfOtherZonesIsNotUsed();
+    void filesThatAreTooLargeAreRefused_data();
+    void filesThatAreTooLargeAreRefused();
     void damagedFilesDoNoHarm_data();
     void damagedFilesDoNoHarm();
     void whatIsNoZoneIsNotWritten();
@@ -146,6 +152,29 @@ void ExclusionZones::theIndexOfOtherZonesIsNotUsed()
         QCOMPARE(again->at(i).size(), zones->at(i).size());
         QCOMPARE(again->at(i).front().latitude, zones->at(i).front().latitude);
     }
+}
+
+void ExclusionZones::filesThatAreTooLargeAreRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("shapes") << QString::fromLatin1("Zones/F1/F1.shp");
+    QTest::newRow("index") << QString::fromLatin1("Zones/F1/F1.shx");
+}
+
+/// What is behind the zones is a hole, and takes no space.
+void ExclusionZones::filesThatAreTooLargeAreRefused()
+{
+    QFETCH(QString, name);
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY(WriteExclusionZones(Path(folder), Zones, &error));
+    const qint64 most = qint64{64} * 1024 * 1024;
+    QVERIFY(QFile::resize(folder.Path(name), most));
+    QVERIFY2(ReadExclusionZones(Path(folder), &error), qPrintable(error));
+    QVERIFY(QFile::resize(folder.Path(name), most + 1));
+    QVERIFY(!ReadExclusionZones(Path(folder), &error));
+    QCOMPARE(error, folder.Path(name) + QLatin1String(" is too large: it has 67108865 bytes, a file of exclusion zones "
+                                                      "has at most 67108864"));
 }
 
 void ExclusionZones::damagedFilesDoNoHarm_data()
