@@ -19,7 +19,9 @@ const char Separator = ' ';
 const char End = '\n';           // a line of the note without it is incomplete
 const char Mark[] = "changed\n"; // the second line
 
-/// A file of another name must not be cut, which is done to a lock.
+/// Whether a lock's file has another name too. It may then be another program's file, and is not written. But a backup
+/// of the folder can be what has linked it, and that must not keep the store closed. So a new file with the same note
+/// takes the place of one that is not held: the death of a holder is still seen. One that is held is shared as it is.
 bool HasOtherName(int file)
 {
     struct stat status = {};
@@ -29,7 +31,7 @@ bool HasOtherName(int file)
 } // namespace
 
 TStoreLock::TStoreLock(const QString& path)
-    : m_Path(path), m_File(-1), m_IsAlone(false), m_WasLeftBehind(false), m_StaysBehind(false)
+    : m_Path(path), m_File(-1), m_IsAlone(false), m_IsOwn(false), m_WasLeftBehind(false), m_StaysBehind(false)
 {}
 
 TStoreLock::~TStoreLock()
@@ -42,6 +44,7 @@ TStoreLock::~TStoreLock()
 
 bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
 {
+    bool isReplaced = false;
     for (;;) {
         const QByteArray path = m_Path.toUtf8();
         m_File = Uninterrupted([&] {
@@ -49,16 +52,19 @@ bool TStoreLock::Take(const QDeadlineTimer& deadline, QString* reason)
             return open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
                         S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH);
         });
-        if (m_File >= 0 && HasOtherName(m_File)) {
-            Drop();
-            errno = EMLINK;
-        }
         if (m_File < 0) {
             *reason = DurableFiles::SystemReason(QLatin1String("cannot make"), m_Path);
             return false;
         }
         if (TryToTake())
             return true;
+        if (errno == EMLINK && !isReplaced) {
+            isReplaced = DurableFiles::Write(m_Path, Note(), reason);
+            Drop();
+            if (!isReplaced)
+                return false;
+            continue;
+        }
         const bool isTaken = errno == EWOULDBLOCK;
         if (!isTaken || deadline.hasExpired()) {
             *reason = isTaken
@@ -91,6 +97,11 @@ bool TStoreLock::TryToTake()
         errno = EWOULDBLOCK;
         return false;
     }
+    m_IsOwn = !HasOtherName(m_File);
+    if (m_IsAlone && !m_IsOwn) {
+        errno = EMLINK;
+        return false;
+    }
     m_WasLeftBehind = m_IsAlone && !Note().isEmpty();
     const off_t remainder = m_WasLeftBehind ? 1 : 0; // seen when this program is killed too, and no complete note
     return !m_IsAlone || Uninterrupted([&] { return ftruncate(m_File, remainder); }) == 0;
@@ -117,7 +128,7 @@ void TStoreLock::MarkChanged()
 {
     // Every holder writes the same bytes to the same place. Without the mark, the good copy is older than it could be.
     const int place = static_cast<int>(Note().indexOf(End)) + 1;
-    [[maybe_unused]] const bool isMarked = place > 0 && WriteAllAt(m_File, Mark, sizeof Mark - 1, place);
+    [[maybe_unused]] const bool isMarked = m_IsOwn && place > 0 && WriteAllAt(m_File, Mark, sizeof Mark - 1, place);
 }
 
 bool TStoreLock::IsMarkedChanged() const { return Note().endsWith(Mark); }

@@ -60,6 +60,7 @@ private:
     const QString m_Path;
     int m_File;
     bool m_IsAlone;
+    bool m_IsOwn; ///< the file had no other name when the lock was taken
     bool m_WasLeftBehind;
     bool m_StaysBehind;
 };

@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
 #include <thread>
 #include <unistd.h>
@@ -79,6 +80,8 @@ private slots:
     void aLockThatIsSharedBeforeTheFileIsReadyDoesNotCount();
     void theLockOfADeadProgramDoesNotCount();
     void aLockFileThatNobodyHoldsDoesNotCount();
+    void aLockFileWithAnotherNameIsReplaced();
+    void aLockFileThatIsHeldAndGetsAnotherNameIsShared();
 
     void theLastOneMakesTheGoodCopy();
     void ofThoseWhoCloseAtOnceOneMakesTheGoodCopy();
@@ -235,6 +238,42 @@ void StoreHasSeveralUsers::theLockOfADeadProgramDoesNotCount()
 void StoreHasSeveralUsers::aLockFileThatNobodyHoldsDoesNotCount()
 {
     SetFileBytes(m_Path + Lock, "1 2\n");
+    QVERIFY(OpenStore(m_Path) != nullptr);
+}
+
+void StoreHasSeveralUsers::aLockFileWithAnotherNameIsReplaced()
+{
+    const QString other = m_Folder->filePath(QLatin1String("other"));
+    QVERIFY(OpenStore(m_Path)->SetParameter(PARAM_METRIC, true, true));
+    SetFileBytes(m_Path + Good, "older");
+    SetFileBytes(other, "1 2\n");
+    QCOMPARE(link(QFile::encodeName(other).constData(), QFile::encodeName(m_Path + Lock).constData()), 0);
+    auto store = OpenStore(m_Path);
+    QVERIFY(store != nullptr);
+    QCOMPARE(StoredValues(m_Path + Good), (QMap<int, QVariant>{{PARAM_METRIC, true}})); // its holder had died
+    QVERIFY(OpenStore(m_Path) != nullptr);
+    QVERIFY(store->SetParameter(PARAM_METRIC, false, true));
+    store.reset();
+    QCOMPARE(FileBytes(other), QByteArray("1 2\n"));
+    QVERIFY(!QFile::exists(m_Path + Lock));
+}
+
+/// As a backup of the folder makes it that links the files.
+void StoreHasSeveralUsers::aLockFileThatIsHeldAndGetsAnotherNameIsShared()
+{
+    const QString other = m_Folder->filePath(QLatin1String("other"));
+    auto first = OpenStore(m_Path);
+    QCOMPARE(link(QFile::encodeName(m_Path + Lock).constData(), QFile::encodeName(other).constData()), 0);
+    const QByteArray before = FileBytes(other);
+    auto second = OpenStore(m_Path);
+    QVERIFY(second != nullptr);
+    QVERIFY(second->SetParameter(PARAM_METRIC, true, true));
+    QCOMPARE(FileBytes(other), before);
+    QTRY_COMPARE_WITH_TIMEOUT(first->GetParameter(PARAM_METRIC), QVariant(true), SoonMilliseconds);
+    first.reset();
+    second.reset();
+    QCOMPARE(StoredValues(m_Path + Good), (QMap<int, QVariant>{{PARAM_METRIC, true}}));
+    QVERIFY(!QFile::exists(m_Path + Lock));
     QVERIFY(OpenStore(m_Path) != nullptr);
 }
 
