@@ -1,7 +1,5 @@
 #include "nmea/TTcpSource.h"
 
-#include <QNetworkProxy>
-
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
@@ -36,7 +34,6 @@ const tagSocketOption WatchPeer[] = {
 
 TTcpSource::TTcpSource(const tagTcpAddress& address) : m_Address(address)
 {
-    m_Socket.setProxy(QNetworkProxy::NoProxy); // the receiver is in the cab: all_proxy does not apply
     m_Socket.setReadBufferSize(BufferSize);
     connect(&m_Attempt, &TTcpAttempt::Connected, this, &TTcpSource::OnConnected);
     connect(&m_Attempt, &TTcpAttempt::Failed, this, &TTcpSource::Failed);
