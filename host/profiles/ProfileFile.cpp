@@ -1,5 +1,7 @@
 #include "profiles/ProfileFile.h"
 
+#include "platform/RegularFile.h"
+#include "platform/TDescriptor.h"
 #include "platform/Uninterrupted.h"
 #include "stores/DurableFiles.h"
 
@@ -15,7 +17,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <exception>
-#include <fcntl.h>
 #include <initializer_list>
 #include <memory>
 #include <string>
@@ -219,14 +220,12 @@ private:
 // Reads a regular file of limited size, and nothing of any other.
 bool ReadAll(const QString& path, QByteArray* text, TProblems* problems)
 {
-    // A pipe without a writer must not stop the program.
-    const QByteArray name = path.toUtf8();
-    const int file = Uninterrupted([&] { return open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
+    const TDescriptor file(OpenRegularFile(path.toUtf8()));
     struct stat status = {};
-    if (file < 0 || fstat(file, &status) != 0) {
-        problems->Add(0, QLatin1String("cannot be read: ") + DurableFiles::SystemText());
-    } else if (!S_ISREG(status.st_mode)) {
+    if (!file.IsOpen() && errno == EINVAL) {
         problems->Add(0, QLatin1String("not a regular file"));
+    } else if (!file.IsOpen() || fstat(file.Get(), &status) != 0) {
+        problems->Add(0, QLatin1String("cannot be read: ") + DurableFiles::SystemText());
     } else if (status.st_size > TProfile::MostBytes) {
         problems->Add(0, QString::fromLatin1("not a profile: it has %1 bytes, a profile has at most %2")
                              .arg(status.st_size)
@@ -234,14 +233,12 @@ bool ReadAll(const QString& path, QByteArray* text, TProblems* problems)
     } else {
         text->resize(static_cast<int>(status.st_size));
         const ssize_t length =
-            Uninterrupted([&] { return read(file, text->data(), static_cast<std::size_t>(text->size())); });
+            Uninterrupted([&] { return read(file.Get(), text->data(), static_cast<std::size_t>(text->size())); });
         if (length < 0)
             problems->Add(0, QLatin1String("cannot be read: ") + DurableFiles::SystemText());
         else
             text->truncate(static_cast<int>(length));
     }
-    if (file >= 0)
-        close(file);
     return problems->IsEmpty();
 }
 
