@@ -109,8 +109,6 @@ class HostileSources : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { alarm(SecondsToStop); }
-
     void whatIsNoFileIsNotRead_data();
     void whatIsNoFileIsNotRead();
     void aStoreThatIsNoFileIsNotUsed_data();

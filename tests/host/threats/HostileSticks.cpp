@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QtTest>
 
+#include <iterator>
 #include <memory>
 
 /// A stick from a stranger, whose file system has links. None of them leads out of it.
@@ -56,7 +57,6 @@ void HostileSticks::init()
 {
     if (!PrivateMounts::ArePermitted())
         QSKIP("Mounting is not permitted here.");
-    alarm(SecondsToStop);
     m_Terminal = std::make_unique<TFieldTerminal>();
     m_Terminal->folder.MakeFolder(QLatin1String("usb"));
     m_Stick = std::make_unique<TMemoryDrive>(m_Terminal->folder.Path(QLatin1String("usb")), "size=1m");

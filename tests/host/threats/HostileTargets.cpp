@@ -120,8 +120,6 @@ class HostileTargets : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { alarm(SecondsToStop); }
-
     void nothingIsWrittenThroughALink_data() { AddRows(Links, std::size(Links)); }
     void nothingIsWrittenThroughALink();
     void whatIsNoFileStopsNobody_data() { AddRows(OtherKinds, std::size(OtherKinds)); }
