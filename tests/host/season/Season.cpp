@@ -7,7 +7,9 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
+#include <algorithm>
 #include <stdexcept>
+#include <vector>
 
 /// A season of work in minutes: whatever a terminal keeps and writes stays within its bounds, and nothing is lost. An
 /// hour of work takes some seconds, and the whole season about half an hour:
