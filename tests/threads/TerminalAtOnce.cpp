@@ -19,14 +19,18 @@
 #include "terminal/DataFolder.h"
 #include "terminal/TTerminal.h"
 
+#include <QEventLoop>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <algorithm>
-#include <atomic>
+#include <array>
 #include <map>
+#include <memory>
+#include <random>
 #include <set>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -205,14 +209,13 @@ void TerminalAtOnce::RunTerminal()
     works.insert(works.end(), HostWorks().begin(), HostWorks().end());
 
     const QByteArray hint = QByteArray(TestSeedVariable) + '=' + QByteArray::number(TestSeed());
-    std::atomic<bool> haveEnded{false};
+    QEventLoop loop;
     std::thread runner([&] {
         FacadeThreads::Run(
             m_Workers, 1, calls, works, [](int) {}, hint.constData());
-        haveEnded = true;
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
-    while (!haveEnded)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+    loop.exec();
     runner.join();
     const std::vector<LockRecord::tagPair> pairs = LockRecord::Pairs();
     m_Pairs.insert(m_Pairs.end(), pairs.begin(), pairs.end());
