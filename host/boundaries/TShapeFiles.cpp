@@ -35,7 +35,11 @@ SAOffset Read(void* to, SAOffset size, SAOffset count, SAFile handle)
     return whole;
 }
 
-SAOffset Write(void* from, SAOffset size, SAOffset count, SAFile handle)
+// Versions 1.5 and 1.6 of the library declare the calls Write(), Remove() and Open() differently: the templates fit
+// both.
+
+template <class T>
+SAOffset Write(T* from, SAOffset size, SAOffset count, SAFile handle)
 {
     tagOpenFile& file = Opened(handle);
     const SAOffset end = file.at + size * count;
@@ -68,7 +72,11 @@ int Close(SAFile handle)
     return 0;
 }
 
-int Remove(const char*) { return 0; } // of files of other programs, which stay
+template <class... T>
+int Remove(const char*, T...) // of files of other programs, which stay
+{
+    return 0;
+}
 
 void BeSilent(const char*) {} // the library would print on standard error
 
@@ -76,7 +84,8 @@ void BeSilent(const char*) {} // the library would print on standard error
 
 struct tagShapeCalls
 {
-    static SAFile Open(const char* name, const char* access)
+    template <class... T>
+    static SAFile Open(const char* name, const char* access, T...)
     {
         auto& files = FilesOfThread->m_Files;
         const std::string extension = ExtensionOf(name);
@@ -92,7 +101,7 @@ TShapeFiles::~TShapeFiles() { FilesOfThread = nullptr; }
 
 SAHooks TShapeFiles::Hooks()
 {
-    SAHooks hooks;
+    SAHooks hooks = {};
     SASetupDefaultHooks(&hooks);
     hooks.FOpen = &tagShapeCalls::Open;
     hooks.FRead = &Read;
