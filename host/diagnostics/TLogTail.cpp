@@ -9,14 +9,18 @@ namespace {
 
 const qint64 PieceBytes = 0x10000;
 
+/// One byte more than the longest line, by which a cut line is seen, and one for the carriage return.
+const int KeptBytes = TLogTail::LongestLine + 2;
+
 /// The logs are written in Latin-1, and their lines end in carriage return and line feed. Raw traffic may hold zeros.
 QString Text(const QByteArray& line)
 {
-    const int size = static_cast<int>(line.size());
-    return QString::fromLatin1(line.constData(), line.endsWith('\r') ? size - 1 : size);
+    const int size = static_cast<int>(line.size()) - (line.endsWith('\r') ? 1 : 0);
+    const QString text = QString::fromLatin1(line.constData(), std::min(size, TLogTail::LongestLine));
+    return size > TLogTail::LongestLine ? text + TLogTail::CutMark : text;
 }
 
-int RoomBehind(const QByteArray& rest) { return TLogTail::LongestLine - static_cast<int>(rest.size()); }
+int RoomBehind(const QByteArray& rest) { return KeptBytes - static_cast<int>(rest.size()); }
 
 } // namespace
 

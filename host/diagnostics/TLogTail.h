@@ -4,6 +4,7 @@
 #include "logs/TLogSeries.h"
 
 #include <QByteArray>
+#include <QChar>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -31,8 +32,11 @@ struct tagLogLine
 class CABHOST_EXPORT TLogTail
 {
 public:
-    /// Bytes of a line; what follows them is left out, up to the next line.
+    /// Bytes of a line. Of a longer one the text has these bytes and CutMark.
     static constexpr int LongestLine = 0x10000;
+
+    /// An ellipsis. The logs are in Latin-1, which does not have it: no other text ends in it.
+    static constexpr QChar CutMark = QChar(0x2026);
 
     /// @param basePath see TLogSeries.
     /// @param firstBytes how much of the newest text the first Read() takes, at most; the line in which that begins is

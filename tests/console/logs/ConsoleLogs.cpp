@@ -209,6 +209,9 @@ void ConsoleLogs::linesArePrintedAsText_data()
     QTest::newRow("Latin-1") << QByteArray("Feld S\xfc"
                                            "d, 20 \xb0\r\n")
                              << Utf8("Feld Süd, 20 °") << Utf8("Feld Süd, 20 °");
+    const int longest = 65536;
+    const QString cut = QString(longest, QLatin1Char('x')) + Utf8("…");
+    QTest::newRow("a line that is cut") << QByteArray(longest + 1, 'x') + "\r\n" << cut << cut;
     QTest::newRow("line feed alone") << QByteArray("a\n") << Utf8("a") << Utf8("a");
     QTest::newRow("tabulator") << QByteArray("a\tb\r\n") << Utf8("a\tb") << Utf8("a\tb");
     QTest::newRow("what a terminal would obey")

@@ -15,6 +15,8 @@ private slots:
     void theFirstReadTakesTheNewestBytes_data();
     void theFirstReadTakesTheNewestBytes();
     void laterReadsTakeWhatHasCome();
+    void aLineThatIsCutIsMarked_data();
+    void aLineThatIsCutIsMarked();
 
 private:
     static QStringList Texts(const QList<tagLogLine>& lines)
@@ -84,6 +86,40 @@ void LogTails::laterReadsTakeWhatHasCome()
     file.flush();
     folder.MakeFile(QLatin1String("user00003.log"), "seven\r\n");
     QCOMPARE(Texts(tail.Read(&error)), Words("six seven"));
+}
+
+void LogTails::aLineThatIsCutIsMarked_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QByteArray>("end");
+    QTest::addColumn<bool>("isCut");
+    const int longest = TLogTail::LongestLine;
+    QTest::newRow("the longest") << longest << QByteArray("\r\n") << false;
+    QTest::newRow("the longest of another program") << longest << QByteArray("\n") << false;
+    QTest::newRow("the longest, not finished") << longest << QByteArray() << false;
+    QTest::newRow("one byte more") << longest + 1 << QByteArray("\r\n") << true;
+    QTest::newRow("one byte more, of another program") << longest + 1 << QByteArray("\n") << true;
+    QTest::newRow("one byte more, not finished") << longest + 1 << QByteArray() << true;
+    QTest::newRow("a carriage return more") << longest << QByteArray("\r\r\n") << true;
+    QTest::newRow("many bytes more") << 5 * longest << QByteArray("\r\n") << true;
+    QTest::newRow("many bytes more, not finished") << 5 * longest << QByteArray() << true;
+}
+
+void LogTails::aLineThatIsCutIsMarked()
+{
+    QFETCH(int, length);
+    QFETCH(QByteArray, end);
+    QFETCH(bool, isCut);
+    const TTemporaryFolder folder;
+    folder.MakeFile(QLatin1String("user00001.log"), "one\r\n" + QByteArray(length, 'x') + end);
+    TLogTail tail(folder.Path(QLatin1String("user.log")));
+    QString error;
+    QStringList lines = Texts(tail.Read(&error));
+    if (!end.endsWith('\n'))
+        lines += tail.Unfinished().text;
+    QCOMPARE(lines.size(), 2);
+    const QString whole(TLogTail::LongestLine, QLatin1Char('x'));
+    QVERIFY(lines.last() == (isCut ? whole + TLogTail::CutMark : whole)); // a message would be too long
 }
 
 QTEST_APPLESS_MAIN(LogTails)

@@ -16,6 +16,7 @@
 #include <QEventLoop>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -67,7 +68,10 @@ QByteArray ReadTail(TSqliteStore&, const QString&, qint64)
     TLogTail tail(TSystemSettingsProxy().GetInternalNemaLogPath());
     QString error;
     const bool isEmpty = tail.Read(&error).isEmpty();
-    return isEmpty && tail.Unfinished().text.size() == TLogTail::LongestLine ? QByteArray() : "not one long line";
+    const QString text = tail.Unfinished().text;
+    return isEmpty && text.size() == TLogTail::LongestLine + 1 && text.endsWith(TLogTail::CutMark)
+               ? QByteArray()
+               : "not one long line";
 }
 
 QByteArray WriteBundle(TSqliteStore& store, const QString& path, bool isAnonymous)

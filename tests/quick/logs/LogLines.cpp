@@ -1,6 +1,7 @@
 #include "TQuickTerminal.h"
 
 #include "diagnostics/KeptLogs.h"
+#include "diagnostics/TLogTail.h"
 #include "diagnostics/UserLogEntries.h"
 
 #include <QAbstractItemModel>
@@ -16,6 +17,7 @@ private slots:
     void theNewestStay();
     void aPausedListStands();
     void whatIsNotPrintedIsABlank();
+    void aLineThatIsCutIsMarked();
 
 private:
     static QString Line(const TQuickTerminal& terminal, int row)
@@ -111,6 +113,15 @@ void LogLines::whatIsNotPrintedIsABlank()
     terminal.Load("Log { kind: Log.Nmea }");
     WriteNmeaLine(QByteArray("a\0b\x1b[31m\x7f c\r\n", 13));
     QTRY_COMPARE_WITH_TIMEOUT(Last(terminal), QLatin1String("a b [31m  c"), Patience);
+}
+
+void LogLines::aLineThatIsCutIsMarked()
+{
+    TQuickTerminal terminal;
+    terminal.Load("Log { kind: Log.Nmea }");
+    WriteNmeaLine(QByteArray(TLogTail::LongestLine + 1, 'x') + "\r\n");
+    QTRY_COMPARE_WITH_TIMEOUT(terminal.Get("self.count").toInt(), 1, Patience);
+    QVERIFY(Last(terminal) == QString(TLogTail::LongestLine, QLatin1Char('x')) + TLogTail::CutMark);
 }
 
 QTEST_GUILESS_MAIN(LogLines)
