@@ -422,7 +422,7 @@ const std::vector<int>& UnitNumbers()
         std::vector<int> all = {INT_MIN, -1000, -1};
         for (int unit = 0; unit < 115; ++unit)
             all.push_back(unit);
-        for (const int beyond : {115, 116, 255, 65536, INT_MAX})
+        for (const int beyond : {115, 116, 127, 128, 129, 255, 65536, INT_MAX})
             all.push_back(beyond);
         return all;
     }();

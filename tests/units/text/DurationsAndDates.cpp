@@ -34,6 +34,7 @@ void DurationsAndDates::hoursAreShownInTheUnitThatSuitsThem_data()
     QTest::newRow("36 seconds") << 0.01F << Utf8("36 s");
     QTest::newRow("nothing") << 0.0F << Utf8("0 s");
     QTest::newRow("a second back") << -1.0F / 3600 << Utf8("-1 s");
+    QTest::newRow("almost a minute") << 0.016526F << Utf8("59 s"); // 59.494
     QTest::newRow("just below a minute") << std::nextafter(minute, 0.0F) << Utf8("60 s");
     QTest::newRow("a minute") << minute << Utf8("1 min");
     QTest::newRow("just below a minute back") << -std::nextafter(minute, 0.0F) << Utf8("-60 s");

@@ -118,6 +118,7 @@ void ValueWithUnitText::aThresholdChangesTheDecimals_data()
     QTest::newRow("at") << 100.0 << 100.0 << 0 << 2 << Utf8("100");
     QTest::newRow("above") << 1234.6 << 100.0 << 0 << 2 << Utf8("1235");
     QTest::newRow("to more decimals") << 100.0 << 100.0 << 4 << 2 << Utf8("100.0000");
+    QTest::newRow("from none to some decimals") << 123.456 << 100.0 << 2 << 0 << Utf8("123.46");
     QTest::newRow("negative") << -200.0 << 100.0 << 0 << 2 << Utf8("-200.00");
     QTest::newRow("negative threshold") << -200.0 << -250.0 << 0 << 2 << Utf8("-200");
     QTest::newRow("not in general notation") << 1234.5678 << 100.0 << 1 << -1 << Utf8("1234.57");
@@ -170,6 +171,7 @@ void ValueWithUnitText::hoursAreShownAsATimeOfDay_data()
         {"two days", 49.5, "49:30", "1:30 pm"},
         {"negative", -1.5, "-1:-30", "-1:-30 am"},
         {"negative minutes only", -0.25, "0:-15", "12:-15 am"},
+        {"less than half a minute back", -0.0075, "0:00", "12:00 am"},
         {"half a day back", -12.0, "-12:00", "12:00 am"},
         {"NaN", NaN, nullptr, nullptr},
         {"infinity", Infinity, nullptr, nullptr},
