@@ -85,20 +85,13 @@ tagNote FromJson(const QByteArray& json)
     return isOurs ? note : tagNote();
 }
 
-/// Whether the library gives a file of an item called @p name the name @p file: "J_1.cov", "J_1_PPD.pbz".
-bool HasItsName(const QString& file, const QString& name)
-{
-    const QChar next = file.size() > name.size() ? file.at(name.size()) : QChar();
-    return file.startsWith(name) && (next == QLatin1Char('.') || next == QLatin1Char('_'));
-}
-
 /// The new name of each file in @p folder that has the old one.
 QList<QPair<QString, QString>> Renamings(const QString& folder, const QString& before, const QString& after)
 {
     QList<QPair<QString, QString>> renamings;
     const QStringList files = FileTree::Files(folder);
     for (const QString& file : files) {
-        if (HasItsName(file, before))
+        if (FieldRename::HasItsName(file, before))
             renamings.append({folder + Separator + file, folder + Separator + after + file.mid(before.size())});
     }
     return renamings;
@@ -154,6 +147,12 @@ bool Settle(TParameterStore& store, const QString& drive, const tagNote& note, Q
 }
 
 } // namespace
+
+bool FieldRename::HasItsName(const QString& file, const QString& name)
+{
+    const QChar next = file.size() > name.size() ? file.at(name.size()) : QChar();
+    return file.startsWith(name) && (next == QLatin1Char('.') || next == QLatin1Char('_'));
+}
 
 QString FieldRename::Obstacle(const QString& drive, const QStringList& path, const QString& name)
 {

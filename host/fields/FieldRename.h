@@ -20,6 +20,9 @@
 /// the folder has its new name, else back. All parameters of a step are written in one transaction.
 namespace FieldRename {
 
+/// Whether the library gives a file of an item called @p name the name @p file: "J_1.cov", "J_1_PPD.pbz".
+bool HasItsName(const QString& file, const QString& name);
+
 /// What stands in the way of a new name inside the item: a file or a folder of that name. Empty when nothing does.
 QString Obstacle(const QString& drive, const QStringList& path, const QString& name);
 

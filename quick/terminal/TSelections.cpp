@@ -1,10 +1,17 @@
 #include "terminal/TSelections.h"
 
+#include "fields/FieldPath.h"
+#include "guidance/LineRename.h"
 #include "module/TParameterHub.h"
 #include "settings/ParameterTexts.h"
 #include "stores/TChangeAuthor.h"
 #include "stores/TSqliteStore.h"
 #include "terminal/ActiveItems.h"
+#include "texts/HostText.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -66,6 +73,27 @@ QStringList TSelections::list(const QString& kind) const
     if (!selected.isEmpty() && !names.contains(selected))
         names.prepend(selected);
     return names;
+}
+
+QString TSelections::checkLineName(const QString& name, const QString& newName) const
+{
+    const QString kind = QStringLiteral("abLine");
+    const QString error = check(kind, newName);
+    if (!error.isEmpty() || newName == name)
+        return error;
+    const QStringList names = list(kind);
+    const bool isTaken = std::any_of(names.begin(), names.end(), [&](const QString& other) {
+        return other != name && FieldPath::Folded(other) == FieldPath::Folded(newName);
+    });
+    return isTaken ? QCoreApplication::translate("TFieldTreeModel", "There is one with this name already.") : QString();
+}
+
+QString TSelections::renameLine(const QString& name, const QString& newName)
+{
+    const TChangeAuthor author(CHANGE_AUTHOR_OPERATOR);
+    QString error;
+    RenameGuidanceLine(TParameterHub::Instance().Store(), name, newName, &error);
+    return CabQuick::HostText(error);
 }
 
 QString TSelections::shown(const QString& name) const { return ParameterTexts::ItemName(name); }

@@ -62,6 +62,13 @@ public:
     /// The names that can be selected, in order, the selected one among them. Reads the disk.
     Q_INVOKABLE QStringList list(const QString& kind) const;
 
+    /// Empty when the saved guidance line @p name may be renamed to @p newName, else why not. Reads the disk.
+    Q_INVOKABLE QString checkLineName(const QString& name, const QString& newName) const;
+
+    /// Renames a saved guidance line. When it is selected, it stays so under its new name. Waits for the disk.
+    /// @return empty, or a sentence that says why it is not renamed.
+    Q_INVOKABLE QString renameLine(const QString& name, const QString& newName);
+
     /// A name as the operator reads it. "No Vehicle" and the other names that mean that nothing is selected are in the
     /// language of the display; any other name stays as it is.
     Q_INVOKABLE QString shown(const QString& name) const;

@@ -148,6 +148,10 @@ public:
     /// @return empty, or a sentence that says why nothing was done
     Q_INVOKABLE QString loadLine(const QString& name);
 
+    /// Renames a saved line. One that is followed is followed on.
+    /// @return empty, or a sentence that says why it is not renamed.
+    Q_INVOKABLE QString renameLine(const QString& name, const QString& newName);
+
     /// Marks the place with a flag, which is kept in the field. False without a position, and before the job is there.
     Q_INVOKABLE bool mark();
 

@@ -354,6 +354,20 @@ QString TWork::loadLine(const QString& name)
     return problem;
 }
 
+QString TWork::renameLine(const QString& name, const QString& newName)
+{
+    QString problem = LoadingProblem();
+    if (!problem.isEmpty())
+        return problem;
+    m_Disk.waitForDone(); // it may be about to be written
+    m_IsSelecting = true;
+    QMetaObject::invokeMethod(m_Selections, "renameLine", Q_RETURN_ARG(QString, problem), Q_ARG(QString, name),
+                              Q_ARG(QString, newName));
+    m_IsSelecting = false;
+    m_Places.line = ActiveLinePath();
+    return problem;
+}
+
 void TWork::LoadLine()
 {
     m_Disk.waitForDone(); // it may be about to be written

@@ -42,6 +42,7 @@ private slots:
     void aLineIsSetAndFollowed();
     void aSavedLineIsChosen();
     void aLineGetsAName();
+    void aLineGetsAnotherName();
     void aFlagIsSet();
     void workingIsSwitched();
     void aTileOpensTheChoiceOfTiles();
@@ -225,6 +226,41 @@ void WorkPageTaps::aLineGetsAName()
     QVERIFY(Find("line.Ditch") && Find("line.Ditch")->property("chosen").toBool());
     QTest::keyClick(m_Session->Window(), Qt::Key_Escape);
     QVERIFY(!Find("lineChoice"));
+}
+
+/// The line is followed on, and its list is there again.
+void WorkPageTaps::aLineGetsAnotherName()
+{
+    QCOMPARE(m_Work->loadLine(QLatin1String("Ditch")), QString());
+    const double offLine = m_Work->OffLine();
+    const auto type = [this](const char* text) {
+        for (const char* letter = text; *letter; ++letter)
+            QTest::sendKeyEvent(QTest::Click, m_Session->Window(), Qt::Key_unknown, QString(QLatin1Char(*letter)),
+                                Qt::NoModifier);
+        QTest::keyClick(m_Session->Window(), Qt::Key_Return);
+    };
+    Tap("lines");
+    Tap("rename.Ditch");
+    QVERIFY(Find("nameEntry") && !Find("lineChoice"));
+    type("ab_1"); // another line has it, in other letter case
+    QVERIFY(Find("nameEntry"));
+    QTest::keyClick(m_Session->Window(), Qt::Key_A, Qt::ControlModifier);
+    type("Hedge");
+    QVERIFY(!Find("nameEntry") && Find("lineChoice"));
+    const TSystemSettingsProxy system;
+    QCOMPARE(system.GetActiveABLine(), QLatin1String("Hedge"));
+    QVERIFY(QFileInfo::exists(system.GetActiveABLinePath()));
+    QTRY_VERIFY(Find("line.Hedge") && Find("line.Hedge")->property("chosen").toBool());
+    QVERIFY(!Find("line.Ditch"));
+    QVERIFY(m_Work->HasLine());
+    QCOMPARE(m_Work->OffLine(), offLine);
+    QTest::keyClick(m_Session->Window(), Qt::Key_Escape);
+    QVERIFY(!Find("lineChoice"));
+    // What is brought back is the line that was renamed.
+    QCOMPARE(m_Work->loadLine(QLatin1String(DemoField::Line)), QString());
+    QCOMPARE(m_Work->loadLine(QLatin1String("Hedge")), QString());
+    QVERIFY(m_Work->HasLine());
+    QCOMPARE(m_Work->OffLine(), offLine);
 }
 
 void WorkPageTaps::aFlagIsSet()

@@ -4,8 +4,8 @@ import CabDisplay 1.0
 import "../../controls"
 import "../parts"
 
-// The saved lines of the field: a tap on one follows it. New names the line that is set next. Stop ends following; the
-// files stay.
+// The saved lines of the field: a tap on one follows it, the button at its right renames it. New names the line that is
+// set next. Stop ends following; the files stay.
 //
 //     LineChoice { id: lines }
 //     …
@@ -86,13 +86,35 @@ Overlay {
             height: Math.max(0, Math.min(room, choice.names.length * (Sizes.target + spacing) - spacing))
             spacing: Sizes.gap
             model: choice.names
-            delegate: ListRow {
-                objectName: "line." + modelData
+            delegate: Item {
                 width: ListView.view.width
-                title: modelData
-                chosen: Work.hasLine && modelData === Selections.abLine
-                enabled: choice.isReady
-                onClicked: choice.follow(modelData)
+                height: row.implicitHeight
+
+                ListRow {
+                    id: row
+
+                    objectName: "line." + modelData
+                    anchors { left: parent.left; right: change.left; rightMargin: Sizes.gap }
+                    title: modelData
+                    chosen: Work.hasLine && modelData === Selections.abLine
+                    enabled: choice.isReady
+                    onClicked: choice.follow(modelData)
+                }
+                IconButton {
+                    id: change
+
+                    objectName: "rename." + modelData
+                    anchors.right: parent.right
+                    height: row.height
+                    icon: "pencil"
+                    accessibleName: qsTranslate("FieldsPage", "Rename %1").arg(modelData)
+                    enabled: choice.isReady
+                    onClicked: {
+                        choice.close()
+                        renaming.before = modelData
+                        renaming.ask(modelData)
+                    }
+                }
             }
         }
 
@@ -135,5 +157,20 @@ Overlay {
         hint: line.accepts
         check: function (text) { return line.check(text) }
         onTyped: function (text) { choice.follow(text) }
+    }
+
+    NameEntry {
+        id: renaming
+
+        property string before
+
+        title: qsTranslate("FieldsPage", "Rename %1").arg(before)
+        hint: line.accepts
+        check: function (text) { return Selections.checkLineName(before, text) }
+        onTyped: function (text) {
+            const problem = Work.renameLine(before, text)
+            choice.ask()
+            reason.text = problem
+        }
     }
 }
