@@ -76,15 +76,18 @@ void WriteStoreCheck(const tagSupportSource& source, const TSupportSink& sink)
                                  TSqliteConnection::SQLITE_ACCESS_READ, PatienceMs);
     StoreTable::tagContent content;
     const tagStoreFinding finding = StoreTable::Read(connection, &content);
-    const TSqliteConnection::tagFailure failure = connection.TakeFailure();
+    if (finding.state == STORE_FILE_INACCESSIBLE) {
+        Report(source, sink, QLatin1String("cannot check the store: ") + finding.words);
+        return;
+    }
     sink(Line("store", finding.state == STORE_FILE_CLEAN ? QLatin1String("structure is whole") : finding.words));
+    if (!content.journalDamage.isEmpty())
+        sink(Line("journal", content.journalDamage));
     sink(Line("parameters", QString::number(content.values.size())));
     if (!content.damaged.isEmpty())
         sink(Line("damage", StoreTable::DamageText(content.damaged)));
     for (auto row = content.unreadable.cbegin(); row != content.unreadable.cend(); ++row)
         sink(Line(QString::fromLatin1("parameter %1 cannot be read").arg(row.key())));
-    if (!failure.text.isEmpty())
-        Report(source, sink, QLatin1String("cannot check the store: ") + failure.text);
 }
 
 QString JournalValue(const tagParameter* known, const QVariant& value)

@@ -1,6 +1,7 @@
 #include "TTemporaryFolder.h"
 
 #include "../../system/TPrivateMounts.h"
+#include "../stores/StoreTestSupport.h"
 #include "diagnostics/UserLogEntries.h"
 #include "nmea/NmeaChecksum.h"
 #include "profiles/TProfile.h"
@@ -41,6 +42,13 @@ private slots:
     void entriesAreBlanked();
     void aLineThatIsTooLongIsLeftOut();
     void whatCannotBeReadIsSaid();
+    void aListThatIsNotCompleteIsSaidWithoutNames();
+    void damageOfTheStoreIsSaid_data();
+    void damageOfTheStoreIsSaid();
+    void aStoreThatCannotBeReadIsSaid();
+    void aStickIsInTheBundle();
+    void onlyLogsWithTheNamesOfALogAreTaken();
+    void entriesInLatin1AreBlanked();
     void logsThatCannotBeListedAreSaid();
     void anArchiveThatCannotBeWrittenKeepsTheFormerOne_data();
     void anArchiveThatCannotBeWrittenKeepsTheFormerOne();
@@ -361,6 +369,99 @@ void SupportBundles::whatCannotBeReadIsSaid()
     QCOMPARE(m_Bundle.problems, QStringList(QString::fromLatin1("\"%1\" is neither a file nor a folder").arg(link)));
     QVERIFY(Members().value(QLatin1String("files.txt")).endsWith("is neither a file nor a folder\n"));
     QCOMPARE(Members().size(), m_Bundle.members.size());
+}
+
+void SupportBundles::aListThatIsNotCompleteIsSaidWithoutNames()
+{
+    QVERIFY(QFile::link(QLatin1String("Smith"), Data() + QLatin1String("/internal/Smith")));
+    QVERIFY(Write(true));
+    QCOMPARE(m_Bundle.problems, QStringList(QLatin1String("the list is not complete")));
+    const QByteArray files = Members().value(QLatin1String("files.txt"));
+    QVERIFY2(files.endsWith("\nthe list is not complete\n"), files.constData());
+}
+
+void SupportBundles::damageOfTheStoreIsSaid_data()
+{
+    QTest::addColumn<QStringList>("statements");
+    QTest::addColumn<QString>("member");
+    QTest::addColumn<QByteArray>("expected");
+    const auto row = [](const char* name, const QStringList& statements, const char* member,
+                        const QByteArray& expected) {
+        QTest::newRow(name) << statements << QString::fromLatin1(member) << expected;
+    };
+    row("a parameter", {QLatin1String("UPDATE parameters SET value = 'x' WHERE id = 8953")}, "store-check.txt",
+        "\ndamage: its parameter 8953 does not match its digest\n");
+    row("a value that is none", {QLatin1String("UPDATE parameters SET value = 'x', digest = NULL WHERE id = 8953")},
+        "store-check.txt", "\nparameter 8953 cannot be read\n");
+    row("a table that is not there", {QLatin1String("DROP TABLE parameters")}, "store-check.txt",
+        "store: its schema is missing or broken\n");
+    row("an entry", {QLatin1String("UPDATE journal SET new_value = 'x' WHERE entry = 1")}, "journal.txt",
+        "\nentry 1 cannot be read\n");
+    row("the journal",
+        {QLatin1String("ALTER TABLE journal RENAME TO former"), QLatin1String("CREATE TABLE journal (entry INTEGER)")},
+        "store-check.txt", "\njournal: the table of its journal has another form\n");
+}
+
+void SupportBundles::damageOfTheStoreIsSaid()
+{
+    QFETCH(QStringList, statements);
+    QFETCH(QString, member);
+    QFETCH(QByteArray, expected);
+    QVERIFY(m_Store->SetParameter(PARAM_METRIC, false, true));
+    for (const QString& statement : statements)
+        RunSql(DataFolder::StoreFile(Data()), statement);
+    const QByteArray content = Members(false).value(member);
+    QVERIFY2(('\n' + content).contains(expected), content.constData());
+}
+
+// What cannot be looked at is a problem of the bundle, not a finding about the store.
+void SupportBundles::aStoreThatCannotBeReadIsSaid()
+{
+    const QString path = DataFolder::StoreFile(Data());
+    m_Terminal.reset();
+    m_Store.reset();
+    QVERIFY(QFile::remove(path));
+    const QString elsewhere = m_Folder->Path(QLatin1String("elsewhere.db"));
+    m_Store = TSqliteStore::Open(elsewhere, &m_Error);
+    QVERIFY2(m_Store != nullptr, qPrintable(m_Error));
+    m_Terminal = std::make_unique<TTerminal>(*m_Store);
+    QVERIFY2(m_Terminal->Start(Data(), &m_Error), qPrintable(m_Error));
+    QVERIFY(Write(false));
+    const QString check = QString::fromUtf8(Members().value(QLatin1String("store-check.txt")));
+    QVERIFY2(check.startsWith(QLatin1String("cannot check the store: ")), qPrintable(check));
+    QCOMPARE(m_Bundle.problems, QStringList(check.trimmed()));
+}
+
+void SupportBundles::aStickIsInTheBundle()
+{
+    if (!PrivateMounts::ArePermitted())
+        QSKIP("Mounting is not permitted here.");
+    QVERIFY(Members(false).value(QLatin1String("system.txt")).contains("\nstick: none\n"));
+    const TMemoryDrive drive(Data() + QLatin1String("/usb"), "size=1m");
+    QVERIFY(drive.IsMounted());
+    const QString system = QString::fromUtf8(Members(false).value(QLatin1String("system.txt")));
+    static const QRegularExpression blocks(QLatin1String("\nstick: [1-9]\\d* blocks, [1-9]\\d* free\n"));
+    QVERIFY2(system.contains(blocks), qPrintable(system));
+}
+
+// A name that no log gives may be one that is not safe in an archive.
+void SupportBundles::onlyLogsWithTheNamesOfALogAreTaken()
+{
+    MakeFile(NmeaLog, "$GPZDA\r\n");
+    MakeFile(QLatin1String("Diagnostics/NMEA1.csv"));
+    MakeFile(QLatin1String("Diagnostics/NMEA00001.csv.old"));
+    MakeFile(QLatin1String("Diagnostics/NMEAx.csv"));
+    const QStringList logs = QStringList(Members(false).keys()).filter(QLatin1String("NMEA"));
+    QCOMPARE(logs, QStringList(QLatin1String("logs/NMEA00001.csv")));
+}
+
+// As a log of an older terminal is.
+void SupportBundles::entriesInLatin1AreBlanked()
+{
+    m_Store->SetParameter(PARAM_CLIENT, QString::fromUtf8("M\u00fcller"), true);
+    MakeFile(QLatin1String("Diagnostics/User00001.csv"), "t,Console,Event,0,for M\xfcller \xb0,\r\n");
+    QCOMPARE(Members(true).value(QLatin1String("logs/User00001.csv")),
+             QByteArray("t,Console,Event,0,for client-1 \xb0,\r\n"));
 }
 
 // Names that stand only in the user log would be in an anonymous bundle, in the list of the files for example.
