@@ -7,6 +7,11 @@ void PointList::Write(TSerializer& serializer, const std::vector<tagGeoPoint>& p
         serializer << point.latitude << point.longitude;
 }
 
+qint64 PointList::Bytes(const std::vector<tagGeoPoint>& points)
+{
+    return static_cast<qint64>(sizeof(unsigned) + points.size() * 2 * sizeof(double));
+}
+
 bool PointList::Read(TSerializer& serializer, std::vector<tagGeoPoint>* points)
 {
     points->clear();

@@ -29,6 +29,14 @@ bool IsBoundary(const tagBoundary& boundary)
            std::all_of(boundary.internals.begin(), boundary.internals.end(), IsRing);
 }
 
+qint64 ContentBytes(const tagBoundary& boundary)
+{
+    qint64 bytes = PointList::Bytes(boundary.external) + static_cast<qint64>(sizeof(unsigned));
+    for (const TGeoRing& ring : boundary.internals)
+        bytes += PointList::Bytes(ring);
+    return bytes;
+}
+
 double RingArea(const TLocalPlane& plane, const TGeoRing& ring)
 {
     double twice = 0;
@@ -59,7 +67,7 @@ std::optional<tagBoundary> ReadBoundary(const QString& path, QString* error)
         boundary.internals.emplace_back();
         isGood = !serializer.atEnd() && PointList::Read(serializer, &boundary.internals.back());
     }
-    if (isGood && serializer.atEnd() && IsBoundary(boundary))
+    if (isGood && content->size() == ContentBytes(boundary) && IsBoundary(boundary))
         return boundary;
     *error = WorkFile::Damage(path, Kind);
     return std::nullopt;

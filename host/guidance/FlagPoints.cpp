@@ -21,7 +21,7 @@ std::optional<std::vector<tagGeoPoint>> ReadFlagPoints(const QString& path, QStr
     buffer.open(QIODevice::ReadOnly);
     TBinarySerializer serializer(&buffer);
     std::vector<tagGeoPoint> points;
-    if (PointList::Read(serializer, &points) && serializer.atEnd())
+    if (PointList::Read(serializer, &points) && content->size() == PointList::Bytes(points))
         return points;
     *error = WorkFile::Damage(path, Kind);
     return std::nullopt;

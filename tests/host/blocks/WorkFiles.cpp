@@ -1,5 +1,7 @@
 #include "TTemporaryFolder.h"
 
+#include "blocks/DataBlock.h"
+#include "boundaries/Boundary.h"
 #include "guidance/FlagPoints.h"
 #include "guidance/GuidanceLine.h"
 #include "machine/Implement.h"
@@ -12,6 +14,8 @@ namespace {
 
 const tagGuidanceLine Line = {{52, 10}, {52.003, 10.001}};
 const std::vector<tagGeoPoint> Flags = {{52, 10}, {-52.5, -10.25}, {90, 180}};
+const tagBoundary Border = {{{52, 10}, {52, 10.01}, {52.01, 10}},
+                            {{{52.001, 10.001}, {52.001, 10.002}, {52.002, 10.001}}}};
 const tagImplement Boom = {24, -1.5, 12};
 
 bool IsSame(const tagGeoPoint& one, const tagGeoPoint& other)
@@ -39,6 +43,13 @@ const tagKind Kinds[] = {
          return flags && flags->size() == Flags.size() &&
                 std::equal(flags->begin(), flags->end(), Flags.begin(), IsSame);
      }},
+    {"boundary", [](const QString& path, QString* error) { return WriteBoundary(path, Border, error); },
+     [](const QString& path, QString* error) {
+         const auto read = ReadBoundary(path, error);
+         return read && read->external.size() == Border.external.size() && read->internals.size() == 1 &&
+                std::equal(read->internals[0].begin(), read->internals[0].end(), Border.internals[0].begin(),
+                           Border.internals[0].end(), IsSame);
+     }},
     {"implement", [](const QString& path, QString* error) { return WriteImplement(path, Boom, error); },
      [](const QString& path, QString* error) {
          const auto read = ReadImplement(path, error);
@@ -61,6 +72,8 @@ private slots:
     void cutFilesAreRefused();
     void changedBytesAreNoticed_data() { AddKinds(); }
     void changedBytesAreNoticed();
+    void aWholeFileOfOtherContentIsRefused_data() { AddKinds(); }
+    void aWholeFileOfOtherContentIsRefused();
     void filesOfOtherKindsAreRefused_data() { AddKinds(); }
     void filesOfOtherKindsAreRefused();
     void newerFilesAreNotReplaced_data() { AddKinds(); }
@@ -138,6 +151,30 @@ void WorkFiles::changedBytesAreNoticed()
         folder.MakeFile(name, changed);
         QVERIFY(!Kind().read(folder.Path(name), &error));
         QVERIFY2(error.startsWith(folder.Path(name)), qPrintable(error));
+    }
+}
+
+/// What another program has written: the checksum is right.
+void WorkFiles::aWholeFileOfOtherContentIsRefused()
+{
+    const TTemporaryFolder folder;
+    const QLatin1String name("file.ini");
+    QString error;
+    QVERIFY(Kind().write(folder.Path(name), &error));
+    int end = 0;
+    DataBlock::tagBlock block;
+    QVERIFY(DataBlock::Take(folder.Content(name), &end, &block));
+    const int content = static_cast<int>(block.payload.indexOf(Kind().name)) + static_cast<int>(qstrlen(Kind().name));
+    const QByteArray noNumber(sizeof(double), '\xFF');
+    QList<QByteArray> others = {
+        block.payload + 'x', QByteArray(block.payload).replace(content, noNumber.size(), noNumber),
+        QByteArray(block.payload).replace(block.payload.size() - noNumber.size(), noNumber.size(), noNumber)};
+    for (int size = 0; size < block.payload.size(); ++size)
+        others.append(block.payload.left(size));
+    for (const QByteArray& other : others) {
+        folder.MakeFile(name, DataBlock::Framed(block.version, other));
+        QVERIFY2(!Kind().read(folder.Path(name), &error), other.toHex().constData());
+        QVERIFY2(error.startsWith(folder.Path(name)), other.toHex().constData());
     }
 }
 
