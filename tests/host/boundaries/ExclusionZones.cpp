@@ -28,6 +28,17 @@ std::vector<std::pair<double, double>> Corners(const TGeoRing& ring)
     return corners;
 }
 
+void MakeShape(const QByteArray& path, int parts, const int* starts, int corners, const double* longitudes,
+               const double* latitudes)
+{
+    const SHPHandle file = SHPCreate(path.constData(), SHPT_POLYGON);
+    SHPObject* const shape =
+        SHPCreateObject(SHPT_POLYGON, -1, parts, starts, nullptr, corners, longitudes, latitudes, nullptr, nullptr);
+    SHPWriteObject(file, -1, shape);
+    SHPDestroyObject(shape);
+    SHPClose(file);
+}
+
 } // namespace
 
 class ExclusionZones : public QObject
@@ -36,7 +47,11 @@ class ExclusionZones : public QObject
 
 private slots:
     void zonesComeBack();
+    void partsOfOneShapeAreZones_data();
     void partsOfOneShapeAreZones();
+    void ringsOfFewCornersAreNoZones();
+    void aRingThatIsNotClosedIsAZone();
+    void aFileThatIsTooLargeIsRefused();
     void noFileIsNoError();
     void aMissingIndexIsSaid();
     void otherShapesAreRefused();
@@ -68,16 +83,24 @@ void ExclusionZones::zonesComeBack()
     QCOMPARE(ReadExclusionZones(Path(folder), &error)->size(), std::size_t(1));
 }
 
+void ExclusionZones::partsOfOneShapeAreZones_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("places") << SHPT_POLYGON;
+    QTest::newRow("with heights") << SHPT_POLYGONZ;
+    QTest::newRow("with measures") << SHPT_POLYGONM;
+}
+
 void ExclusionZones::partsOfOneShapeAreZones()
 {
+    QFETCH(int, type);
     const TTemporaryFolder folder;
     const QByteArray path = folder.Path(QLatin1String("F1.shp")).toUtf8();
     const int starts[] = {0, 4};
     const double longitudes[] = {10, 10, 11, 10, 20, 20, 21, 20};
     const double latitudes[] = {50, 51, 50, 50, 50, 51, 50, 50};
-    const SHPHandle file = SHPCreate(path.constData(), SHPT_POLYGON);
-    SHPObject* const shape =
-        SHPCreateObject(SHPT_POLYGON, -1, 2, starts, nullptr, 8, longitudes, latitudes, nullptr, nullptr);
+    const SHPHandle file = SHPCreate(path.constData(), type);
+    SHPObject* const shape = SHPCreateObject(type, -1, 2, starts, nullptr, 8, longitudes, latitudes, nullptr, nullptr);
     SHPWriteObject(file, -1, shape);
     SHPDestroyObject(shape);
     SHPClose(file);
@@ -87,6 +110,48 @@ void ExclusionZones::partsOfOneShapeAreZones()
     QVERIFY2(zones, qPrintable(error));
     QCOMPARE(zones->size(), std::size_t(2));
     QCOMPARE(Corners(zones->front()), Corners({{50, 10}, {51, 10}, {50, 11}}));
+}
+
+void ExclusionZones::ringsOfFewCornersAreNoZones()
+{
+    const TTemporaryFolder folder;
+    const QByteArray path = folder.Path(QLatin1String("F1.shp")).toUtf8();
+    const int starts[] = {0, 4, 5};
+    const double longitudes[] = {10, 10, 11, 10, 20, 30, 31, 30};
+    const double latitudes[] = {50, 51, 50, 50, 50, 50, 51, 50};
+    MakeShape(path, 3, starts, 8, longitudes, latitudes);
+    QString error;
+    const auto zones = ReadExclusionZones(QString::fromUtf8(path), &error);
+    QVERIFY2(zones, qPrintable(error));
+    QCOMPARE(zones->size(), std::size_t(1));
+    QCOMPARE(Corners(zones->front()), Corners({{50, 10}, {51, 10}, {50, 11}}));
+}
+
+void ExclusionZones::aRingThatIsNotClosedIsAZone()
+{
+    const TTemporaryFolder folder;
+    const QByteArray path = folder.Path(QLatin1String("F1.shp")).toUtf8();
+    const int starts[] = {0, 3};
+    const double longitudes[] = {10, 10, 11, 20, 20, 21};
+    const double latitudes[] = {50, 51, 52, 50, 51, 50}; // the second ends at the latitude of its beginning
+    MakeShape(path, 2, starts, 6, longitudes, latitudes);
+    QString error;
+    const auto zones = ReadExclusionZones(QString::fromUtf8(path), &error);
+    QVERIFY2(zones, qPrintable(error));
+    QCOMPARE(zones->size(), std::size_t(2));
+    QCOMPARE(Corners(zones->front()), Corners({{50, 10}, {51, 10}, {52, 11}}));
+    QCOMPARE(Corners(zones->back()), Corners({{50, 20}, {51, 20}, {50, 21}}));
+}
+
+/// Memory is taken for none of it.
+void ExclusionZones::aFileThatIsTooLargeIsRefused()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY2(WriteExclusionZones(Path(folder), Zones, &error), qPrintable(error));
+    QVERIFY(QFile::resize(Path(folder), qint64{1} << 40)); // a file with a hole
+    QVERIFY(!ReadExclusionZones(Path(folder), &error));
+    QCOMPARE(error, QString(Path(folder) + QLatin1String(" is damaged")));
 }
 
 void ExclusionZones::noFileIsNoError()

@@ -84,6 +84,8 @@ private slots:
     void theNewestChangeIsUndoneWithoutANumber();
     void aChangeThatWasChangedAgainIsNotUndone();
     void aChangeDuringAnUndoIsSeen();
+    void aChangeOfAnUnknownParameterIsUndone();
+    void anUndoThatCannotReadSaysSo();
     void anUndoThatCannotWriteSaysSo();
     void whatIsNotThereIsNotUndone();
 
@@ -458,6 +460,36 @@ void StoreJournal::aChangeDuringAnUndoIsSeen()
     QVERIFY(!isUndone);
     QCOMPARE(error, QLatin1String("units.area is \"hectare\" now; entry 2 set it to \"acre\""));
     QCOMPARE(LinesOf(*m_Store), Lines({"2 library 8960 0 -> 1", "1 library 8960 absent -> 0"}));
+}
+
+// As a newer version of the host has stored it.
+void StoreJournal::aChangeOfAnUnknownParameterIsUndone()
+{
+    const EParamID unknown = Param(29999);
+    QVERIFY(m_Store->SetParameter(unknown, QLatin1String("x"), true));
+    QVERIFY(m_Store->SetParameter(unknown, 2.5, true));
+    ChangeJournal::tagEntry undone;
+    QString error;
+    QVERIFY(!ChangeJournal::Undo(*m_Store, 1, &undone, &error));
+    QCOMPARE(error, QLatin1String("parameter 29999 is \"2.5\" now; entry 1 set it to \"x\""));
+    QVERIFY2(ChangeJournal::Undo(*m_Store, 2, &undone, &error), qPrintable(error));
+    QCOMPARE(m_Store->GetParameter(unknown), QVariant(QLatin1String("x")));
+}
+
+void StoreJournal::anUndoThatCannotReadSaysSo()
+{
+    QVERIFY(m_Store->SetParameter(PARAM_AREA_UNIT, 1, true));
+    ChangeJournal::tagEntry undone;
+    QString error;
+    RunSql(m_Path, QLatin1String("ALTER TABLE parameters RENAME TO former"));
+    QVERIFY(!ChangeJournal::Undo(*m_Store, 1, &undone, &error));
+    QVERIFY2(error.startsWith(m_Path + QLatin1String(" cannot be read: ")), qPrintable(error));
+    RunSql(m_Path, QLatin1String("ALTER TABLE former RENAME TO parameters"));
+    RunSql(m_Path, QLatin1String("ALTER TABLE journal RENAME COLUMN digest TO former"));
+    QVERIFY(!ChangeJournal::Undo(*m_Store, 1, &undone, &error));
+    QVERIFY2(error.startsWith(QString::fromLatin1("the journal of %1 cannot be read: ").arg(m_Path)),
+             qPrintable(error));
+    QCOMPARE(m_Store->GetParameter(PARAM_AREA_UNIT), QVariant(1));
 }
 
 void StoreJournal::anUndoThatCannotWriteSaysSo()

@@ -239,10 +239,15 @@ void StoredValuesRoundTrip::aRowThatCannotBeDecodedIsSaidAndKept_data()
     row("no double", "double", "1,5");
     row("half an escape", "string", "a\\u00");
     row("unknown escape", "string", "a\\n");
+    row("an escape of no number", "string", "a\\u00x0");
     row("unknown kind of colour", "color", "pantone 1 2 3");
     row("colour short of a component", "color", "rgb 1 2 3");
     row("colour component out of range", "color", "rgb 1 2 3 65536");
     row("hue out of range", "color", "hsv 36001 0 0 0");
+    row("hue below none", "color", "hsv -2 0 0 0");
+    row("broken hue", "color", "hsv 1.5 0 0 0");
+    row("component below zero", "color", "rgb 1 2 3 -1");
+    row("component that is no number", "color", "rgb 1 x 3 4");
     row("broken component", "color", "rgb 1 2.5 3 4");
     row("nothing", "color", "");
     row("no base64", "bytes", "a*b=");
