@@ -164,7 +164,7 @@ void WorkFiles::aWholeFileOfOtherContentIsRefused()
     int end = 0;
     DataBlock::tagBlock block;
     QVERIFY(DataBlock::Take(folder.Content(name), &end, &block));
-    const int content = static_cast<int>(block.payload.indexOf(Kind().name)) + static_cast<int>(qstrlen(Kind().name));
+    const int content = 4 + 2 * static_cast<int>(qstrlen(Kind().name)); // behind the length and the text of the kind
     const QByteArray noNumber(sizeof(double), '\xFF');
     QList<QByteArray> others = {
         block.payload + 'x', QByteArray(block.payload).replace(content, noNumber.size(), noNumber),
