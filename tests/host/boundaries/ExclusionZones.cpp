@@ -51,7 +51,6 @@ private slots:
     void partsOfOneShapeAreZones();
     void ringsOfFewCornersAreNoZones();
     void aRingThatIsNotClosedIsAZone();
-    void aFileThatIsTooLargeIsRefused();
     void noFileIsNoError();
     void aMissingIndexIsSaid();
     void otherShapesAreRefused();
@@ -141,17 +140,6 @@ void ExclusionZones::aRingThatIsNotClosedIsAZone()
     QCOMPARE(zones->size(), std::size_t(2));
     QCOMPARE(Corners(zones->front()), Corners({{50, 10}, {51, 10}, {52, 11}}));
     QCOMPARE(Corners(zones->back()), Corners({{50, 20}, {51, 20}, {50, 21}}));
-}
-
-/// Memory is taken for none of it.
-void ExclusionZones::aFileThatIsTooLargeIsRefused()
-{
-    const TTemporaryFolder folder;
-    QString error;
-    QVERIFY2(WriteExclusionZones(Path(folder), Zones, &error), qPrintable(error));
-    QVERIFY(QFile::resize(Path(folder), qint64{1} << 30)); // a file with a hole
-    QVERIFY(!ReadExclusionZones(Path(folder), &error));
-    QCOMPARE(error, QString(Path(folder) + QLatin1String(" is damaged")));
 }
 
 void ExclusionZones::noFileIsNoError()
