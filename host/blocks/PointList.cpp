@@ -9,7 +9,8 @@ void PointList::Write(TSerializer& serializer, const std::vector<tagGeoPoint>& p
 
 qint64 PointList::Bytes(const std::vector<tagGeoPoint>& points)
 {
-    return static_cast<qint64>(sizeof(unsigned) + points.size() * 2 * sizeof(double));
+    const auto numbers = static_cast<qint64>(points.size()) * 2;
+    return qint64{sizeof(unsigned)} + numbers * qint64{sizeof(double)};
 }
 
 bool PointList::Read(TSerializer& serializer, std::vector<tagGeoPoint>* points)
