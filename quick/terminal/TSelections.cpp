@@ -78,7 +78,7 @@ QStringList TSelections::list(const QString& kind) const
 QString TSelections::checkLineName(const QString& name, const QString& newName) const
 {
     const QString kind = QStringLiteral("abLine");
-    const QString error = check(kind, newName);
+    QString error = check(kind, newName);
     if (!error.isEmpty() || newName == name)
         return error;
     const QStringList names = list(kind);
