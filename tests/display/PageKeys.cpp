@@ -174,6 +174,7 @@ private slots:
     void goOnWhenWhatTheyActOnGoesAway();
     void showTheirFrameUntilATap_data();
     void showTheirFrameUntilATap();
+    void typeIntoAFieldWithoutAFrame();
     void reachNothingBelowTheLock();
     void walkThroughLists();
     void turnPagesOfLists_data();
@@ -378,6 +379,22 @@ void PageKeys::showTheirFrameUntilATap()
     QQuickItem* const next = display.Window().activeFocusItem();
     QVERIFY(next != stop);
     QCOMPARE(WhatIsUnseen(*next), QString());
+}
+
+/// They may be keys on the screen, which are tapped.
+void PageKeys::typeIntoAFieldWithoutAFrame()
+{
+    TOpenDisplay display(QSize(1280, 800));
+    QVERIFY2(display.IsOpen(), qPrintable(display.Problem()));
+    Activate(display);
+    const QObject& keys = *display.Window().findChild<QObject*>(QLatin1String("display"));
+    display.ShowPage(QStringLiteral("fields"));
+    QVERIFY(display.Tap(QStringLiteral("New client")));
+    display.Type(QStringLiteral("North"));
+    display.Press(Qt::Key_Left);
+    QVERIFY(!keys.property("byKeys").toBool());
+    display.Press(Qt::Key_Tab);
+    QVERIFY(keys.property("byKeys").toBool());
 }
 
 /// Escape leads from any page to the map, but not from a screen that is locked.

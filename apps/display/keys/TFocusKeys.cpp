@@ -94,15 +94,16 @@ void TFocusKeys::SetByKeys(bool isByKeys)
     emit byKeysChanged();
 }
 
-/// Returns whether that is all that the key does. A field of text has a cursor that is seen at all times.
+/// Returns whether that is all that the key does. A field of text has a cursor that is seen at all times, and its keys
+/// may be those on the screen.
 bool TFocusKeys::ShowFocus(const QKeyEvent& event)
 {
-    if (m_IsByKeys)
+    const QQuickItem* const item = m_Window->activeFocusItem();
+    if (m_IsByKeys || (item && (item->flags() & ItemAcceptsInputMethod)))
         return false;
     SetByKeys(true);
-    const QQuickItem* const item = m_Window->activeFocusItem();
-    const bool isFramed = item && IsFocusStop(*item) && !(item->flags() & ItemAcceptsInputMethod);
-    return isFramed && std::find(ActingKeys.begin(), ActingKeys.end(), event.key()) != ActingKeys.end();
+    return item && IsFocusStop(*item) &&
+           std::find(ActingKeys.begin(), ActingKeys.end(), event.key()) != ActingKeys.end();
 }
 
 /// Qt's own order takes the rows of a list in the order in which they were made, which scrolling changes.
@@ -111,6 +112,7 @@ bool TFocusKeys::MoveByTab(const QKeyEvent& event)
     const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
     if (!isTab || (event.modifiers() & ~Qt::ShiftModifier) != Qt::NoModifier)
         return false;
+    SetByKeys(true);
     const bool isForward = event.key() == Qt::Key_Tab && !(event.modifiers() & Qt::ShiftModifier);
     Reveal(m_Window->activeFocusItem(), isForward);
     if (QQuickItem* const next = TabFocus(this, m_Window->activeFocusItem(), isForward))
@@ -127,6 +129,7 @@ void TFocusKeys::keyPressEvent(QKeyEvent* event)
     if (arrow->direction == FOCUS_UP || arrow->direction == FOCUS_DOWN)
         Reveal(m_Window->activeFocusItem(), arrow->direction == FOCUS_DOWN);
     if (QQuickItem* const next = NextFocus(this, m_Window->activeFocusItem(), arrow->direction)) {
+        SetByKeys(true);
         next->forceActiveFocus(Qt::TabFocusReason);
         event->accept();
     }

@@ -18,7 +18,7 @@
 ///
 /// byKeys says whether keys are used: what has the focus is framed then. A tap ends it. The first key after that shows
 /// where the focus is: an arrow, Tab, Enter or the space bar does nothing else when the focus was not framed, so that
-/// no key acts on what is not seen.
+/// no key acts on what is not seen. What is typed into a field does not count; a key that leaves it does.
 class TFocusKeys : public QQuickItem
 {
     Q_OBJECT
