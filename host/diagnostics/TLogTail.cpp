@@ -16,8 +16,9 @@ const int KeptBytes = TLogTail::LongestLine + 2;
 QString Text(const QByteArray& line)
 {
     const int size = static_cast<int>(line.size()) - (line.endsWith('\r') ? 1 : 0);
-    const QString text = QString::fromLatin1(line.constData(), std::min(size, TLogTail::LongestLine));
-    return size > TLogTail::LongestLine ? text + TLogTail::CutMark : text;
+    const bool isCut = size > TLogTail::LongestLine;
+    const QString text = QString::fromLatin1(line.constData(), isCut ? TLogTail::LongestLine : size);
+    return isCut ? text + TLogTail::CutMark : text;
 }
 
 int RoomBehind(const QByteArray& rest) { return KeptBytes - static_cast<int>(rest.size()); }
