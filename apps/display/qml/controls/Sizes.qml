@@ -46,4 +46,6 @@ QtObject {
     readonly property int title: isCompact ? 28 : Math.round(34 * scale)
     readonly property int row: isCompact ? 26 : Math.round(30 * scale)
     readonly property int text: Math.round(24 * scale)
+    // Of a line of that text, where every pixel counts: by itself it is higher with Qt 6 than with Qt 5.
+    readonly property int textLine: Math.round(1.25 * text)
 }

@@ -31,6 +31,7 @@ Item {
 
     TextLabel {
         id: label
+        height: Sizes.textLine
         muted: true
         text: bar.title
     }

@@ -22,6 +22,9 @@ Flow {
             width: Math.min(implicitWidth, contrasts.width)
             rightPadding: Sizes.gap * 2
             wraps: true
+            lineHeightMode: Text.FixedHeight
+            lineHeight: Sizes.textLine
+            height: lineCount * Sizes.textLine
             visible: (model.elementName === contrasts.name || model.groundName === contrasts.name)
                      && !(contrasts.lowOnly && model.isLegible)
             color: model.isLegible ? Scheme.muted : Scheme.attention
