@@ -2,9 +2,9 @@
 #include "StoreTestSupport.h"
 #include "SystemCalls.h"
 #include "TTemporaryFolder.h"
+#include "UsedTerminal.h"
 
 #include "fields/TFieldTree.h"
-#include "stores/TPersistenceHold.h"
 #include "terminal/DataFolder.h"
 #include "terminal/TTerminal.h"
 
@@ -78,18 +78,10 @@ void FieldRenameSurvivesKill::initTestCase()
 {
     KeepTemporaryFilesInMemory();
     const auto folder = MakeRoom();
-    const QString path = DataFolder::StoreFile(folder->Path());
-    {
-        const auto store = OpenStore(path);
-        TPersistenceHold hold(*store);
-        for (const tagSelected& selected : Selection)
-            store->SetParameter(selected.parameter, Named(selected.name, Before), true);
-        QVERIFY(hold.Release());
-        TTerminal terminal(*store);
-        QString error;
-        QVERIFY2(terminal.Start(folder->Path(), &error), qPrintable(error));
-    }
-    m_StoreBytes = FileBytes(path);
+    QMap<EParamID, QString> values;
+    for (const tagSelected& selected : Selection)
+        values[selected.parameter] = Named(selected.name, Before);
+    m_StoreBytes = StoreOfUsedTerminal(folder->Path(), values);
     QVERIFY(!m_StoreBytes.isEmpty());
 }
 
