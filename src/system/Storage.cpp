@@ -1,5 +1,4 @@
 #include "access/Parameters.h"
-#include "system/MemoryInfo.h"
 #include "system/TSystemSettings.h"
 
 #include <QByteArray>
@@ -12,6 +11,7 @@
 #include <cstdio>
 #include <fstream>
 #include <limits>
+#include <string>
 
 namespace {
 
@@ -133,10 +133,23 @@ int TSystemSettings::GetMainMemoryInfo(unsigned* total, unsigned* free) const
 
 void TSystemSettings::GetLinuxMemory(unsigned* total, unsigned* free)
 {
+    *total = 0;
+    *free = 0;
     std::ifstream file("/proc/meminfo"); // reads as an empty file when it cannot be opened
-    const tagMemoryInfo info = ReadMemoryInfo(file);
-    *total = info.total;
-    *free = info.free;
+    std::string key;
+    std::string unit;
+    unsigned value = 0;
+    // The four keys that count all stand in the first lines.
+    for (int found = 0; found < 4 && file >> key >> value;) {
+        file >> unit;
+        if (key == "MemTotal:") {
+            *total = value;
+            ++found;
+        } else if (key == "MemFree:" || key == "Buffers:" || key == "Cached:") {
+            *free += value; // what programs can have
+            ++found;
+        }
+    }
 }
 
 int TSystemSettings::GetCpuLoadInfo(float* load) const
