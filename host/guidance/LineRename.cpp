@@ -92,8 +92,6 @@ bool Run(TParameterStore& store, const QString& lines, const QString& name, cons
 bool RenameGuidanceLine(TParameterStore& store, const QString& name, const QString& newName, QString* error)
 {
     error->clear();
-    if (name == newName)
-        return true;
     const tagParameter& line = *TParameterCatalogue::Find(PARAM_ACTIVE_AB_LINE);
     if (!TParameterCatalogue::Read(line, newName, error).isValid())
         return false;
@@ -110,5 +108,5 @@ bool RenameGuidanceLine(TParameterStore& store, const QString& name, const QStri
         *error = QString::fromLatin1("cannot rename \"%1\": %2").arg(name, DurableFiles::SystemText(ENOENT));
         return false;
     }
-    return IsFree(lines, name, newName, error) && Run(store, lines, name, newName, error);
+    return name == newName || (IsFree(lines, name, newName, error) && Run(store, lines, name, newName, error));
 }

@@ -89,6 +89,7 @@ private slots:
     void initTestCase();
     void theLineAndItsFilesHaveTheNewName();
     void theSelectionOfAnotherLineStays();
+    void theSameNameChangesNothing();
     void aNameThatCannotBeTakenChangesNothing_data();
     void aNameThatCannotBeTakenChangesNothing();
     void nothingIsLostAtAnyCall_data();
@@ -148,6 +149,16 @@ void LineRenames::theSelectionOfAnotherLineStays()
     QCOMPARE(lines.selected, Before);
 }
 
+void LineRenames::theSameNameChangesNothing()
+{
+    const auto folder = MakeRoom();
+    QString error;
+    QVERIFY2(Rename(folder->Path(), Before, Before, 0, 0, &error), qPrintable(error));
+    for (const char* file : Files)
+        QCOMPARE(folder->Content(Named(file, Before)), QByteArray(file));
+    QCOMPARE(LinesOf(folder->Path()).selected, Before);
+}
+
 void LineRenames::aNameThatCannotBeTakenChangesNothing_data()
 {
     QTest::addColumn<QString>("from");
@@ -157,6 +168,7 @@ void LineRenames::aNameThatCannotBeTakenChangesNothing_data()
     QTest::newRow("leads elsewhere") << QString(Before) << QStringLiteral("../Ditch");
     QTest::newRow("empty") << QString(Before) << QString();
     QTest::newRow("no such line") << QStringLiteral("AB_9") << QString(After);
+    QTest::newRow("no such line, the same name") << QStringLiteral("AB_9") << QStringLiteral("AB_9");
     QTest::newRow("a line that leads elsewhere") << QStringLiteral("..") << QString(After);
 }
 
