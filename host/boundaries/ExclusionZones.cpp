@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <memory>
 #include <type_traits>
 #include <utility>
@@ -54,17 +55,28 @@ bool HasItsLength(const QByteArray& bytes)
 
 QString Damage(const QString& path) { return QString::fromLatin1("%1 is damaged").arg(path); }
 
+/// Returns false, with @p error, when a file is larger than is read.
+bool IsOfSize(const QString& path, qint64 bytes, QString* error)
+{
+    if (bytes <= WorkFile::MostBytes)
+        return true;
+    *error = QString::fromLatin1("%1 is too large: it has %2 bytes, a file of exclusion zones has at most %3")
+                 .arg(path, QString::number(bytes), QString::number(WorkFile::MostBytes));
+    return false;
+}
+
 /// Returns false, with @p error, when the file cannot be one of a shapefile.
 bool ReadWhole(const QString& path, QByteArray* bytes, QString* error)
 {
     QFile file;
     const int descriptor = OpenRegularFile(path.toUtf8());
-    const bool isOpen = descriptor >= 0 && file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    if (isOpen && file.size() > WorkFile::MostBytes) {
-        *error = QString::fromLatin1("%1 is too large: it has %2 bytes, a file of exclusion zones has at most %3")
-                     .arg(path, QString::number(file.size()), QString::number(WorkFile::MostBytes));
+    if (descriptor < 0 && errno != EINVAL) {
+        *error = DurableFiles::SystemReason(QLatin1String("cannot read"), path);
         return false;
     }
+    const bool isOpen = descriptor >= 0 && file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    if (isOpen && !IsOfSize(path, file.size(), error))
+        return false;
     *bytes = isOpen ? file.readAll() : QByteArray();
     if (!HasItsLength(*bytes))
         *error = Damage(path);
@@ -227,7 +239,11 @@ bool WriteExclusionZones(const QString& path, const std::vector<TGeoRing>& zones
     std::array<const char*, 3> extensions = {"dbf", "shx", "shp"};
     if (QFile::exists(Beside(path, "shx")))
         std::swap(extensions[1], extensions[2]);
-    return std::all_of(extensions.begin(), extensions.end(), [&](const char* extension) {
-        return DurableFiles::Write(Beside(path, extension), files[extension], error);
-    });
+    const auto isOfSize = [&](const char* extension) {
+        return IsOfSize(Beside(path, extension), files[extension].size(), error);
+    };
+    return std::all_of(extensions.begin(), extensions.end(), isOfSize) &&
+           std::all_of(extensions.begin(), extensions.end(), [&](const char* extension) {
+               return DurableFiles::Write(Beside(path, extension), files[extension], error);
+           });
 }

@@ -26,5 +26,6 @@ CABHOST_EXPORT std::optional<std::vector<TGeoRing>> ReadExclusionZones(const QSt
 /// Writes zones as a shapefile, with index and an attribute table that other programs want; makes its folder. Whatever
 /// happens on the way, a pulled stick or a power cut, ReadExclusionZones() reads the old zones or the new ones: each of
 /// the three files is replaced as a whole, and where the index is of other zones, the shapes themselves are read.
-/// @return false, with @p error, when a zone has fewer than three corners or writing has failed.
+/// @return false, with @p error, when a zone has fewer than three corners, a file would be larger than 64 MB, which is
+/// never read, or writing has failed.
 CABHOST_EXPORT bool WriteExclusionZones(const QString& path, const std::vector<TGeoRing>& zones, QString* error);

@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <shapefil.h>
+#include <sys/resource.h>
 
 #include <algorithm>
 #include <utility>
@@ -58,6 +59,8 @@ private slots:
     void theIndexOfOtherZonesIsNotUsed();
     void filesThatAreTooLargeAreRefused_data();
     void filesThatAreTooLargeAreRefused();
+    void whatCannotBeReadAgainIsNotWritten();
+    void aFileThatCannotBeOpenedIsNotSaidToBeDamaged();
     void damagedFilesDoNoHarm_data();
     void damagedFilesDoNoHarm();
     void whatIsNoZoneIsNotWritten();
@@ -228,6 +231,35 @@ void ExclusionZones::filesThatAreTooLargeAreRefused()
     QVERIFY(!ReadExclusionZones(Path(folder), &error));
     QCOMPARE(error, folder.Path(name) + QLatin1String(" is too large: it has 67108865 bytes, a file of exclusion zones "
                                                       "has at most 67108864"));
+}
+
+void ExclusionZones::whatCannotBeReadAgainIsNotWritten()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY(WriteExclusionZones(Path(folder), Zones, &error));
+    const QByteArray before = folder.Content(QLatin1String("Zones/F1/F1.shp"));
+    const TGeoRing zone((std::size_t{64} << 20) / 16, tagGeoPoint{52, 10});
+    QVERIFY(!WriteExclusionZones(Path(folder), {zone}, &error));
+    QVERIFY2(error.contains(QLatin1String("F1.shp is too large")), qPrintable(error));
+    QCOMPARE(folder.Content(QLatin1String("Zones/F1/F1.shp")), before);
+    QCOMPARE(ReadExclusionZones(Path(folder), &error).value_or(std::vector<TGeoRing>()).size(), Zones.size());
+}
+
+/// A machine that has no descriptor left, as one on which a program loses them.
+void ExclusionZones::aFileThatCannotBeOpenedIsNotSaidToBeDamaged()
+{
+    const TTemporaryFolder folder;
+    QString error;
+    QVERIFY(WriteExclusionZones(Path(folder), Zones, &error));
+    rlimit usual = {};
+    QCOMPARE(getrlimit(RLIMIT_NOFILE, &usual), 0);
+    const rlimit none = {0, usual.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &none), 0);
+    const auto zones = ReadExclusionZones(Path(folder), &error);
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &usual), 0);
+    QVERIFY(!zones);
+    QCOMPARE(error, QLatin1String("cannot read ") + Path(folder) + QLatin1String(": Too many open files"));
 }
 
 void ExclusionZones::damagedFilesDoNoHarm_data()
