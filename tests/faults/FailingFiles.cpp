@@ -123,7 +123,7 @@ void FailingFiles::initTestCase()
 {
     KeepTemporaryFilesInMemory();
     m_Folder = std::make_unique<TTemporaryFolder>();
-    // A stick, on which the room is the folder of the clients. Without mounts, the copy of a field fails.
+    // A stick, on which the room is the folder of the clients.
     m_Stick = std::make_unique<TMemoryDrive>(m_Folder->Path(), "size=100m");
     m_Room = m_Folder->Path(QLatin1String("Clients"));
     m_Threads = Threads();
@@ -191,6 +191,8 @@ void FailingFiles::nothingIsLostAtAnyCall()
     tagFault stopped = Faults[fault];
     if (tried.isOfDatabase && stopped.error == EINTR)
         stopped.calls &= ~unsigned{CALL_SYNC};
+    if (tried.needsStick && !m_Stick->IsMounted())
+        QSKIP("a stick needs mounts of its own");
     const TSilence silence;
     const std::string room = QFile::encodeName(m_Room).toStdString();
     WriteFolder(room, {});

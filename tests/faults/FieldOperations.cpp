@@ -220,7 +220,7 @@ std::vector<tagOperation> FieldOperations()
 {
     return {
         {"renamed field", &PrepareField, &RenameField, &BrokenField, false, true, 4},
-        {"field copied to a stick", &PrepareClients, &CopyField, &BrokenClients, false, true, 4},
+        {"field copied to a stick", &PrepareClients, &CopyField, &BrokenClients, false, true, 4, true},
         {"support bundle", &PrepareStick, &WriteBundle, &BrokenBundle, false, true, 8},
     };
 }

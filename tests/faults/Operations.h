@@ -76,6 +76,9 @@ struct tagOperation
 
     /// How many times as long as the others one run takes, about.
     int cost;
+
+    /// Whether the folder is to be a stick of its own.
+    bool needsStick = false;
 };
 
 /// Of the logs, of the files of the work on a field, of fields and what is written to a stick, and of the store.

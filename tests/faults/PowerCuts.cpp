@@ -77,7 +77,7 @@ void PowerCuts::initTestCase()
 {
     KeepTemporaryFilesInMemory();
     m_Folder = std::make_unique<TTemporaryFolder>();
-    // A stick, on which the room is the folder of the clients. Without mounts, the copy of a field fails.
+    // A stick, on which the room is the folder of the clients.
     m_Stick = std::make_unique<TMemoryDrive>(m_Folder->Path(), "size=100m");
     m_Room = m_Folder->Path(QLatin1String("Clients"));
 }
@@ -108,6 +108,8 @@ void PowerCuts::whatWasPromisedIsThere()
 {
     QFETCH(int, operation);
     const tagOperation& tried = m_Operations[static_cast<std::size_t>(operation)];
+    if (tried.needsStick && !m_Stick->IsMounted())
+        QSKIP("a stick needs mounts of its own");
     const TSilence silence;
     const std::string room = QFile::encodeName(m_Room).toStdString();
     WriteFolder(room, {});
