@@ -3,6 +3,7 @@
 #include <QPointF>
 
 #include <array>
+#include <cstddef>
 #include <vector>
 
 /// How much of each pixel of a tile is covered, 0 to 255. Quadrangles add up to 255, so that the order in which they

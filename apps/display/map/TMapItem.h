@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QQuickItem>
 
+#include <cstddef>
+
 /// The map: it draws a TMapModel from image nodes, which every renderer of Qt Quick has. Ground, grid, coverage, areas
 /// and guidance lines are tiles that are painted once and turned with the map; the vehicle, flags and cross hairs stand
 /// on them. It is a stop of Tab; while it has the focus, the keys of MapKeys act on it.

@@ -6,6 +6,7 @@
 
 #include <QImage>
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <utility>
