@@ -63,7 +63,6 @@ FocusScope {
                 visible: input.text === "" && input.preeditText === ""
                 text: entry.placeholder
                 color: Scheme.buttonText
-                font.italic: true
                 verticalAlignment: Text.AlignVCenter
             }
             TextInput {
