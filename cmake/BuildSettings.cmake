@@ -17,6 +17,7 @@ if(PROJECT_IS_TOP_LEVEL)
     endif()
     include(cmake/CompilerCache.cmake)
 endif()
+include(cmake/PrecompiledHeaders.cmake)
 
 add_library(BuildSettings INTERFACE)
 add_library(CabSettings::BuildSettings ALIAS BuildSettings)
