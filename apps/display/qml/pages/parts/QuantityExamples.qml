@@ -66,33 +66,48 @@ Item {
 
             model: QuantityModel {}
 
-            Item {
-                readonly property bool isStacked: title.implicitWidth + value.implicitWidth + 2 * Sizes.gap > width
+            // The texts of those that are shown: to make all would take most of the time in which the page opens.
+            Loader {
+                readonly property string title: model.title
+                readonly property string value: model.text
 
+                active: index >= examples.first && index <= examples.last
+                visible: active
                 width: rows.width
-                height: isStacked ? title.height + value.height : Math.max(title.height, value.height)
-                visible: index >= examples.first && index <= examples.last
+                sourceComponent: example
+            }
+        }
+    }
 
-                TextLabel {
-                    id: title
+    Component {
+        id: example
 
-                    objectName: "example title"
-                    y: parent.isStacked ? 0 : (parent.height - height) / 2
-                    width: parent.width - (parent.isStacked ? 0 : value.width + 2 * Sizes.gap)
-                    wraps: true
-                    text: model.title
-                }
+        Item {
+            id: words
 
-                TextLabel {
-                    id: value
+            readonly property bool isStacked: title.implicitWidth + value.implicitWidth + 2 * Sizes.gap > width
 
-                    objectName: "example"
-                    anchors.right: parent.right
-                    y: parent.isStacked ? title.height : (parent.height - height) / 2
-                    size: Sizes.row
-                    font.bold: true
-                    text: model.text
-                }
+            height: isStacked ? title.height + value.height : Math.max(title.height, value.height)
+
+            TextLabel {
+                id: title
+
+                objectName: "example title"
+                y: words.isStacked ? 0 : (words.height - height) / 2
+                width: words.width - (words.isStacked ? 0 : value.width + 2 * Sizes.gap)
+                wraps: true
+                text: words.parent ? words.parent.title : ""
+            }
+
+            TextLabel {
+                id: value
+
+                objectName: "example"
+                anchors.right: parent.right
+                y: words.isStacked ? title.height : (words.height - height) / 2
+                size: Sizes.row
+                font.bold: true
+                text: words.parent ? words.parent.value : ""
             }
         }
     }
