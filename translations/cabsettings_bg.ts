@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Файлът има стойност два пъти: %2</translation>
+        <translation>Във файла една настройка се среща два пъти: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>It was unplugged.</source>
-        <translation>Щекерът е изваден.</translation>
+        <translation>Устройството е извадено.</translation>
     </message>
     <message>
         <source>It is not a serial device, or it cannot have this speed.</source>
@@ -487,15 +487,15 @@
     </message>
     <message>
         <source>%1 is damaged or of another kind.</source>
-        <translation>Повредено или от друг вид: %1.</translation>
+        <translation>Файлът %1 е повреден или от друг вид.</translation>
     </message>
     <message>
         <source>%1 is from another version of the software.</source>
-        <translation>От друга версия на софтуера: %1.</translation>
+        <translation>Файлът %1 е от друга версия на софтуера.</translation>
     </message>
     <message>
         <source>%1 is damaged.</source>
-        <translation>Повредено: %1.</translation>
+        <translation>Файлът %1 е повреден.</translation>
     </message>
     <message>
         <source>%1 has other coordinates than WGS84.</source>
@@ -503,7 +503,7 @@
     </message>
     <message>
         <source>%1 is not complete. %2 is missing.</source>
-        <translation>Непълно: %1. Липсва: %2.</translation>
+        <translation>Файлът %1 не е пълен. Липсва: %2.</translation>
     </message>
     <message>
         <source>%1 has no areas.</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>It is damaged.</source>
-        <translation>Повредено.</translation>
+        <translation>Файлът е повреден.</translation>
     </message>
     <message>
         <source>It is not there.</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Set A, the first end of the line, here</source>
-        <translation>Поставяне на A тук — единия край на линията</translation>
+        <translation>Поставяне на A тук — първия край на линията</translation>
     </message>
     <message>
         <source>B</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>На какво разстояние зад мястото на машината се обработва почвата</translation>
+        <translation>На какво разстояние зад мястото на машината е обработената площ</translation>
     </message>
 </context>
 <context>
@@ -994,11 +994,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>метрични единици; иначе на САЩ или английски</translation>
+        <translation>метрични единици; иначе американски или английски</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>мерки на САЩ, когато единиците не са метрични; иначе английски</translation>
+        <translation>американски мерки, когато единиците не са метрични; иначе английски</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>папка на вътрешния диск; иначе в папката с данни</translation>
+        <translation>папка на вътрешния диск; по подразбиране в папката с данни</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>точка на монтиране на сменяемия диск; иначе в папката с данни</translation>
+        <translation>точка на монтиране на сменяемия диск; по подразбиране в папката с данни</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1450,11 +1450,11 @@
     </message>
     <message>
         <source>Grid</source>
-        <translation>Решетка</translation>
+        <translation>Мрежа</translation>
     </message>
     <message>
         <source>Colour of the map&apos;s grid</source>
-        <translation>Цвят на решетката на картата</translation>
+        <translation>Цвят на мрежата на картата</translation>
     </message>
     <message>
         <source>Coverage</source>
@@ -2135,7 +2135,7 @@
     </message>
     <message>
         <source>Serial</source>
-        <translation>COM порт</translation>
+        <translation>Сериен порт</translation>
     </message>
     <message>
         <source>Address</source>
@@ -3270,7 +3270,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Флашката да не се вади до края на записа.</translation>
+        <translation>Флашката да не се вади, докато това не приключи.</translation>
     </message>
 </context>
 <context>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Žádný zákazník.</translation>
+        <translation>Zatím žádný zákazník.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Žádná farma.</translation>
+        <translation>Zatím žádná farma.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Žádné pole.</translation>
+        <translation>Zatím žádné pole.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Žádná zakázka.</translation>
+        <translation>Zatím žádná zakázka.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Soubor obsahuje hodnotu dvakrát: %2</translation>
+        <translation>Nastavení je v souboru dvakrát: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nový</translation>
+        <translation>Nová</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Žádný řádek.</translation>
+        <translation>Zatím žádný řádek.</translation>
     </message>
 </context>
 <context>
@@ -996,11 +996,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrické jednotky; jinak US nebo anglické</translation>
+        <translation>metrické jednotky; jinak americké nebo anglické</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>míry US, pokud jednotky nejsou metrické; jinak anglické</translation>
+        <translation>americké míry, pokud jednotky nejsou metrické; jinak anglické</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1008,7 +1008,7 @@
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>hodiny s 24 hodinami; jinak 12 hodin s am a pm</translation>
+        <translation>24hodinový formát; jinak 12 hodin s am a pm</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>složka vnitřního disku; jinak ve složce dat</translation>
+        <translation>složka vnitřního disku; výchozí je ve složce dat</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>přípojný bod USB disku; jinak ve složce dat</translation>
+        <translation>přípojný bod USB disku; výchozí je ve složce dat</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -3207,7 +3207,7 @@
     </message>
     <message>
         <source>The stick could not be written to the end.</source>
-        <translation>USB disk se nepodařilo zapsat až do konce.</translation>
+        <translation>Zápis na USB disk se nepodařilo dokončit.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be made.</source>
@@ -3270,7 +3270,7 @@
     </message>
     <message>
         <source>Writing</source>
-        <translation>Zapisování</translation>
+        <translation>Zápis</translation>
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>

@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Filen har en værdi to gange: %2</translation>
+        <translation>En indstilling står to gange i filen: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -647,7 +647,7 @@
     </message>
     <message>
         <source>There are too many links to it.</source>
-        <translation>For mange links fører dertil.</translation>
+        <translation>Der er for mange links til det.</translation>
     </message>
 </context>
 <context>
@@ -994,11 +994,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metriske enheder; ellers US eller engelske enheder</translation>
+        <translation>metriske enheder; ellers amerikanske eller engelske enheder</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US-mål, når enhederne ikke er metriske; ellers engelske mål</translation>
+        <translation>amerikanske mål, når enhederne ikke er metriske; ellers engelske mål</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>mappe på det interne drev; ellers i datamappen</translation>
+        <translation>mappe på det interne drev; som standard i datamappen</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>det flytbare drevs monteringspunkt; ellers i datamappen</translation>
+        <translation>det flytbare drevs monteringspunkt; som standard i datamappen</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1871,7 +1871,7 @@
     </message>
     <message>
         <source>No stick is plugged in.</source>
-        <translation>Ingen USB-nøgle sat i.</translation>
+        <translation>Ingen USB-nøgle er sat i.</translation>
     </message>
     <message>
         <source>Name of the profile</source>
@@ -2343,7 +2343,7 @@
     </message>
     <message>
         <source>No stick is plugged in.</source>
-        <translation>Ingen USB-nøgle sat i.</translation>
+        <translation>Ingen USB-nøgle er sat i.</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Det behandlede areal var ikke fuldstændigt og er udeladt: striber %1, bytes %2</translation>
+        <translation>Data om det behandlede areal var ufuldstændige og er udeladt: striber %1, bytes %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1 længere frem</translation>
+        <translation>Flyt %1 op</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3195,7 +3195,7 @@
     </message>
     <message>
         <source>No stick is plugged in.</source>
-        <translation>Ingen USB-nøgle sat i.</translation>
+        <translation>Ingen USB-nøgle er sat i.</translation>
     </message>
     <message>
         <source>The stick was removed before everything was on it.</source>

@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Ein Wert steht zweimal in der Datei: %2</translation>
+        <translation>Eine Einstellung steht zweimal in der Datei: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Ein Teil der bearbeiteten Fläche war unvollständig und fehlt (Streifen: %1, Bytes: %2)</translation>
+        <translation>Daten der bearbeiteten Fläche waren unvollständig und wurden weggelassen (Streifen: %1, Bytes: %2)</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3143,7 +3143,7 @@
     </message>
     <message>
         <source>Flow</source>
-        <translation>Fluss</translation>
+        <translation>Durchfl.</translation>
     </message>
     <message>
         <source>Press.</source>
@@ -3270,7 +3270,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Den Stick stecken lassen, bis alles geschrieben ist.</translation>
+        <translation>Den Stick stecken lassen, bis der Vorgang beendet ist.</translation>
     </message>
 </context>
 <context>

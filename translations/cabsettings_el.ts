@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Κανένας πελάτης.</translation>
+        <translation>Κανένας πελάτης ακόμη.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Κανένα αγρόκτημα.</translation>
+        <translation>Κανένα αγρόκτημα ακόμη.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Κανένας αγρός.</translation>
+        <translation>Κανένας αγρός ακόμη.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Καμία εργασία.</translation>
+        <translation>Καμία εργασία ακόμη.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -415,7 +415,7 @@
     </message>
     <message>
         <source>The file was edited or is damaged.</source>
-        <translation>Το αρχείο τροποποιήθηκε ή έχει φθαρεί.</translation>
+        <translation>Το αρχείο τροποποιήθηκε ή είναι κατεστραμμένο.</translation>
     </message>
     <message>
         <source>%1 cannot be read. %2</source>
@@ -447,11 +447,11 @@
     </message>
     <message>
         <source>The file has a value that is not possible: %2</source>
-        <translation>Το αρχείο έχει μη δυνατή τιμή: %2</translation>
+        <translation>Το αρχείο έχει μη αποδεκτή τιμή: %2</translation>
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Το αρχείο έχει μια τιμή δύο φορές: %2</translation>
+        <translation>Το αρχείο έχει μια ρύθμιση δύο φορές: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>%1 is damaged or of another kind.</source>
-        <translation>Το αρχείο %1 έχει φθαρεί ή είναι άλλου είδους.</translation>
+        <translation>Το αρχείο %1 είναι κατεστραμμένο ή άλλου είδους.</translation>
     </message>
     <message>
         <source>%1 is from another version of the software.</source>
@@ -495,7 +495,7 @@
     </message>
     <message>
         <source>%1 is damaged.</source>
-        <translation>Το αρχείο %1 έχει φθαρεί.</translation>
+        <translation>Το αρχείο %1 είναι κατεστραμμένο.</translation>
     </message>
     <message>
         <source>%1 has other coordinates than WGS84.</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>It is damaged.</source>
-        <translation>Το αρχείο έχει φθαρεί.</translation>
+        <translation>Το αρχείο είναι κατεστραμμένο.</translation>
     </message>
     <message>
         <source>It is not there.</source>
@@ -724,7 +724,7 @@
     </message>
     <message>
         <source>Remove the last sign</source>
-        <translation>Σβήσιμο τελευταίου ψηφίου</translation>
+        <translation>Σβήσιμο τελευταίου χαρακτήρα</translation>
     </message>
     <message>
         <source>C</source>
@@ -765,7 +765,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Νέο</translation>
+        <translation>Νέα</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Καμία γραμμή.</translation>
+        <translation>Καμία γραμμή ακόμη.</translation>
     </message>
 </context>
 <context>
@@ -1046,11 +1046,11 @@
     </message>
     <message>
         <source>language of the display&apos;s texts; a change needs a restart</source>
-        <translation>γλώσσα των κειμένων του τερματικού, η αλλαγή θέλει επανεκκίνηση</translation>
+        <translation>γλώσσα των κειμένων του τερματικού, η αλλαγή απαιτεί επανεκκίνηση</translation>
     </message>
     <message>
         <source>decimal point or comma; a change needs a restart</source>
-        <translation>τελεία ή κόμμα ως υποδιαστολή, η αλλαγή θέλει επανεκκίνηση</translation>
+        <translation>τελεία ή κόμμα ως υποδιαστολή, η αλλαγή απαιτεί επανεκκίνηση</translation>
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>φάκελος του εσωτερικού δίσκου, αλλιώς στον φάκελο δεδομένων</translation>
+        <translation>φάκελος του εσωτερικού δίσκου, από προεπιλογή στον φάκελο δεδομένων</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>σημείο προσάρτησης του αφαιρούμενου δίσκου, αλλιώς στον φάκελο δεδομένων</translation>
+        <translation>σημείο προσάρτησης του αφαιρούμενου δίσκου, από προεπιλογή στον φάκελο δεδομένων</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -2175,7 +2175,7 @@
     </message>
     <message>
         <source>Damaged lines</source>
-        <translation>Φθαρμένες γραμμές</translation>
+        <translation>Αλλοιωμένες γραμμές</translation>
     </message>
     <message>
         <source>Address of the receiver</source>
@@ -3059,11 +3059,11 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Η κάλυψη δεν ήταν πλήρης και παραλείφθηκε: λωρίδες %1, byte %2</translation>
+        <translation>Τα δεδομένα κάλυψης δεν ήταν πλήρη και παραλείφθηκαν: λωρίδες %1, byte %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
-        <translation>Το αρχείο των σημαιών έχει φθαρεί. Οι νέες σημαίες δεν αποθηκεύονται.</translation>
+        <translation>Το αρχείο των σημαιών είναι κατεστραμμένο. Οι νέες σημαίες δεν αποθηκεύονται.</translation>
     </message>
     <message>
         <source>A file could not be stored. %1</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1: πιο μπροστά</translation>
+        <translation>%1: μετακίνηση πάνω</translation>
     </message>
     <message>
         <source>Shown</source>

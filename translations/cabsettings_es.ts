@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Ningún cliente.</translation>
+        <translation>Aún no hay clientes.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Ninguna finca.</translation>
+        <translation>Aún no hay fincas.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Ninguna parcela.</translation>
+        <translation>Aún no hay parcelas.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Ninguna tarea.</translation>
+        <translation>Aún no hay tareas.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>El archivo tiene un valor repetido: %2</translation>
+        <translation>Un ajuste aparece dos veces en el archivo: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Signo decimal</translation>
+        <translation>Separador decimal</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -765,7 +765,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nuevo</translation>
+        <translation>Nueva</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Ninguna línea.</translation>
+        <translation>Aún no hay líneas.</translation>
     </message>
 </context>
 <context>
@@ -990,7 +990,7 @@
     <name>Parameters</name>
     <message>
         <source>the operator has chosen the offset from UTC; GPS time keeps it instead of computing it</source>
-        <translation>el operario ha elegido la diferencia con UTC; la hora GPS la mantiene en lugar de calcularla</translation>
+        <translation>el operador ha elegido la diferencia con UTC; la hora GPS la mantiene en lugar de calcularla</translation>
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
@@ -1054,7 +1054,7 @@
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
-        <translation>cuándo cambian los colores entre día y noche: solo a mano, a la salida y puesta del sol, o con el sol 6 grados bajo el horizonte</translation>
+        <translation>cuándo cambian los colores entre día y noche: solo a mano, a la salida y a la puesta del sol, o con el sol 6 grados bajo el horizonte</translation>
     </message>
     <message>
         <source>what set the display&apos;s clock</source>
@@ -1090,7 +1090,7 @@
     </message>
     <message>
         <source>number of the next file of the user log</source>
-        <translation>número del próximo archivo del registro del operario</translation>
+        <translation>número del próximo archivo del registro del operador</translation>
     </message>
     <message>
         <source>the display&apos;s clock less UTC</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>carpeta del disco interno; si no, en la carpeta de datos</translation>
+        <translation>carpeta del disco interno; por defecto, en la carpeta de datos</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>punto de montaje del disco extraíble; si no, en la carpeta de datos</translation>
+        <translation>punto de montaje del disco extraíble; por defecto, en la carpeta de datos</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1238,7 +1238,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Signo decimal</translation>
+        <translation>Separador decimal</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1286,11 +1286,11 @@
     </message>
     <message>
         <source>Map direction</source>
-        <translation>Sentido del mapa</translation>
+        <translation>Orientación del mapa</translation>
     </message>
     <message>
         <source>Tiles</source>
-        <translation>Casillas</translation>
+        <translation>Recuadros</translation>
     </message>
     <message>
         <source>Light bar at night</source>
@@ -1394,7 +1394,7 @@
     </message>
     <message>
         <source>Next user log</source>
-        <translation>Próx. registro del operario</translation>
+        <translation>Próx. registro del operador</translation>
     </message>
     <message>
         <source>Identity</source>
@@ -1482,11 +1482,11 @@
     </message>
     <message>
         <source>Cross hairs</source>
-        <translation>Cruz de mira</translation>
+        <translation>Retícula</translation>
     </message>
     <message>
         <source>Colour of the cross hairs</source>
-        <translation>Color de la cruz de mira</translation>
+        <translation>Color de la retícula</translation>
     </message>
     <message>
         <source>Outer boundary</source>
@@ -2252,7 +2252,7 @@
     </message>
     <message>
         <source>Tiles</source>
-        <translation>Casillas</translation>
+        <translation>Recuadros</translation>
     </message>
     <message>
         <source>Profiles</source>
@@ -2494,7 +2494,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>El nuevo signo decimal se muestra tras un reinicio.</translation>
+        <translation>El nuevo separador decimal se muestra tras un reinicio.</translation>
     </message>
 </context>
 <context>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>La cobertura estaba incompleta y se omitió: franjas %1, bytes %2</translation>
+        <translation>Había datos de cobertura incompletos y se omitieron: franjas %1, bytes %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3114,7 +3114,7 @@
     <name>TileTurner</name>
     <message>
         <source>Tiles</source>
-        <translation>Casillas</translation>
+        <translation>Recuadros</translation>
     </message>
 </context>
 <context>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1: más adelante</translation>
+        <translation>%1: subir</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3184,7 +3184,7 @@
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Oculta</translation>
+        <translation>Oculto</translation>
     </message>
 </context>
 <context>
@@ -3251,7 +3251,7 @@
     </message>
     <message>
         <source>The profile is imported (settings changed: %1).</source>
-        <translation>El perfil está importado (ajustes cambiados: %1).</translation>
+        <translation>Perfil importado (ajustes cambiados: %1).</translation>
     </message>
     <message>
         <source>It cannot be used.</source>
@@ -3296,11 +3296,11 @@
     </message>
     <message>
         <source>Working. Switch the implement off</source>
-        <translation>Trabajando. Apagar el apero</translation>
+        <translation>Trabajando. Desconectar el apero</translation>
     </message>
     <message>
         <source>Not working. Switch the implement on</source>
-        <translation>Sin trabajar. Encender el apero</translation>
+        <translation>Sin trabajar. Conectar el apero</translation>
     </message>
 </context>
 </TS>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Files for support</source>
-        <translation>Failid toele</translation>
+        <translation>Klienditoe failid</translation>
     </message>
     <message>
         <source>Sunrise and sunset</source>
@@ -325,7 +325,7 @@
     <name>Host</name>
     <message>
         <source>Details for the support: %1</source>
-        <translation>Andmed toele: %1</translation>
+        <translation>Andmed klienditoele: %1</translation>
     </message>
     <message>
         <source>%3 Try: %4</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Failis on väärtus kaks korda: %2</translation>
+        <translation>Failis on säte kaks korda: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -704,7 +704,7 @@
     </message>
     <message>
         <source>now %1</source>
-        <translation>nüüd %1</translation>
+        <translation>praegu %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>Kustuta</translation>
+        <translation>Tühjenda</translation>
     </message>
 </context>
 <context>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Ridu pole.</translation>
+        <translation>Ridu veel pole.</translation>
     </message>
 </context>
 <context>
@@ -994,11 +994,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>meetrilised ühikud; muidu US või inglise ühikud</translation>
+        <translation>meetrilised ühikud; muidu USA või inglise ühikud</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US mõõdud, kui ühikud ei ole meetrilised; muidu inglise mõõdud</translation>
+        <translation>USA mõõdud, kui ühikud ei ole meetrilised; muidu inglise mõõdud</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1090,7 +1090,7 @@
     </message>
     <message>
         <source>number of the next file of the user log</source>
-        <translation>kasutuslogi järgmise faili number</translation>
+        <translation>kasutajalogi järgmise faili number</translation>
     </message>
     <message>
         <source>the display&apos;s clock less UTC</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>sisemise ketta kaust; muidu andmekaustas</translation>
+        <translation>sisemise ketta kaust; vaikimisi andmekaustas</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>eemaldatava ketta ühenduspunkt; muidu andmekaustas</translation>
+        <translation>eemaldatava ketta ühenduspunkt; vaikimisi andmekaustas</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1194,7 +1194,7 @@
     </message>
     <message>
         <source>Gallons and bushels</source>
-        <translation>Gallonid ja bušelid</translation>
+        <translation>Gallonid ja buššelid</translation>
     </message>
     <message>
         <source>Area</source>
@@ -1394,7 +1394,7 @@
     </message>
     <message>
         <source>Next user log</source>
-        <translation>Järgmine kasutuslogi</translation>
+        <translation>Järgmine kasutajalogi</translation>
     </message>
     <message>
         <source>Identity</source>
@@ -1546,11 +1546,11 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>US või inglise</translation>
+        <translation>USA või inglise</translation>
     </message>
     <message>
         <source>US</source>
-        <translation>US</translation>
+        <translation>USA</translation>
     </message>
     <message>
         <source>English</source>
@@ -1662,11 +1662,11 @@
     </message>
     <message>
         <source>US bushel</source>
-        <translation>US-bušel</translation>
+        <translation>US-buššel</translation>
     </message>
     <message>
         <source>UK bushel</source>
-        <translation>UK-bušel</translation>
+        <translation>UK-buššel</translation>
     </message>
     <message>
         <source>kg/L</source>
@@ -1958,11 +1958,11 @@
     </message>
     <message>
         <source>Weight per area</source>
-        <translation>Kaal pindala kohta</translation>
+        <translation>Kaal pinnaühiku kohta</translation>
     </message>
     <message>
         <source>Weight per area and error</source>
-        <translation>Kaal pindala kohta ja hälve</translation>
+        <translation>Kaal pinnaühiku kohta ja hälve</translation>
     </message>
     <message>
         <source>Discharge</source>
@@ -1974,11 +1974,11 @@
     </message>
     <message>
         <source>Nitrogen per area</source>
-        <translation>Lämmastik pindala kohta</translation>
+        <translation>Lämmastik pinnaühiku kohta</translation>
     </message>
     <message>
         <source>Seeds per area</source>
-        <translation>Seemneid pindala kohta</translation>
+        <translation>Seemneid pinnaühiku kohta</translation>
     </message>
     <message>
         <source>Density</source>
@@ -2391,7 +2391,7 @@
     </message>
     <message>
         <source>Write the file for support without names</source>
-        <translation>Kirjuta tugifail nimedeta</translation>
+        <translation>Kirjuta klienditoe fail nimedeta</translation>
     </message>
     <message>
         <source>Support, with names</source>
@@ -2403,7 +2403,7 @@
     </message>
     <message>
         <source>Write the file for support with names</source>
-        <translation>Kirjuta tugifail nimedega</translation>
+        <translation>Kirjuta klienditoe fail nimedega</translation>
     </message>
 </context>
 <context>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Töödeldud pindala ei olnud täielik ja jäeti välja: ribad %1, baidid %2</translation>
+        <translation>Töödeldud pindala andmed ei olnud täielikud ja jäeti välja: ribad %1, baidid %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1 ettepoole</translation>
+        <translation>Liiguta üles: %1</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3191,7 +3191,7 @@
     <name>Transfer</name>
     <message>
         <source>Nothing is imported: some settings were changed here and in the profile.</source>
-        <translation>Midagi ei imporditud: mõnda sätet on muudetud siin ja profiilis.</translation>
+        <translation>Midagi ei imporditud: mõnda sätet on muudetud nii siin kui ka profiilis.</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -3243,11 +3243,11 @@
     </message>
     <message>
         <source>The file for support is not on the stick. %1</source>
-        <translation>Tugifail ei ole mälupulgal. %1</translation>
+        <translation>Klienditoe fail ei ole mälupulgal. %1</translation>
     </message>
     <message>
         <source>The file for support is on the stick: %1.</source>
-        <translation>Tugifail on mälupulgal: %1.</translation>
+        <translation>Klienditoe fail on mälupulgal: %1.</translation>
     </message>
     <message>
         <source>The profile is imported (settings changed: %1).</source>
@@ -3270,7 +3270,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Jäta mälupulk paigale, kuni see on valmis.</translation>
+        <translation>Ära eemalda mälupulka enne, kui kõik on valmis.</translation>
     </message>
 </context>
 <context>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>The file of the settings</source>
-        <translation>Asetusten tiedosto</translation>
+        <translation>Asetustiedosto</translation>
     </message>
     <message>
         <source>Profiles of settings</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Tiedostossa on arvo kahdesti: %2</translation>
+        <translation>Tiedostossa on asetus kahdesti: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -539,11 +539,11 @@
     </message>
     <message>
         <source>The file of the settings has a fault (number %1).</source>
-        <translation>Asetusten tiedostossa on vika (numero %1).</translation>
+        <translation>Asetustiedostossa on virhe (numero %1).</translation>
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
-        <translation>%1 ei aukea. %2</translation>
+        <translation>%1: avaaminen ei onnistu. %2</translation>
     </message>
     <message>
         <source>%1 cannot be created. %2</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Ei rivejä.</translation>
+        <translation>Ei vielä rivejä.</translation>
     </message>
 </context>
 <context>
@@ -994,7 +994,7 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metriset yksiköt; muuten US- tai brittiläiset yksiköt</translation>
+        <translation>metriset yksiköt; muuten US-yksiköt tai brittiläiset</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
@@ -1034,11 +1034,11 @@
     </message>
     <message>
         <source>unit of granular volumes</source>
-        <translation>raetilavuuden yksikkö</translation>
+        <translation>rakeisen aineen tilavuuden yksikkö</translation>
     </message>
     <message>
         <source>unit of granular densities</source>
-        <translation>raetiheyden yksikkö</translation>
+        <translation>rakeisen aineen tiheyden yksikkö</translation>
     </message>
     <message>
         <source>unit of liquid volumes, flows and rates</source>
@@ -1090,7 +1090,7 @@
     </message>
     <message>
         <source>number of the next file of the user log</source>
-        <translation>käyttölokin seuraavan tiedoston numero</translation>
+        <translation>käyttäjälokin seuraavan tiedoston numero</translation>
     </message>
     <message>
         <source>the display&apos;s clock less UTC</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>sisäisen levyn kansio; muuten datakansiossa</translation>
+        <translation>sisäisen levyn kansio; oletuksena datakansiossa</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>siirrettävän levyn liitoskohta; muuten datakansiossa</translation>
+        <translation>siirrettävän levyn liitoskohta; oletuksena datakansiossa</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1214,11 +1214,11 @@
     </message>
     <message>
         <source>Granular volume</source>
-        <translation>Raetilavuus</translation>
+        <translation>Rakeiden tilavuus</translation>
     </message>
     <message>
         <source>Granular density</source>
-        <translation>Raetiheys</translation>
+        <translation>Rakeiden tiheys</translation>
     </message>
     <message>
         <source>Positions</source>
@@ -1394,7 +1394,7 @@
     </message>
     <message>
         <source>Next user log</source>
-        <translation>Seuraava käyttöloki</translation>
+        <translation>Seuraava käyttäjäloki</translation>
     </message>
     <message>
         <source>Identity</source>
@@ -1950,7 +1950,7 @@
     </message>
     <message>
         <source>Granular volume</source>
-        <translation>Raetilavuus</translation>
+        <translation>Rakeiden tilavuus</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -1986,7 +1986,7 @@
     </message>
     <message>
         <source>Granular density</source>
-        <translation>Raetiheys</translation>
+        <translation>Rakeiden tiheys</translation>
     </message>
     <message>
         <source>Volume per revolution</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Käsitelty ala ei ollut täydellinen ja jätettiin pois: kaistat %1, tavut %2</translation>
+        <translation>Käsitellyn alan tiedot olivat puutteelliset, ja ne jätettiin pois: kaistat %1, tavut %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1 eteenpäin</translation>
+        <translation>Siirrä ylemmäs: %1</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3191,7 +3191,7 @@
     <name>Transfer</name>
     <message>
         <source>Nothing is imported: some settings were changed here and in the profile.</source>
-        <translation>Mitään ei tuotu: joitakin asetuksia on muutettu tässä ja profiilissa.</translation>
+        <translation>Mitään ei tuotu: joitakin asetuksia on muutettu sekä tässä että profiilissa.</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -3296,7 +3296,7 @@
     </message>
     <message>
         <source>Working. Switch the implement off</source>
-        <translation>Työssä. Kytke työkone pois</translation>
+        <translation>Työssä. Kytke työkone pois päältä</translation>
     </message>
     <message>
         <source>Not working. Switch the implement on</source>

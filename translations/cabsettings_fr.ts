@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Aucun client.</translation>
+        <translation>Pas encore de client.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Aucune ferme.</translation>
+        <translation>Pas encore de ferme.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Aucune parcelle.</translation>
+        <translation>Pas encore de parcelle.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Aucune tâche.</translation>
+        <translation>Pas encore de tâche.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Le fichier contient deux fois une valeur&#xa0;: %2</translation>
+        <translation>Un réglage figure deux fois dans le fichier&#xa0;: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -615,7 +615,7 @@
     </message>
     <message>
         <source>There is too little memory.</source>
-        <translation>Il y a trop peu de mémoire.</translation>
+        <translation>La mémoire est insuffisante.</translation>
     </message>
     <message>
         <source>It is not possible there.</source>
@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Signe décimal</translation>
+        <translation>Séparateur décimal</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -765,7 +765,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nouveau</translation>
+        <translation>Nouvelle</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Aucune ligne.</translation>
+        <translation>Pas encore de ligne.</translation>
     </message>
 </context>
 <context>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>dossier du disque interne&#xa0;; sinon dans le dossier des données</translation>
+        <translation>dossier du disque interne&#xa0;; par défaut dans le dossier des données</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>point de montage du disque amovible&#xa0;; sinon dans le dossier des données</translation>
+        <translation>point de montage du disque amovible&#xa0;; par défaut dans le dossier des données</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1238,7 +1238,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Signe décimal</translation>
+        <translation>Séparateur décimal</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1286,7 +1286,7 @@
     </message>
     <message>
         <source>Map direction</source>
-        <translation>Sens de la carte</translation>
+        <translation>Orientation carte</translation>
     </message>
     <message>
         <source>Tiles</source>
@@ -2494,7 +2494,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Le nouveau signe décimal s&apos;affiche après un redémarrage.</translation>
+        <translation>Le nouveau séparateur décimal s&apos;affiche après un redémarrage.</translation>
     </message>
 </context>
 <context>
@@ -3059,11 +3059,11 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>La couverture était incomplète et a été laissée de côté&#xa0;: bandes %1, octets %2</translation>
+        <translation>Des données de couverture étaient incomplètes et ont été écartées&#xa0;: bandes %1, octets %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
-        <translation>Le fichier des drapeaux est abîmé&#xa0;; les nouveaux drapeaux ne sont pas enregistrés.</translation>
+        <translation>Le fichier des drapeaux est endommagé&#xa0;; les nouveaux drapeaux ne sont pas enregistrés.</translation>
     </message>
     <message>
         <source>A file could not be stored. %1</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1&#xa0;: plus en avant</translation>
+        <translation>%1&#xa0;: monter</translation>
     </message>
     <message>
         <source>Shown</source>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Nema klijenata.</translation>
+        <translation>Još nema klijenata.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Nema gospodarstava.</translation>
+        <translation>Još nema gospodarstava.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Nema parcela.</translation>
+        <translation>Još nema parcela.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Nema zadataka.</translation>
+        <translation>Još nema zadataka.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Datoteka ima vrijednost dvaput: %2</translation>
+        <translation>Postavka je u datoteci dvaput: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Novo</translation>
+        <translation>Nova</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Nema redaka.</translation>
+        <translation>Još nema redaka.</translation>
     </message>
 </context>
 <context>
@@ -850,7 +850,7 @@
     <name>Main</name>
     <message>
         <source>Cab display</source>
-        <translation>Zaslon kabine</translation>
+        <translation>Zaslon u kabini</translation>
     </message>
 </context>
 <context>
@@ -992,15 +992,15 @@
     <name>Parameters</name>
     <message>
         <source>the operator has chosen the offset from UTC; GPS time keeps it instead of computing it</source>
-        <translation>rukovatelj je odabrao odstupanje od UTC; GPS vrijeme ga zadržava umjesto da ga računa</translation>
+        <translation>rukovatelj je odabrao pomak od UTC; GPS vrijeme ga zadržava umjesto da ga računa</translation>
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metričke jedinice; inače US ili engleske</translation>
+        <translation>metričke jedinice; inače američke ili engleske</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US mjere kad jedinice nisu metričke; inače engleske</translation>
+        <translation>američke mjere kad jedinice nisu metričke; inače engleske</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>mapa unutarnjeg diska; inače u mapi podataka</translation>
+        <translation>mapa unutarnjeg diska; zadano u mapi podataka</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>točka montiranja prijenosnog diska; inače u mapi podataka</translation>
+        <translation>točka montiranja prijenosnog diska; zadano u mapi podataka</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1464,7 +1464,7 @@
     </message>
     <message>
         <source>Colour of covered ground</source>
-        <translation>Boja obrađenog</translation>
+        <translation>Boja obrađene površine</translation>
     </message>
     <message>
         <source>Vehicle on the map</source>
@@ -1484,11 +1484,11 @@
     </message>
     <message>
         <source>Cross hairs</source>
-        <translation>Nišan</translation>
+        <translation>Križić</translation>
     </message>
     <message>
         <source>Colour of the cross hairs</source>
-        <translation>Boja nišana</translation>
+        <translation>Boja križića</translation>
     </message>
     <message>
         <source>Outer boundary</source>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Podaci o obrađenom nisu bili potpuni i izostavljeni su: traka %1, bajtova %2</translation>
+        <translation>Podaci o obrađenoj površini nisu bili potpuni i izostavljeni su: traka %1, bajtova %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3095,19 +3095,19 @@
     </message>
     <message>
         <source>No job is chosen: what is covered is not stored.</source>
-        <translation>Nije odabran zadatak: obrađeno se ne sprema.</translation>
+        <translation>Nije odabran zadatak: obrađena površina se ne sprema.</translation>
     </message>
     <message>
         <source>The coverage of this job cannot be used: what is covered is not stored.</source>
-        <translation>Podaci o obrađenom u ovom zadatku ne mogu se koristiti: obrađeno se ne sprema.</translation>
+        <translation>Podaci o obrađenoj površini u ovom zadatku ne mogu se koristiti: površina se ne sprema.</translation>
     </message>
     <message>
         <source>The coverage cannot be stored, and strips are lost: %1</source>
-        <translation>Podaci o obrađenom ne mogu se spremiti i trake se gube: %1</translation>
+        <translation>Podaci o obrađenoj površini ne mogu se spremiti i trake se gube: %1</translation>
     </message>
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
-        <translation>Podaci o obrađenom ostaju u memoriji dok se ne spreme. %1</translation>
+        <translation>Podaci o obrađenoj površini ostaju u memoriji dok se ne spreme. %1</translation>
     </message>
     <message>
         <source>The job is still being read.</source>

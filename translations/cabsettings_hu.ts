@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>A fájlban egy érték kétszer szerepel: %2</translation>
+        <translation>A fájlban egy beállítás kétszer szerepel: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -743,7 +743,7 @@
     </message>
     <message>
         <source>Set A, the first end of the line, here</source>
-        <translation>Az A pont, a vonal első vége, kijelölése itt</translation>
+        <translation>Az A pont (a vonal első vége) kijelölése itt</translation>
     </message>
     <message>
         <source>B</source>
@@ -752,7 +752,7 @@
     </message>
     <message>
         <source>Set B, the other end of the line, here</source>
-        <translation>A B pont, a vonal másik vége, kijelölése itt</translation>
+        <translation>A B pont (a vonal másik vége) kijelölése itt</translation>
     </message>
     <message>
         <source>Set a flag here</source>
@@ -831,7 +831,7 @@
     </message>
     <message>
         <source>Decides the guidance lines beside each other, and the area done</source>
-        <translation>Meghatározza az egymás melletti vezetővonalakat és a kész területet</translation>
+        <translation>Meghatározza az egymás melletti nyomvonalakat és a kész területet</translation>
     </message>
     <message>
         <source>Implement behind the antenna</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>a UUID in small letters, such as 6ba7b810-9dad-41d1-80b4-00c04fd430c8</source>
-        <translation>egy UUID kisbetűkkel, mint 6ba7b810-9dad-41d1-80b4-00c04fd430c8</translation>
+        <translation>egy UUID kisbetűkkel, például 6ba7b810-9dad-41d1-80b4-00c04fd430c8</translation>
     </message>
     <message>
         <source>simulator, tcp://HOST:PORT, serial:///dev/NAME?baud=N or an absolute path</source>
@@ -941,11 +941,11 @@
     </message>
     <message>
         <source>a time in UTC, such as 2026-03-05T13:05:09Z</source>
-        <translation>egy idő UTC-ben, mint 2026-03-05T13:05:09Z</translation>
+        <translation>egy idő UTC-ben, például 2026-03-05T13:05:09Z</translation>
     </message>
     <message>
         <source>a colour: #rrggbb, #aarrggbb or a name such as navy</source>
-        <translation>egy szín: #rrggbb, #aarrggbb vagy egy név, mint navy</translation>
+        <translation>egy szín: #rrggbb, #aarrggbb vagy egy név, például navy</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -992,11 +992,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrikus egységek; egyébként US vagy angol egységek</translation>
+        <translation>metrikus egységek; egyébként amerikai vagy angol egységek</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US mértékek, ha az egységek nem metrikusak; egyébként angol mértékek</translation>
+        <translation>amerikai mértékek, ha az egységek nem metrikusak; egyébként angol mértékek</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1096,11 +1096,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>a belső meghajtó mappája; egyébként az adatmappában</translation>
+        <translation>a belső meghajtó mappája; alapértelmezés szerint az adatmappában</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>a cserélhető meghajtó csatolási pontja; egyébként az adatmappában</translation>
+        <translation>a cserélhető meghajtó csatolási pontja; alapértelmezés szerint az adatmappában</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1132,7 +1132,7 @@
     </message>
     <message>
         <source>the active straight guidance line</source>
-        <translation>az aktív egyenes vezetővonal</translation>
+        <translation>az aktív egyenes nyomvonal</translation>
     </message>
     <message>
         <source>the active pivot</source>
@@ -1140,7 +1140,7 @@
     </message>
     <message>
         <source>the active guidance curve</source>
-        <translation>az aktív vezetőgörbe</translation>
+        <translation>az aktív görbe nyomvonal</translation>
     </message>
     <message>
         <source>the active shape file of optimal lines</source>
@@ -1472,11 +1472,11 @@
     </message>
     <message>
         <source>Guidance line</source>
-        <translation>Vezetővonal</translation>
+        <translation>Nyomvonal</translation>
     </message>
     <message>
         <source>Colour of the guidance line</source>
-        <translation>A vezetővonal színe</translation>
+        <translation>A nyomvonal színe</translation>
     </message>
     <message>
         <source>Cross hairs</source>
@@ -3055,7 +3055,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>A lefedettség nem volt teljes, és kimaradt: sáv %1, bájt %2</translation>
+        <translation>A lefedettség adatai nem voltak teljesek, és kimaradtak: sáv %1, bájt %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3079,7 +3079,7 @@
     </message>
     <message>
         <source>The guidance line cannot be used. %1</source>
-        <translation>A vezetővonal nem használható. %1</translation>
+        <translation>A nyomvonal nem használható. %1</translation>
     </message>
     <message>
         <source>No job is chosen</source>
@@ -3187,7 +3187,7 @@
     <name>Transfer</name>
     <message>
         <source>Nothing is imported: some settings were changed here and in the profile.</source>
-        <translation>Semmi nem lett importálva: egyes beállítások itt és a profilban is módosultak.</translation>
+        <translation>Nem történt importálás: egyes beállítások itt és a profilban is módosultak.</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -3219,7 +3219,7 @@
     </message>
     <message>
         <source>Nothing is imported. %1</source>
-        <translation>Semmi nem lett importálva. %1</translation>
+        <translation>Nem történt importálás. %1</translation>
     </message>
     <message>
         <source>This display</source>
@@ -3266,7 +3266,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>A pendrive maradjon a helyén az írás végéig.</translation>
+        <translation>A pendrive maradjon a helyén, amíg ez be nem fejeződik.</translation>
     </message>
 </context>
 <context>

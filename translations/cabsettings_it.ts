@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Nessun cliente.</translation>
+        <translation>Ancora nessun cliente.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Nessuna azienda.</translation>
+        <translation>Ancora nessuna azienda.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Nessun campo.</translation>
+        <translation>Ancora nessun campo.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Nessun lavoro.</translation>
+        <translation>Ancora nessun lavoro.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Il file ha due volte un valore: %2</translation>
+        <translation>Un&apos;impostazione compare due volte nel file: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -615,11 +615,11 @@
     </message>
     <message>
         <source>There is too little memory.</source>
-        <translation>C&apos;è troppo poca memoria.</translation>
+        <translation>La memoria è insufficiente.</translation>
     </message>
     <message>
         <source>It is not possible there.</source>
-        <translation>Lì non è possibile.</translation>
+        <translation>In quella posizione non è possibile.</translation>
     </message>
     <message>
         <source>The device refuses the connection.</source>
@@ -643,11 +643,11 @@
     </message>
     <message>
         <source>It is a link to another place.</source>
-        <translation>È un collegamento a un altro posto.</translation>
+        <translation>È un collegamento a un&apos;altra posizione.</translation>
     </message>
     <message>
         <source>There are too many links to it.</source>
-        <translation>Troppi collegamenti portano lì.</translation>
+        <translation>Ci sono troppi collegamenti a questo file.</translation>
     </message>
 </context>
 <context>
@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Segno decimale</translation>
+        <translation>Separatore decimale</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -765,7 +765,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nuovo</translation>
+        <translation>Nuova</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Nessuna riga.</translation>
+        <translation>Ancora nessuna riga.</translation>
     </message>
 </context>
 <context>
@@ -1006,7 +1006,7 @@
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>orologio di 24 ore; altrimenti 12 ore con am e pm</translation>
+        <translation>orologio a 24 ore; altrimenti a 12 ore con am e pm</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>
@@ -1034,11 +1034,11 @@
     </message>
     <message>
         <source>unit of granular volumes</source>
-        <translation>unità dei volumi di granulato</translation>
+        <translation>unità dei volumi di granulari</translation>
     </message>
     <message>
         <source>unit of granular densities</source>
-        <translation>unità delle densità di granulato</translation>
+        <translation>unità delle densità di granulari</translation>
     </message>
     <message>
         <source>unit of liquid volumes, flows and rates</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>cartella del disco interno; altrimenti nella cartella dei dati</translation>
+        <translation>cartella del disco interno; se non indicata, nella cartella dei dati</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>punto di montaggio del disco rimovibile; altrimenti nella cartella dei dati</translation>
+        <translation>punto di montaggio del disco rimovibile; se non indicato, nella cartella dei dati</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1214,11 +1214,11 @@
     </message>
     <message>
         <source>Granular volume</source>
-        <translation>Volume di granulato</translation>
+        <translation>Volume di granulari</translation>
     </message>
     <message>
         <source>Granular density</source>
-        <translation>Densità di granulato</translation>
+        <translation>Densità di granulari</translation>
     </message>
     <message>
         <source>Positions</source>
@@ -1238,7 +1238,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Segno decimale</translation>
+        <translation>Separatore decimale</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1250,7 +1250,7 @@
     </message>
     <message>
         <source>Time zone set by hand</source>
-        <translation>Fuso orario a mano</translation>
+        <translation>Fuso orario manuale</translation>
     </message>
     <message>
         <source>Time zone, hours</source>
@@ -1286,7 +1286,7 @@
     </message>
     <message>
         <source>Map direction</source>
-        <translation>Direzione mappa</translation>
+        <translation>Orientamento mappa</translation>
     </message>
     <message>
         <source>Tiles</source>
@@ -1950,7 +1950,7 @@
     </message>
     <message>
         <source>Granular volume</source>
-        <translation>Volume di granulato</translation>
+        <translation>Volume di granulari</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -1986,7 +1986,7 @@
     </message>
     <message>
         <source>Granular density</source>
-        <translation>Densità di granulato</translation>
+        <translation>Densità di granulari</translation>
     </message>
     <message>
         <source>Volume per revolution</source>
@@ -2494,7 +2494,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Il nuovo segno decimale è visibile dopo il riavvio.</translation>
+        <translation>Il nuovo separatore decimale è visibile dopo il riavvio.</translation>
     </message>
 </context>
 <context>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>La copertura era incompleta ed è stata tralasciata: strisce %1, byte %2</translation>
+        <translation>Alcuni dati di copertura erano incompleti e sono stati tralasciati: strisce %1, byte %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1: più avanti</translation>
+        <translation>%1: sposta in su</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3251,7 +3251,7 @@
     </message>
     <message>
         <source>The profile is imported (settings changed: %1).</source>
-        <translation>Il profilo è importato (impostazioni modificate: %1).</translation>
+        <translation>Profilo importato (impostazioni modificate: %1).</translation>
     </message>
     <message>
         <source>It cannot be used.</source>
@@ -3288,19 +3288,19 @@
     <name>WorkingButton</name>
     <message>
         <source>Working</source>
-        <translation>Al lavoro</translation>
+        <translation>In lavoro</translation>
     </message>
     <message>
         <source>Not working</source>
-        <translation>Non al lavoro</translation>
+        <translation>Non in lavoro</translation>
     </message>
     <message>
         <source>Working. Switch the implement off</source>
-        <translation>Al lavoro. Spegnere l&apos;attrezzo</translation>
+        <translation>In lavoro. Disattivare l&apos;attrezzo</translation>
     </message>
     <message>
         <source>Not working. Switch the implement on</source>
-        <translation>Non al lavoro. Accendere l&apos;attrezzo</translation>
+        <translation>Non in lavoro. Attivare l&apos;attrezzo</translation>
     </message>
 </context>
 </TS>

@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>ファイルに同じ値が2つあります：%2</translation>
+        <translation>ファイルに同じ項目が2回あります：%2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>The serial port has a fault (number %1).</source>
-        <translation>シリアルポートの異常です（番号 %1）。</translation>
+        <translation>シリアルポートに異常があります（番号 %1）。</translation>
     </message>
     <message>
         <source>%1 is damaged or of another kind.</source>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>The file of the settings has a fault (number %1).</source>
-        <translation>設定ファイルの異常です（番号 %1）。</translation>
+        <translation>設定ファイルに異常があります（番号 %1）。</translation>
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>The drive has a fault.</source>
-        <translation>ドライブの異常です。</translation>
+        <translation>ドライブに異常があります。</translation>
     </message>
     <message>
         <source>The drive can only be read.</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>The device has closed the connection.</source>
-        <translation>機器が接続を閉じました。</translation>
+        <translation>機器が接続を切断しました。</translation>
     </message>
     <message>
         <source>There is no device with this address.</source>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>Implement behind the antenna</source>
-        <translation>アンテナから後方の作業機</translation>
+        <translation>アンテナ後方の作業機までの距離</translation>
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
@@ -1096,11 +1096,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>内部ドライブのフォルダ。指定がなければデータフォルダ内</translation>
+        <translation>内部ドライブのフォルダ。既定ではデータフォルダ内</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>取り外しドライブのマウント先。指定がなければデータフォルダ内</translation>
+        <translation>取り外しドライブのマウント先。既定ではデータフォルダ内</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1120,7 +1120,7 @@
     </message>
     <message>
         <source>when the sun switched the colours last</source>
-        <translation>太陽により最後に色が切り替わった時刻</translation>
+        <translation>太陽の高さに応じて最後に色が切り替わった時刻</translation>
     </message>
     <message>
         <source>the active job</source>
@@ -3153,7 +3153,7 @@
     </message>
     <message>
         <source>Driven</source>
-        <translation>走行</translation>
+        <translation>走行距離</translation>
     </message>
     <message>
         <source>Position</source>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Klientų nėra.</translation>
+        <translation>Klientų dar nėra.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Užduočių nėra.</translation>
+        <translation>Užduočių dar nėra.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The name contains a sign that is not complete.</source>
-        <translation>Pavadinime yra nepilnas ženklas.</translation>
+        <translation>Pavadinime yra neužbaigtas ženklas.</translation>
     </message>
     <message>
         <source>The name must not end in a full stop or a blank.</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>The file is not complete.</source>
-        <translation>Failas nepilnas.</translation>
+        <translation>Faile ne visi duomenys.</translation>
     </message>
     <message>
         <source>The file is from another version of the software.</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Faile reikšmė yra du kartus: %2</translation>
+        <translation>Nuostata faile yra du kartus: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>The serial port has a fault (number %1).</source>
-        <translation>Nuosekliosios jungties gedimas (numeris %1).</translation>
+        <translation>Nuosekliojo prievado gedimas (numeris %1).</translation>
     </message>
     <message>
         <source>%1 is damaged or of another kind.</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>%1 is not complete. %2 is missing.</source>
-        <translation>%1: duomenys nepilni. Trūksta: %2.</translation>
+        <translation>%1: ne visi duomenys. Trūksta: %2.</translation>
     </message>
     <message>
         <source>%1 has no areas.</source>
@@ -695,13 +695,13 @@
     <message>
         <source>Too large.
 %1</source>
-        <translation>Per daug.
+        <translation>Per didelis.
 %1</translation>
     </message>
     <message>
         <source>Too small.
 %1</source>
-        <translation>Per mažai.
+        <translation>Per mažas.
 %1</translation>
     </message>
     <message>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Naujas</translation>
+        <translation>Nauja</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Eilučių nėra.</translation>
+        <translation>Eilučių dar nėra.</translation>
     </message>
 </context>
 <context>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>Decides the guidance lines beside each other, and the area done</source>
-        <translation>Nustato apdirbtą plotą ir atstumą tarp vedimo linijų</translation>
+        <translation>Nustato apdirbtą plotą ir atstumą tarp navigavimo linijų</translation>
     </message>
     <message>
         <source>Implement behind the antenna</source>
@@ -1028,7 +1028,7 @@
     </message>
     <message>
         <source>unit of areas, and of rates per area</source>
-        <translation>ploto ir normų ploto vienetui vienetas</translation>
+        <translation>ploto ir normų pagal plotą vienetas</translation>
     </message>
     <message>
         <source>unit of short distances: widths, offsets</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>vidinio disko aplankas; kitaip duomenų aplanke</translation>
+        <translation>vidinio disko aplankas; numatytasis – duomenų aplanke</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>keičiamojo disko prijungimo taškas; kitaip duomenų aplanke</translation>
+        <translation>keičiamojo disko prijungimo taškas; numatytasis – duomenų aplanke</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1136,7 +1136,7 @@
     </message>
     <message>
         <source>the active straight guidance line</source>
-        <translation>aktyvi tiesi vedimo linija</translation>
+        <translation>aktyvi tiesi navigavimo linija</translation>
     </message>
     <message>
         <source>the active pivot</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>the active guidance curve</source>
-        <translation>aktyvi vedimo kreivė</translation>
+        <translation>aktyvi navigavimo kreivė</translation>
     </message>
     <message>
         <source>the active shape file of optimal lines</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>the active boom leveller</source>
-        <translation>aktyvus sijos lygintuvas</translation>
+        <translation>aktyvus sijos niveliavimas</translation>
     </message>
     <message>
         <source>the active client</source>
@@ -1340,7 +1340,7 @@
     </message>
     <message>
         <source>Boom leveller</source>
-        <translation>Sijos lygintuvas</translation>
+        <translation>Sijos niveliavimas</translation>
     </message>
     <message>
         <source>Steering profile</source>
@@ -1476,11 +1476,11 @@
     </message>
     <message>
         <source>Guidance line</source>
-        <translation>Vedimo linija</translation>
+        <translation>Navigavimo linija</translation>
     </message>
     <message>
         <source>Colour of the guidance line</source>
-        <translation>Vedimo linijos spalva</translation>
+        <translation>Navigavimo linijos spalva</translation>
     </message>
     <message>
         <source>Cross hairs</source>
@@ -2086,7 +2086,7 @@
     </message>
     <message>
         <source>Simulated</source>
-        <translation>Imituojama</translation>
+        <translation>Simuliuojama</translation>
     </message>
     <message>
         <source>The receiver sends nothing.</source>
@@ -2102,7 +2102,7 @@
     </message>
     <message>
         <source>The simulated field is done.</source>
-        <translation>Imituojamas laukas baigtas.</translation>
+        <translation>Simuliuojamas laukas baigtas.</translation>
     </message>
     <message>
         <source>The recording of the receiver is over.</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message>
         <source>Simulator</source>
-        <translation>Imitatorius</translation>
+        <translation>Simuliatorius</translation>
     </message>
     <message>
         <source>File</source>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Apdirbto ploto duomenys buvo nepilni ir dalis praleista: juostos %1, baitai %2</translation>
+        <translation>Apdirbto ploto duomenys buvo ne visi, dalis praleista: juostos %1, baitai %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3087,7 +3087,7 @@
     </message>
     <message>
         <source>The guidance line cannot be used. %1</source>
-        <translation>Vedimo linijos naudoti negalima. %1</translation>
+        <translation>Navigavimo linijos naudoti negalima. %1</translation>
     </message>
     <message>
         <source>No job is chosen</source>
@@ -3195,7 +3195,7 @@
     <name>Transfer</name>
     <message>
         <source>Nothing is imported: some settings were changed here and in the profile.</source>
-        <translation>Niekas neimportuota: kai kurios nuostatos pakeistos čia ir profilyje.</translation>
+        <translation>Nieko neimportuota: kai kurios nuostatos pakeistos čia ir profilyje.</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -3227,7 +3227,7 @@
     </message>
     <message>
         <source>Nothing is imported. %1</source>
-        <translation>Niekas neimportuota. %1</translation>
+        <translation>Nieko neimportuota. %1</translation>
     </message>
     <message>
         <source>This display</source>

@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Failā vērtība ir divreiz: %2</translation>
+        <translation>Failā iestatījums ir divreiz: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -718,7 +718,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Decimālzīme</translation>
+        <translation>Decimālatdalītājs</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Jauns</translation>
+        <translation>Jauna</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>iekšējā diska mape; citādi datu mapē</translation>
+        <translation>iekšējā diska mape; pēc noklusējuma datu mapē</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>USB diska montēšanas punkts; citādi datu mapē</translation>
+        <translation>noņemamā diska montēšanas punkts; pēc noklusējuma datu mapē</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Decimālzīme</translation>
+        <translation>Decimālatdalītājs</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -2498,7 +2498,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Jaunā decimālzīme būs redzama pēc restartēšanas.</translation>
+        <translation>Jaunais decimālatdalītājs būs redzams pēc restartēšanas.</translation>
     </message>
 </context>
 <context>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Apstrādātās platības dati nebija pilnīgi un daļa izlaista: joslas %1, baiti %2</translation>
+        <translation>Apstrādātās platības dati nebija pilnīgi, un daļa izlaista: joslas %1, baiti %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3161,7 +3161,7 @@
     </message>
     <message>
         <source>Driven</source>
-        <translation>Ceļš</translation>
+        <translation>Nobraukts</translation>
     </message>
     <message>
         <source>Position</source>
@@ -3180,15 +3180,15 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1: uz priekšu</translation>
+        <translation>Pārvietot augšup: %1</translation>
     </message>
     <message>
         <source>Shown</source>
-        <translation>Rādīt</translation>
+        <translation>Redzams</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation>Slēpt</translation>
+        <translation>Paslēpts</translation>
     </message>
 </context>
 <context>
@@ -3274,7 +3274,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Neizņemt USB disku, līdz ierakstīšana ir pabeigta.</translation>
+        <translation>Neizņemt USB disku, līdz darbība ir pabeigta.</translation>
     </message>
 </context>
 <context>

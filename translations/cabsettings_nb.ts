@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Filen har en verdi to ganger: %2</translation>
+        <translation>En innstilling står to ganger i filen: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -994,11 +994,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metriske enheter; ellers US eller engelske enheter</translation>
+        <translation>metriske enheter; ellers amerikanske eller engelske enheter</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US-mål når enhetene ikke er metriske; ellers engelske mål</translation>
+        <translation>amerikanske mål når enhetene ikke er metriske; ellers engelske mål</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>mappe på den interne disken; ellers i datamappen</translation>
+        <translation>mappe på den interne disken; som standard i datamappen</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>monteringspunkt for den flyttbare disken; ellers i datamappen</translation>
+        <translation>monteringspunkt for den flyttbare disken; som standard i datamappen</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1142,7 +1142,7 @@
     </message>
     <message>
         <source>the active guidance curve</source>
-        <translation>den aktive kurven å følge</translation>
+        <translation>den aktive kurvede kjørelinjen</translation>
     </message>
     <message>
         <source>the active shape file of optimal lines</source>
@@ -1871,7 +1871,7 @@
     </message>
     <message>
         <source>No stick is plugged in.</source>
-        <translation>Ingen minnepinne satt i.</translation>
+        <translation>Ingen minnepinne er satt i.</translation>
     </message>
     <message>
         <source>Name of the profile</source>
@@ -2343,7 +2343,7 @@
     </message>
     <message>
         <source>No stick is plugged in.</source>
-        <translation>Ingen minnepinne satt i.</translation>
+        <translation>Ingen minnepinne er satt i.</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Det behandlede arealet var ikke fullstendig og er utelatt: striper %1, byte %2</translation>
+        <translation>Data om det behandlede arealet var ufullstendige og er utelatt: striper %1, byte %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1 lenger fram</translation>
+        <translation>Flytt %1 opp</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3195,7 +3195,7 @@
     </message>
     <message>
         <source>No stick is plugged in.</source>
-        <translation>Ingen minnepinne satt i.</translation>
+        <translation>Ingen minnepinne er satt i.</translation>
     </message>
     <message>
         <source>The stick was removed before everything was on it.</source>

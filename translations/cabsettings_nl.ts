@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Het bestand bevat een waarde twee keer: %2</translation>
+        <translation>Een instelling staat twee keer in het bestand: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -647,7 +647,7 @@
     </message>
     <message>
         <source>There are too many links to it.</source>
-        <translation>Er zijn te veel koppelingen naartoe.</translation>
+        <translation>Te veel koppelingen verwijzen hiernaar.</translation>
     </message>
 </context>
 <context>
@@ -994,11 +994,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrische eenheden; anders US of Engelse eenheden</translation>
+        <translation>metrische eenheden; anders Amerikaanse of Engelse eenheden</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>US-maten als de eenheden niet metrisch zijn; anders Engelse maten</translation>
+        <translation>Amerikaanse maten als de eenheden niet metrisch zijn; anders Engelse maten</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>map van de interne schijf; anders in de gegevensmap</translation>
+        <translation>map van de interne schijf; standaard in de gegevensmap</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>koppelpunt van de verwisselbare schijf; anders in de gegevensmap</translation>
+        <translation>koppelpunt van de verwisselbare schijf; standaard in de gegevensmap</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1142,7 +1142,7 @@
     </message>
     <message>
         <source>the active guidance curve</source>
-        <translation>de actieve curve om te volgen</translation>
+        <translation>de actieve gebogen werklijn</translation>
     </message>
     <message>
         <source>the active shape file of optimal lines</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>De bewerkte oppervlakte was niet volledig en is weggelaten: stroken %1, bytes %2</translation>
+        <translation>Gegevens van de bewerkte oppervlakte waren onvolledig en zijn weggelaten: stroken %1, bytes %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3262,11 +3262,11 @@
     <name>TransferState</name>
     <message>
         <source>Reading</source>
-        <translation>Lezen</translation>
+        <translation>Bezig met lezen</translation>
     </message>
     <message>
         <source>Writing</source>
-        <translation>Schrijven</translation>
+        <translation>Bezig met schrijven</translation>
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>

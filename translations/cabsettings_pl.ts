@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Brak klientów.</translation>
+        <translation>Na razie brak klientów.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Brak gospodarstw.</translation>
+        <translation>Na razie brak gospodarstw.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Brak pól.</translation>
+        <translation>Na razie brak pól.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Brak zleceń.</translation>
+        <translation>Na razie brak zleceń.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Plik zawiera wartość dwukrotnie: %2</translation>
+        <translation>Ustawienie jest w pliku dwa razy: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -461,7 +461,7 @@
     </message>
     <message>
         <source>The device is not there.</source>
-        <translation>Urządzenia nie ma.</translation>
+        <translation>Brak urządzenia.</translation>
     </message>
     <message>
         <source>It is not permitted, or another program uses it.</source>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nowy</translation>
+        <translation>Nowa</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Brak wierszy.</translation>
+        <translation>Na razie brak wierszy.</translation>
     </message>
 </context>
 <context>
@@ -843,7 +843,7 @@
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
-        <translation>Jak daleko za miejscem pojazdu obrabiany jest grunt</translation>
+        <translation>Jak daleko za pozycją pojazdu obrabiany jest grunt</translation>
     </message>
 </context>
 <context>
@@ -996,11 +996,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>jednostki metryczne; w innym razie US lub angielskie</translation>
+        <translation>jednostki metryczne; w innym razie amerykańskie lub angielskie</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>miary US, gdy jednostki nie są metryczne; w innym razie angielskie</translation>
+        <translation>miary amerykańskie, gdy jednostki nie są metryczne; w innym razie angielskie</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -3274,7 +3274,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Nie wyjmuj nośnika USB do zakończenia zapisu.</translation>
+        <translation>Nie wyjmuj nośnika USB do zakończenia operacji.</translation>
     </message>
 </context>
 <context>

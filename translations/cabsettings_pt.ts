@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Nenhum cliente.</translation>
+        <translation>Nenhum cliente ainda.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Nenhuma fazenda.</translation>
+        <translation>Nenhuma fazenda ainda.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Nenhum talhão.</translation>
+        <translation>Nenhum talhão ainda.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Nenhum trabalho.</translation>
+        <translation>Nenhum trabalho ainda.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>O arquivo tem um valor repetido: %2</translation>
+        <translation>O arquivo tem o mesmo ajuste duas vezes: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -611,7 +611,7 @@
     </message>
     <message>
         <source>Too many files are open.</source>
-        <translation>Há arquivos abertos demais.</translation>
+        <translation>Há arquivos demais abertos.</translation>
     </message>
     <message>
         <source>There is too little memory.</source>
@@ -693,13 +693,13 @@
     <message>
         <source>Too large.
 %1</source>
-        <translation>Muito grande.
+        <translation>Grande demais.
 %1</translation>
     </message>
     <message>
         <source>Too small.
 %1</source>
-        <translation>Muito pequeno.
+        <translation>Pequeno demais.
 %1</translation>
     </message>
     <message>
@@ -765,7 +765,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Novo</translation>
+        <translation>Nova</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Nenhuma linha.</translation>
+        <translation>Nenhuma linha ainda.</translation>
     </message>
 </context>
 <context>
@@ -994,11 +994,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>unidades métricas; senão, unidades US ou imperiais</translation>
+        <translation>unidades métricas; senão, unidades dos EUA ou imperiais</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>medidas US quando as unidades não são métricas; senão, medidas imperiais</translation>
+        <translation>medidas dos EUA quando as unidades não são métricas; senão, medidas imperiais</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1054,7 +1054,7 @@
     </message>
     <message>
         <source>when the colours switch between day and night: only by hand, at sunrise and sunset, or with the sun 6 degrees below the horizon</source>
-        <translation>quando as cores trocam entre dia e noite: só manualmente, ao nascer e pôr do sol, ou com o sol 6 graus abaixo do horizonte</translation>
+        <translation>quando as cores trocam entre dia e noite: só manualmente, ao nascer e ao pôr do sol, ou com o sol 6 graus abaixo do horizonte</translation>
     </message>
     <message>
         <source>what set the display&apos;s clock</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>pasta do disco interno; senão, na pasta de dados</translation>
+        <translation>pasta do disco interno; por padrão, na pasta de dados</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>ponto de montagem do disco removível; senão, na pasta de dados</translation>
+        <translation>ponto de montagem do disco removível; por padrão, na pasta de dados</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1286,7 +1286,7 @@
     </message>
     <message>
         <source>Map direction</source>
-        <translation>Direção do mapa</translation>
+        <translation>Orientação do mapa</translation>
     </message>
     <message>
         <source>Tiles</source>
@@ -1546,11 +1546,11 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>US ou imperial</translation>
+        <translation>EUA ou imperial</translation>
     </message>
     <message>
         <source>US</source>
-        <translation>US</translation>
+        <translation>EUA</translation>
     </message>
     <message>
         <source>English</source>
@@ -1998,7 +1998,7 @@
     </message>
     <message>
         <source>Flow meter</source>
-        <translation>Fluxômetro</translation>
+        <translation>Medidor de vazão</translation>
     </message>
     <message>
         <source>Wheel sensor</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>A cobertura estava incompleta e foi omitida: faixas %1, bytes %2</translation>
+        <translation>Os dados de cobertura estavam incompletos e foram omitidos: faixas %1, bytes %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1: mais à frente</translation>
+        <translation>%1: mover para cima</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -3292,7 +3292,7 @@
     </message>
     <message>
         <source>Not working</source>
-        <translation>Sem trabalhar</translation>
+        <translation>Desligado</translation>
     </message>
     <message>
         <source>Working. Switch the implement off</source>
@@ -3300,7 +3300,7 @@
     </message>
     <message>
         <source>Not working. Switch the implement on</source>
-        <translation>Sem trabalhar. Ligar o implemento</translation>
+        <translation>Desligado. Ligar o implemento</translation>
     </message>
 </context>
 </TS>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Niciun client.</translation>
+        <translation>Încă niciun client.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Nicio fermă.</translation>
+        <translation>Încă nicio fermă.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Nicio parcelă.</translation>
+        <translation>Încă nicio parcelă.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Nicio lucrare.</translation>
+        <translation>Încă nicio lucrare.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>Another program is working on the fields. Try again later.</source>
-        <translation>Alt program lucrează la parcele. A se încerca mai târziu.</translation>
+        <translation>Alt program lucrează la parcele. A se încerca din nou mai târziu.</translation>
     </message>
     <message>
         <source>The selection could not be stored.</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Fișierul are o valoare de două ori: %2</translation>
+        <translation>Fișierul conține o setare de două ori: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>The file of the settings has a fault (number %1).</source>
-        <translation>Fișierul setărilor are o defecțiune (numărul %1).</translation>
+        <translation>Fișierul setărilor are o eroare (numărul %1).</translation>
     </message>
     <message>
         <source>%1 cannot be opened. %2</source>
@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>Set A, the first end of the line, here</source>
-        <translation>Fixarea punctului A, primul capăt al liniei, aici</translation>
+        <translation>Fixarea punctului A (primul capăt al liniei) aici</translation>
     </message>
     <message>
         <source>B</source>
@@ -756,7 +756,7 @@
     </message>
     <message>
         <source>Set B, the other end of the line, here</source>
-        <translation>Fixarea punctului B, celălalt capăt al liniei, aici</translation>
+        <translation>Fixarea punctului B (celălalt capăt al liniei) aici</translation>
     </message>
     <message>
         <source>Set a flag here</source>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Nou</translation>
+        <translation>Nouă</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Nicio linie.</translation>
+        <translation>Încă nicio linie.</translation>
     </message>
 </context>
 <context>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation>%1 până la %2</translation>
+        <translation>de la %1 la %2</translation>
     </message>
     <message>
         <source>Not a whole number.</source>
@@ -996,11 +996,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>unități metrice; altfel unități US sau imperiale</translation>
+        <translation>unități metrice; altfel unități americane sau imperiale</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>măsuri US dacă unitățile nu sunt metrice; altfel măsuri imperiale</translation>
+        <translation>măsuri americane dacă unitățile nu sunt metrice; altfel măsuri imperiale</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1100,15 +1100,15 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>dosarul discului intern; altfel în dosarul de date</translation>
+        <translation>dosarul discului intern; implicit în dosarul de date</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>punctul de montare al discului detașabil; altfel în dosarul de date</translation>
+        <translation>punctul de montare al discului detașabil; implicit în dosarul de date</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
-        <translation>identificatorul terminalului, purtat de profilurile lui</translation>
+        <translation>identificatorul terminalului, pe care îl conțin profilurile lui</translation>
     </message>
     <message>
         <source>where the sentences of the receiver come from</source>
@@ -1548,11 +1548,11 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>US sau imperial</translation>
+        <translation>SUA sau imperial</translation>
     </message>
     <message>
         <source>US</source>
-        <translation>US</translation>
+        <translation>SUA</translation>
     </message>
     <message>
         <source>English</source>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Acoperirea nu era completă și a fost lăsată deoparte: fâșii %1, octeți %2</translation>
+        <translation>Datele acoperirii nu erau complete și au fost lăsate deoparte: fâșii %1, octeți %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3180,7 +3180,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1: mai în față</translation>
+        <translation>%1: mutare în sus</translation>
     </message>
     <message>
         <source>Shown</source>

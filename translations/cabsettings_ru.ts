@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Значение есть в файле дважды: %2</translation>
+        <translation>Настройка указана в файле дважды: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -718,7 +718,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Десятичный знак</translation>
+        <translation>Десятичный разделитель</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -992,15 +992,15 @@
     <name>Parameters</name>
     <message>
         <source>the operator has chosen the offset from UTC; GPS time keeps it instead of computing it</source>
-        <translation>оператор выбрал отклонение от UTC; время GPS сохраняет его, а не вычисляет</translation>
+        <translation>оператор выбрал смещение от UTC; время GPS сохраняет его, а не вычисляет</translation>
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>метрические единицы; иначе США или английские</translation>
+        <translation>метрические единицы; иначе американские или английские</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>меры США, если единицы не метрические; иначе английские</translation>
+        <translation>американские меры, если единицы не метрические; иначе английские</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1008,7 +1008,7 @@
     </message>
     <message>
         <source>24-hour clock; otherwise 12 hours with am and pm</source>
-        <translation>24-часовое время; иначе 12 часов с am и pm</translation>
+        <translation>24-часовой формат; иначе 12 часов с am и pm</translation>
     </message>
     <message>
         <source>dates with the month before the day</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>папка внутреннего диска; иначе в папке данных</translation>
+        <translation>папка внутреннего диска; по умолчанию в папке данных</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>точка подключения съёмного диска; иначе в папке данных</translation>
+        <translation>точка подключения съёмного диска; по умолчанию в папке данных</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Десятичный знак</translation>
+        <translation>Десятичный разделитель</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1464,7 +1464,7 @@
     </message>
     <message>
         <source>Colour of covered ground</source>
-        <translation>Цвет обработанного</translation>
+        <translation>Цвет обработанной площади</translation>
     </message>
     <message>
         <source>Vehicle on the map</source>
@@ -1548,7 +1548,7 @@
     </message>
     <message>
         <source>US or English</source>
-        <translation>США или англ.</translation>
+        <translation>Амер. или англ.</translation>
     </message>
     <message>
         <source>US</source>
@@ -2498,7 +2498,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Новый десятичный знак будет показан после перезапуска.</translation>
+        <translation>Новый десятичный разделитель будет показан после перезапуска.</translation>
     </message>
 </context>
 <context>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Данные обработки были неполными и опущены: полос %1, байт %2</translation>
+        <translation>Неполные данные обработки пропущены: полос %1, байт %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3095,11 +3095,11 @@
     </message>
     <message>
         <source>No job is chosen: what is covered is not stored.</source>
-        <translation>Задание не выбрано: обработанное не сохраняется.</translation>
+        <translation>Задание не выбрано: обработанная площадь не сохраняется.</translation>
     </message>
     <message>
         <source>The coverage of this job cannot be used: what is covered is not stored.</source>
-        <translation>Данные обработки этого задания непригодны: обработанное не сохраняется.</translation>
+        <translation>Данные обработки этого задания непригодны: обработанная площадь не сохраняется.</translation>
     </message>
     <message>
         <source>The coverage cannot be stored, and strips are lost: %1</source>
@@ -3274,7 +3274,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Не вынимать флешку до конца записи.</translation>
+        <translation>Не вынимать флешку до завершения.</translation>
     </message>
 </context>
 <context>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Žiadny klient.</translation>
+        <translation>Zatiaľ žiadny klient.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Žiadny podnik.</translation>
+        <translation>Zatiaľ žiadny podnik.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Žiadne pole.</translation>
+        <translation>Zatiaľ žiadne pole.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Žiadna úloha.</translation>
+        <translation>Zatiaľ žiadna úloha.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Súbor má hodnotu dvakrát: %2</translation>
+        <translation>Nastavenie je v súbore dvakrát: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>It was unplugged.</source>
-        <translation>Konektor je odpojený.</translation>
+        <translation>Zariadenie bolo odpojené.</translation>
     </message>
     <message>
         <source>It is not a serial device, or it cannot have this speed.</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>The serial port has a fault (number %1).</source>
-        <translation>Sériový port má chybu (číslo %1).</translation>
+        <translation>Sériový port má poruchu (číslo %1).</translation>
     </message>
     <message>
         <source>%1 is damaged or of another kind.</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>The drive has a fault.</source>
-        <translation>Disk má chybu.</translation>
+        <translation>Disk má poruchu.</translation>
     </message>
     <message>
         <source>The drive can only be read.</source>
@@ -671,7 +671,7 @@
     <name>ItemPage</name>
     <message>
         <source>New</source>
-        <translation>Nové</translation>
+        <translation>Pridať</translation>
     </message>
 </context>
 <context>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Žiadny riadok.</translation>
+        <translation>Zatiaľ žiadny riadok.</translation>
     </message>
 </context>
 <context>
@@ -850,7 +850,7 @@
     <name>Main</name>
     <message>
         <source>Cab display</source>
-        <translation>Displej kabíny</translation>
+        <translation>Displej v kabíne</translation>
     </message>
 </context>
 <context>
@@ -996,11 +996,11 @@
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
-        <translation>metrické jednotky; inak US alebo anglické</translation>
+        <translation>metrické jednotky; inak americké alebo anglické</translation>
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>miery US, ak jednotky nie sú metrické; inak anglické</translation>
+        <translation>americké miery, ak jednotky nie sú metrické; inak anglické</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>priečinok vnútorného disku; inak v priečinku údajov</translation>
+        <translation>priečinok vnútorného disku; predvolene v priečinku údajov</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>bod pripojenia vymeniteľného disku; inak v priečinku údajov</translation>
+        <translation>bod pripojenia vymeniteľného disku; predvolene v priečinku údajov</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1460,11 +1460,11 @@
     </message>
     <message>
         <source>Coverage</source>
-        <translation>Spracované</translation>
+        <translation>Spracovaná plocha</translation>
     </message>
     <message>
         <source>Colour of covered ground</source>
-        <translation>Farba spracovaného</translation>
+        <translation>Farba spracovanej plochy</translation>
     </message>
     <message>
         <source>Vehicle on the map</source>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Údaje o spracovanom neboli úplné a boli vynechané: pásy %1, bajty %2</translation>
+        <translation>Údaje o spracovanej ploche neboli úplné a boli vynechané: pásy %1, bajty %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3095,19 +3095,19 @@
     </message>
     <message>
         <source>No job is chosen: what is covered is not stored.</source>
-        <translation>Úloha nie je vybraná: spracované sa neukladá.</translation>
+        <translation>Úloha nie je vybraná: spracovaná plocha sa neukladá.</translation>
     </message>
     <message>
         <source>The coverage of this job cannot be used: what is covered is not stored.</source>
-        <translation>Údaje o spracovanom v tejto úlohe sa nedajú použiť: spracované sa neukladá.</translation>
+        <translation>Údaje o spracovanej ploche v tejto úlohe sa nedajú použiť: spracovaná plocha sa neukladá.</translation>
     </message>
     <message>
         <source>The coverage cannot be stored, and strips are lost: %1</source>
-        <translation>Údaje o spracovanom sa nedajú uložiť a pásy sa strácajú: %1</translation>
+        <translation>Spracovaná plocha sa nedá uložiť a pásy sa strácajú: %1</translation>
     </message>
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
-        <translation>Údaje o spracovanom zostávajú v pamäti, kým sa nedajú uložiť. %1</translation>
+        <translation>Spracovaná plocha zostáva v pamäti, kým sa nedá uložiť. %1</translation>
     </message>
     <message>
         <source>The job is still being read.</source>

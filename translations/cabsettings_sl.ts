@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Datoteka ima vrednost dvakrat: %2</translation>
+        <translation>Nastavitev je v datoteki dvakrat: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -720,7 +720,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Decimalni znak</translation>
+        <translation>Decimalno ločilo</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -769,7 +769,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Novo</translation>
+        <translation>Nova</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1002,7 +1002,7 @@
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>ameriške, če enote niso metrične; sicer angleške</translation>
+        <translation>ameriške mere, če enote niso metrične; sicer angleške</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1102,11 +1102,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>mapa notranjega diska; sicer v mapi podatkov</translation>
+        <translation>mapa notranjega diska; privzeto v mapi podatkov</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>priklopna točka izmenljivega diska; sicer v mapi podatkov</translation>
+        <translation>priklopna točka izmenljivega diska; privzeto v mapi podatkov</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1242,7 +1242,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>Decimalni znak</translation>
+        <translation>Decimalno ločilo</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1466,7 +1466,7 @@
     </message>
     <message>
         <source>Colour of covered ground</source>
-        <translation>Barva obdelanega</translation>
+        <translation>Barva obdelane površine</translation>
     </message>
     <message>
         <source>Vehicle on the map</source>
@@ -2502,7 +2502,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>Novi decimalni znak velja po ponovnem zagonu.</translation>
+        <translation>Novo decimalno ločilo velja po ponovnem zagonu.</translation>
     </message>
 </context>
 <context>
@@ -3067,7 +3067,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Podatki o obdelanem niso bili popolni in so izpuščeni: pasovi %1, bajti %2</translation>
+        <translation>Podatki o obdelani površini niso bili popolni in so izpuščeni: pasovi %1, bajti %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3099,19 +3099,19 @@
     </message>
     <message>
         <source>No job is chosen: what is covered is not stored.</source>
-        <translation>Naloga ni izbrana: obdelano se ne shranjuje.</translation>
+        <translation>Naloga ni izbrana: obdelana površina se ne shranjuje.</translation>
     </message>
     <message>
         <source>The coverage of this job cannot be used: what is covered is not stored.</source>
-        <translation>Podatkov o obdelanem v tej nalogi ni mogoče uporabiti: obdelano se ne shranjuje.</translation>
+        <translation>Podatkov o obdelani površini v tej nalogi ni mogoče uporabiti: površina se ne shranjuje.</translation>
     </message>
     <message>
         <source>The coverage cannot be stored, and strips are lost: %1</source>
-        <translation>Podatkov o obdelanem ni mogoče shraniti in pasovi se izgubljajo: %1</translation>
+        <translation>Podatkov o obdelani površini ni mogoče shraniti in pasovi se izgubljajo: %1</translation>
     </message>
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
-        <translation>Podatki o obdelanem ostanejo v pomnilniku, dokler jih ni mogoče shraniti. %1</translation>
+        <translation>Podatki o obdelani površini ostanejo v pomnilniku, dokler jih ni mogoče shraniti. %1</translation>
     </message>
     <message>
         <source>The job is still being read.</source>

@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Nema klijenata.</translation>
+        <translation>Još nema klijenata.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Nema gazdinstava.</translation>
+        <translation>Još nema gazdinstava.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Nema parcela.</translation>
+        <translation>Još nema parcela.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Nema zadataka.</translation>
+        <translation>Još nema zadataka.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -453,7 +453,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Datoteka ima vrednost dvaput: %2</translation>
+        <translation>Podešavanje je u datoteci dvaput: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -767,7 +767,7 @@
     <name>LineChoice</name>
     <message>
         <source>New</source>
-        <translation>Novo</translation>
+        <translation>Nova</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -824,7 +824,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Nema redova.</translation>
+        <translation>Još nema redova.</translation>
     </message>
 </context>
 <context>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>Decides the guidance lines beside each other, and the area done</source>
-        <translation>Određuje susedne linije vođenja i obrađenu površinu</translation>
+        <translation>Određuje susedne linije navođenja i obrađenu površinu</translation>
     </message>
     <message>
         <source>Implement behind the antenna</source>
@@ -850,7 +850,7 @@
     <name>Main</name>
     <message>
         <source>Cab display</source>
-        <translation>Displej kabine</translation>
+        <translation>Displej u kabini</translation>
     </message>
 </context>
 <context>
@@ -992,7 +992,7 @@
     <name>Parameters</name>
     <message>
         <source>the operator has chosen the offset from UTC; GPS time keeps it instead of computing it</source>
-        <translation>rukovalac je izabrao odstupanje od UTC; GPS vreme ga zadržava umesto da ga računa</translation>
+        <translation>rukovalac je izabrao pomeraj u odnosu na UTC; GPS vreme ga zadržava umesto da ga računa</translation>
     </message>
     <message>
         <source>metric units; otherwise US or English units</source>
@@ -1000,7 +1000,7 @@
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>američke ako jedinice nisu metričke; inače engleske</translation>
+        <translation>američke mere ako jedinice nisu metričke; inače engleske</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1100,11 +1100,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>fascikla unutrašnjeg diska; inače u fascikli podataka</translation>
+        <translation>fascikla unutrašnjeg diska; podrazumevano u fascikli podataka</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>tačka montiranja prenosnog diska; inače u fascikli podataka</translation>
+        <translation>tačka montiranja prenosnog diska; podrazumevano u fascikli podataka</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1136,7 +1136,7 @@
     </message>
     <message>
         <source>the active straight guidance line</source>
-        <translation>aktivna prava linija vođenja</translation>
+        <translation>aktivna prava linija navođenja</translation>
     </message>
     <message>
         <source>the active pivot</source>
@@ -1144,7 +1144,7 @@
     </message>
     <message>
         <source>the active guidance curve</source>
-        <translation>aktivna kriva vođenja</translation>
+        <translation>aktivna kriva navođenja</translation>
     </message>
     <message>
         <source>the active shape file of optimal lines</source>
@@ -1464,7 +1464,7 @@
     </message>
     <message>
         <source>Colour of covered ground</source>
-        <translation>Boja obrađenog</translation>
+        <translation>Boja obrađene površine</translation>
     </message>
     <message>
         <source>Vehicle on the map</source>
@@ -1476,19 +1476,19 @@
     </message>
     <message>
         <source>Guidance line</source>
-        <translation>Linija vođenja</translation>
+        <translation>Linija navođenja</translation>
     </message>
     <message>
         <source>Colour of the guidance line</source>
-        <translation>Boja linije vođenja</translation>
+        <translation>Boja linije navođenja</translation>
     </message>
     <message>
         <source>Cross hairs</source>
-        <translation>Nišan</translation>
+        <translation>Krstić</translation>
     </message>
     <message>
         <source>Colour of the cross hairs</source>
-        <translation>Boja nišana</translation>
+        <translation>Boja krstića</translation>
     </message>
     <message>
         <source>Outer boundary</source>
@@ -3063,7 +3063,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Podaci o obrađenom nisu bili potpuni i izostavljeni su: traka %1, bajtova %2</translation>
+        <translation>Podaci o obrađenoj površini nisu bili potpuni i izostavljeni su: traka %1, bajtova %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3087,7 +3087,7 @@
     </message>
     <message>
         <source>The guidance line cannot be used. %1</source>
-        <translation>Linija vođenja ne može da se koristi. %1</translation>
+        <translation>Linija navođenja ne može da se koristi. %1</translation>
     </message>
     <message>
         <source>No job is chosen</source>
@@ -3095,19 +3095,19 @@
     </message>
     <message>
         <source>No job is chosen: what is covered is not stored.</source>
-        <translation>Nije izabran zadatak: obrađeno se ne čuva.</translation>
+        <translation>Nije izabran zadatak: obrađena površina se ne čuva.</translation>
     </message>
     <message>
         <source>The coverage of this job cannot be used: what is covered is not stored.</source>
-        <translation>Podaci o obrađenom u ovom zadatku ne mogu da se koriste: obrađeno se ne čuva.</translation>
+        <translation>Podaci o obrađenoj površini u ovom zadatku ne mogu da se koriste: površina se ne čuva.</translation>
     </message>
     <message>
         <source>The coverage cannot be stored, and strips are lost: %1</source>
-        <translation>Podaci o obrađenom ne mogu da se sačuvaju i trake se gube: %1</translation>
+        <translation>Podaci o obrađenoj površini ne mogu da se sačuvaju i trake se gube: %1</translation>
     </message>
     <message>
         <source>The coverage is kept in memory until it can be stored. %1</source>
-        <translation>Podaci o obrađenom ostaju u memoriji dok se ne sačuvaju. %1</translation>
+        <translation>Podaci o obrađenoj površini ostaju u memoriji dok se ne sačuvaju. %1</translation>
     </message>
     <message>
         <source>The job is still being read.</source>

@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Filen har ett värde två gånger: %2</translation>
+        <translation>Filen har en inställning två gånger: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -555,7 +555,7 @@
     </message>
     <message>
         <source>%1 cannot be renamed. %2</source>
-        <translation>%1 kan inte byta namn. %2</translation>
+        <translation>%1 kan inte döpas om. %2</translation>
     </message>
     <message>
         <source>%1 cannot be removed. %2</source>
@@ -1098,11 +1098,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>mapp på den interna disken; annars i datamappen</translation>
+        <translation>mapp på den interna disken; som standard i datamappen</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>den flyttbara diskens monteringspunkt; annars i datamappen</translation>
+        <translation>den flyttbara diskens monteringspunkt; som standard i datamappen</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -3059,7 +3059,7 @@
     </message>
     <message>
         <source>Coverage was not complete and was left out: strips %1, bytes %2</source>
-        <translation>Den bearbetade ytan var inte fullständig och uteslöts: remsor %1, byte %2</translation>
+        <translation>Data om bearbetad yta var ofullständiga och utelämnades: remsor %1, byte %2</translation>
     </message>
     <message>
         <source>The file of the flags is damaged; new flags are not stored.</source>
@@ -3176,7 +3176,7 @@
     </message>
     <message>
         <source>%1 further ahead</source>
-        <translation>%1 längre fram</translation>
+        <translation>Flytta upp %1</translation>
     </message>
     <message>
         <source>Shown</source>

@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Ayarla</translation>
+        <translation>Tamam</translation>
     </message>
 </context>
 <context>
@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>No client yet.</source>
-        <translation>Müşteri yok.</translation>
+        <translation>Henüz müşteri yok.</translation>
     </message>
     <message>
         <source>Farms</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>No farm yet.</source>
-        <translation>Çiftlik yok.</translation>
+        <translation>Henüz çiftlik yok.</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>No field yet.</source>
-        <translation>Tarla yok.</translation>
+        <translation>Henüz tarla yok.</translation>
     </message>
     <message>
         <source>Jobs</source>
@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>No job yet.</source>
-        <translation>Görev yok.</translation>
+        <translation>Henüz görev yok.</translation>
     </message>
     <message>
         <source>Remove %1 with everything in it?</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Another program is working on the fields. Try again later.</source>
-        <translation>Tarlalar üzerinde başka bir program çalışıyor. Daha sonra yeniden dene.</translation>
+        <translation>Tarlalar üzerinde başka bir program çalışıyor. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
         <source>The selection could not be stored.</source>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>Dosyada bir değer iki kez var: %2</translation>
+        <translation>Dosyada bir ayar iki kez var: %2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>It is not possible there.</source>
-        <translation>Orada olanaksız.</translation>
+        <translation>Orada mümkün değil.</translation>
     </message>
     <message>
         <source>The device refuses the connection.</source>
@@ -710,7 +710,7 @@
     </message>
     <message>
         <source>Set</source>
-        <translation>Ayarla</translation>
+        <translation>Tamam</translation>
     </message>
     <message>
         <source>Decimal sign</source>
@@ -789,7 +789,7 @@
     <name>LockLayer</name>
     <message>
         <source>The screen is locked. Hold the button to unlock it.</source>
-        <translation>Ekran kilitli. Kilidi açmak için düğmeyi basılı tut.</translation>
+        <translation>Ekran kilitli. Kilidi açmak için düğmeyi basılı tutun.</translation>
     </message>
     <message>
         <source>Unlock</source>
@@ -820,7 +820,7 @@
     </message>
     <message>
         <source>No line yet.</source>
-        <translation>Satır yok.</translation>
+        <translation>Henüz satır yok.</translation>
     </message>
 </context>
 <context>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>Implement behind the antenna</source>
-        <translation>Ekipmanın antene mesafesi</translation>
+        <translation>Ekipman antenden geride</translation>
     </message>
     <message>
         <source>How far the ground is covered behind the vehicle&apos;s place</source>
@@ -996,7 +996,7 @@
     </message>
     <message>
         <source>US measures when units are not metric; otherwise English measures</source>
-        <translation>birimler metrik değilse ABD; aksi halde İngiliz ölçüleri</translation>
+        <translation>birimler metrik değilse ABD ölçüleri; aksi halde İngiliz ölçüleri</translation>
     </message>
     <message>
         <source>positions in degrees, minutes and seconds; otherwise in decimal degrees</source>
@@ -1068,15 +1068,15 @@
     </message>
     <message>
         <source>brightness of the lightbar at night</source>
-        <translation>gece ışık çubuğunun parlaklığı</translation>
+        <translation>ışık çubuğunun gece parlaklığı</translation>
     </message>
     <message>
         <source>brightness of the screen at night</source>
-        <translation>gece ekranın parlaklığı</translation>
+        <translation>ekranın gece parlaklığı</translation>
     </message>
     <message>
         <source>brightness of the button lights at night</source>
-        <translation>gece düğme ışıklarının parlaklığı</translation>
+        <translation>düğme ışıklarının gece parlaklığı</translation>
     </message>
     <message>
         <source>4: implements are kept in the folder of their vehicle; other numbers: in their own folder</source>
@@ -1096,11 +1096,11 @@
     </message>
     <message>
         <source>folder of the internal drive; by default in the data folder</source>
-        <translation>dahili diskin klasörü; belirtilmezse veri klasöründe</translation>
+        <translation>dahili diskin klasörü; varsayılan olarak veri klasöründe</translation>
     </message>
     <message>
         <source>mount point of the removable drive; by default in the data folder</source>
-        <translation>çıkarılabilir diskin bağlama noktası; belirtilmezse veri klasöründe</translation>
+        <translation>çıkarılabilir diskin bağlama noktası; varsayılan olarak veri klasöründe</translation>
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
@@ -1172,7 +1172,7 @@
     </message>
     <message>
         <source>the active boom leveller</source>
-        <translation>etkin bum dengeleyici</translation>
+        <translation>etkin püskürtme kolu dengeleyici</translation>
     </message>
     <message>
         <source>the active client</source>
@@ -1292,15 +1292,15 @@
     </message>
     <message>
         <source>Light bar at night</source>
-        <translation>Gece ışık çubuğu</translation>
+        <translation>Işık çubuğu (gece)</translation>
     </message>
     <message>
         <source>Screen at night</source>
-        <translation>Gece ekranı</translation>
+        <translation>Ekran (gece)</translation>
     </message>
     <message>
         <source>Button lights at night</source>
-        <translation>Gece düğme ışıkları</translation>
+        <translation>Düğme ışıkları (gece)</translation>
     </message>
     <message>
         <source>Switched by the sun</source>
@@ -1336,7 +1336,7 @@
     </message>
     <message>
         <source>Boom leveller</source>
-        <translation>Bum dengeleyici</translation>
+        <translation>Kol dengeleyici</translation>
     </message>
     <message>
         <source>Steering profile</source>
@@ -3266,7 +3266,7 @@
     </message>
     <message>
         <source>Leave the stick where it is until this is done.</source>
-        <translation>Bitene kadar USB belleği çıkarma.</translation>
+        <translation>Bitene kadar USB belleği çıkarmayın.</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Profiles of settings</source>
-        <translation>设置的配置</translation>
+        <translation>设置的配置文件</translation>
     </message>
     <message>
         <source>Files for support</source>
@@ -194,7 +194,7 @@
     </message>
     <message>
         <source>Profile</source>
-        <translation>配置</translation>
+        <translation>配置文件</translation>
     </message>
 </context>
 <context>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>This name is not possible.</source>
-        <translation>这个名称不可用。</translation>
+        <translation>这个名称无效。</translation>
     </message>
     <message>
         <source>The name is empty.</source>
@@ -445,15 +445,15 @@
     </message>
     <message>
         <source>The file has a value that is not possible: %2</source>
-        <translation>文件中有不可用的值：%2</translation>
+        <translation>文件中有无效的值：%2</translation>
     </message>
     <message>
         <source>The file has a value twice: %2</source>
-        <translation>文件中有重复的值：%2</translation>
+        <translation>文件中有重复的设置项：%2</translation>
     </message>
     <message>
         <source>This address is not possible: %1</source>
-        <translation>这个地址不可用：%1</translation>
+        <translation>地址无效：%1</translation>
     </message>
     <message>
         <source>The device is not there.</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>The drive can only be read.</source>
-        <translation>磁盘只能读取。</translation>
+        <translation>磁盘为只读。</translation>
     </message>
     <message>
         <source>It is not permitted.</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>It is not possible there.</source>
-        <translation>在那里无法进行。</translation>
+        <translation>该处不支持此操作。</translation>
     </message>
     <message>
         <source>The device refuses the connection.</source>
@@ -633,7 +633,7 @@
     </message>
     <message>
         <source>The network cannot be reached.</source>
-        <translation>无法连接网络。</translation>
+        <translation>无法连接到网络。</translation>
     </message>
     <message>
         <source>The device does not answer.</source>
@@ -714,7 +714,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>小数符号</translation>
+        <translation>小数分隔符</translation>
     </message>
     <message>
         <source>Plus or minus</source>
@@ -1104,7 +1104,7 @@
     </message>
     <message>
         <source>the identity of the terminal, which its profiles carry</source>
-        <translation>终端的标识，写在其配置中</translation>
+        <translation>终端的标识，写在其配置文件中</translation>
     </message>
     <message>
         <source>where the sentences of the receiver come from</source>
@@ -1224,7 +1224,7 @@
     </message>
     <message>
         <source>Rate per travel</source>
-        <translation>单位行程用量</translation>
+        <translation>单位距离用量</translation>
     </message>
     <message>
         <source>Basis of rates</source>
@@ -1236,7 +1236,7 @@
     </message>
     <message>
         <source>Decimal sign</source>
-        <translation>小数符号</translation>
+        <translation>小数分隔符</translation>
     </message>
     <message>
         <source>Time of day</source>
@@ -1532,7 +1532,7 @@
     </message>
     <message>
         <source>liquid rates per 100 m or 100 yd of travel, while travel is their basis</source>
-        <translation>以行程为基准时，每 100 m 或 100 yd 行程的液体用量</translation>
+        <translation>以行驶距离为基准时，每 100 m 或 100 yd 的液体用量</translation>
     </message>
     <message>
         <source>since when the clock has its time from there</source>
@@ -1612,7 +1612,7 @@
     </message>
     <message>
         <source>Travel</source>
-        <translation>行程</translation>
+        <translation>行驶距离</translation>
     </message>
     <message>
         <source>kPa</source>
@@ -1838,7 +1838,7 @@
     </message>
     <message>
         <source>Changed here and in the profile</source>
-        <translation>本机和配置中都已更改</translation>
+        <translation>本机和配置文件中都已更改</translation>
     </message>
     <message>
         <source>Which value the settings below shall have</source>
@@ -1850,14 +1850,14 @@
     </message>
     <message>
         <source>Theirs</source>
-        <translation>配置</translation>
+        <translation>配置文件</translation>
     </message>
 </context>
 <context>
     <name>ProfilesPage</name>
     <message>
         <source>Profiles</source>
-        <translation>配置</translation>
+        <translation>配置文件</translation>
     </message>
     <message>
         <source>Export</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>There is no profile on the stick.</source>
-        <translation>U盘上没有配置。</translation>
+        <translation>U盘上没有配置文件。</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>Name of the profile</source>
-        <translation>配置名称</translation>
+        <translation>配置文件名称</translation>
     </message>
 </context>
 <context>
@@ -2254,7 +2254,7 @@
     </message>
     <message>
         <source>Profiles</source>
-        <translation>配置</translation>
+        <translation>配置文件</translation>
     </message>
     <message>
         <source>All settings</source>
@@ -2364,7 +2364,7 @@
     </message>
     <message>
         <source>Profiles</source>
-        <translation>配置</translation>
+        <translation>配置文件</translation>
     </message>
     <message>
         <source>Takes the settings to another display, or brings them back from the stick</source>
@@ -2372,7 +2372,7 @@
     </message>
     <message>
         <source>Open the profiles</source>
-        <translation>打开配置</translation>
+        <translation>打开配置文件</translation>
     </message>
     <message>
         <source>Support</source>
@@ -2490,7 +2490,7 @@
     </message>
     <message>
         <source>The new decimal sign is shown after a restart.</source>
-        <translation>新的小数符号在重启后显示。</translation>
+        <translation>新的小数分隔符在重启后显示。</translation>
     </message>
 </context>
 <context>
@@ -3153,7 +3153,7 @@
     </message>
     <message>
         <source>Driven</source>
-        <translation>行程</translation>
+        <translation>里程</translation>
     </message>
     <message>
         <source>Position</source>
@@ -3187,7 +3187,7 @@
     <name>Transfer</name>
     <message>
         <source>Nothing is imported: some settings were changed here and in the profile.</source>
-        <translation>未导入任何内容：有些设置在本机和配置中都已更改。</translation>
+        <translation>未导入任何内容：有些设置在本机和配置文件中都已更改。</translation>
     </message>
     <message>
         <source>No stick is plugged in.</source>
@@ -3215,7 +3215,7 @@
     </message>
     <message>
         <source>The profile cannot be used. %1</source>
-        <translation>配置无法使用。%1</translation>
+        <translation>配置文件无法使用。%1</translation>
     </message>
     <message>
         <source>Nothing is imported. %1</source>
@@ -3231,11 +3231,11 @@
     </message>
     <message>
         <source>The profile is not on the stick. %1</source>
-        <translation>配置未写入U盘。%1</translation>
+        <translation>配置文件未写入U盘。%1</translation>
     </message>
     <message>
         <source>The profile is on the stick: %1.</source>
-        <translation>配置已写入U盘：%1。</translation>
+        <translation>配置文件已写入U盘：%1。</translation>
     </message>
     <message>
         <source>The file for support is not on the stick. %1</source>
@@ -3247,7 +3247,7 @@
     </message>
     <message>
         <source>The profile is imported (settings changed: %1).</source>
-        <translation>配置已导入（更改的设置：%1）。</translation>
+        <translation>配置文件已导入（更改的设置：%1）。</translation>
     </message>
     <message>
         <source>It cannot be used.</source>
