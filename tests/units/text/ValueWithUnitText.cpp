@@ -173,7 +173,7 @@ void ValueWithUnitText::hoursAreShownAsATimeOfDay_data()
         {"negative minutes only", -0.25, "0:-15", "12:-15 am"},
         {"less than half a minute back", -0.0075, "0:00", "12:00 am"},
         {"half a day back", -12.0, "-12:00", "12:00 am"},
-        {"NaN", NaN, nullptr, nullptr},
+        {"NaN", NaN, "0:00", "12:00 am"},
         {"infinity", Infinity, nullptr, nullptr},
         {"huge", DBL_MAX, nullptr, nullptr},
         {"hugely negative", -DBL_MAX, nullptr, nullptr},
