@@ -59,11 +59,6 @@ bool WorkFile::Write(const QString& path, const tagKind& kind, const QByteArray&
     buffer.open(QIODevice::WriteOnly);
     TBinarySerializer(&buffer) << Utf8(kind.name);
     payload += content;
-    if (payload.size() + DataBlock::BytesBeforePayload > MostBytes) {
-        *error =
-            QString::fromLatin1("%1 is not written: it has more than %2 bytes").arg(path, QString::number(MostBytes));
-        return false;
-    }
     return DurableFiles::Write(path, DataBlock::Framed(kind.version, payload), error);
 }
 

@@ -8,7 +8,7 @@
 /// Small files of the work on a field: one DataBlock each. Its payload begins with what the file is.
 namespace WorkFile {
 
-/// The size of the largest file of the work on a field that is read or written.
+/// The size of the largest file of the work on a field that is read.
 constexpr qint64 MostBytes = qint64{64} * 1024 * 1024;
 
 /// What a file is.
