@@ -6,5 +6,7 @@ extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libqoffscreen\n"
            "leak:libQt5Gui\n"
-           "leak:libQt5Quick\n";
+           "leak:libQt6Gui\n"
+           "leak:libQt5Quick\n"
+           "leak:libQt6Quick\n";
 }
