@@ -46,11 +46,11 @@ if(CABSETTINGS_SANITIZE)
         -fsanitize=${CABSETTINGS_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(BuildSettings INTERFACE -fsanitize=${CABSETTINGS_SANITIZE})
     if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-        # As GCC says it of itself: a program takes more memory and time.
+        # GCC defines this itself: a test allows for the memory and the time that the sanitizer takes.
         if(CABSETTINGS_SANITIZE MATCHES "address")
             target_compile_definitions(BuildSettings INTERFACE __SANITIZE_ADDRESS__)
         endif()
-        # The lists of Qt 6 copy no bytes from a null pointer, in a header.
+        # An empty list of Qt 6 is copied by memcpy(to, nullptr, 0), in a header of Qt.
         if(CABSETTINGS_QT EQUAL 6)
             target_compile_options(BuildSettings INTERFACE -fno-sanitize=nonnull-attribute)
         endif()
