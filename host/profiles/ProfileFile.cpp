@@ -1,5 +1,6 @@
 #include "profiles/ProfileFile.h"
 
+#include "diagnostics/UserLogEntries.h"
 #include "platform/RegularFile.h"
 #include "platform/TDescriptor.h"
 #include "platform/Uninterrupted.h"
@@ -300,12 +301,14 @@ bool Parse(const QByteArray& text, Json::Value* root, TProblems* problems)
 
 void ProfileFile::TProblems::Add(int line, const QString& text)
 {
+    // What is cited from the file could bring a line of its own, which looks like another problem.
+    const QString oneLine = WithoutLineBreaks(text);
     if (m_Lines.size() == MostProblems)
         ++m_More;
     else if (line > 0)
-        m_Lines.append(QString::fromLatin1("%1:%2: %3").arg(m_Path, QString::number(line), text));
+        m_Lines.append(QString::fromLatin1("%1:%2: %3").arg(m_Path, QString::number(line), oneLine));
     else
-        m_Lines.append(QString::fromLatin1("%1: %2").arg(m_Path, text));
+        m_Lines.append(QString::fromLatin1("%1: %2").arg(m_Path, oneLine));
 }
 
 QStringList ProfileFile::TProblems::Lines() const

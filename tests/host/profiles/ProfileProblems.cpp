@@ -55,6 +55,10 @@ void ProfileProblems::problemsNameTheirLine_data()
         ":12: number 4711 and name \"units.metric\" disagree; units.metric has the number 8953");
     row("an unknown name", "units.metric", "units.metrik",
         ":12: number 8953 and name \"units.metrik\" disagree; units.metric has the number 8953");
+    row("a name of two lines", "units.metric", "units.\nmetric",
+        ":12: number 8953 and name \"units. metric\" disagree; units.metric has the number 8953");
+    row("a name of two lines, by escape", "units.metric", "units.\\u2028metric",
+        ":12: number 8953 and name \"units. metric\" disagree; units.metric has the number 8953");
     row("a parameter twice", "  ],",
         ",{\"number\": 8953, \"name\": \"units.metric\", \"type\": \"bool\", \"value\": true}],",
         ":15: units.metric again; line 12 has it too");
