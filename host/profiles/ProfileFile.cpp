@@ -59,7 +59,7 @@ QByteArray RowText(const tagRow& row)
 {
     return "{\"number\": " + QByteArray::number(row.number) + ", \"name\": " + Quoted(row.name) +
            ", \"type\": " + Quoted(row.type) + ", \"value\": " + ValueText(row.kind, row.value) +
-           ", \"base\": " + ValueText(row.kind, row.base) + '}';
+           ", \"base\": " + ValueText(row.baseKind, row.base) + '}';
 }
 
 // Tells for every value of a text on which line it begins.
@@ -198,7 +198,7 @@ private:
             return;
         const Json::Value& value = parameter["value"];
         m_Content.rows.append({number.asInt(), TextOf(name), TextOf(type), TextOf(value), BaseOf(parameter),
-                               KindOf(value), m_Lines.Of(parameter)});
+                               KindOf(value), KindOf(parameter["base"]), m_Lines.Of(parameter)});
         NoteUnknown(parameter, {"number", "name", "type", "value", "base"}, TextOf(name));
     }
 

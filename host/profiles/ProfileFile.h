@@ -31,8 +31,9 @@ struct tagRow
     QString type;
     QString value;
     std::optional<QString> base;
-    EKind kind; ///< of the value
-    int line;   ///< 0 when the row is not from a file
+    EKind kind;     ///< of the value
+    EKind baseKind; ///< of the base, when there is one
+    int line;       ///< 0 when the row is not from a file
 };
 
 struct tagContent

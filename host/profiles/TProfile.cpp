@@ -37,6 +37,25 @@ QVariant ReadValue(const tagParameter& parameter, const QString& text, ProfileFi
     return QVariant();
 }
 
+/// The value and the base of a row; nothing when one of them is not as the parameter's values are written.
+std::optional<tagProfileParameter> ReadParameter(const tagParameter& known, const tagRow& row, TProblems* problems)
+{
+    QString error;
+    const QVariant value = ReadValue(known, row.value, row.kind, &error);
+    if (!value.isValid()) {
+        problems->Add(row.line, error);
+        return std::nullopt;
+    }
+    if (!row.base)
+        return tagProfileParameter{&known, value, std::nullopt};
+    const QVariant base = ReadValue(known, *row.base, row.baseKind, &error);
+    if (!base.isValid()) {
+        problems->Add(row.line, QLatin1String("base: ") + error);
+        return std::nullopt;
+    }
+    return tagProfileParameter{&known, value, TParameterCatalogue::Text(known, base)};
+}
+
 /// The terminal's idea of UTC. A terminal whose clock nothing has set has the machine's.
 QDateTime UtcOf(TParameterStore& store)
 {
@@ -105,7 +124,7 @@ QByteArray TProfile::Text() const
         content.rows.append({parameter.known->id, parameter.known->name,
                              TParameterCatalogue::TypeName(parameter.known->type),
                              TParameterCatalogue::Text(*parameter.known, parameter.value), parameter.base,
-                             KindOf(*parameter.known), 0});
+                             KindOf(*parameter.known), KindOf(*parameter.known), 0});
     }
     return ProfileFile::Text(content);
 }
@@ -137,12 +156,9 @@ std::optional<TProfile> TProfile::Read(const QString& path, EProfileEdits edits,
                                              .arg(row.number));
                 continue;
             }
-            QString error;
-            const QVariant value = ReadValue(*known, row.value, row.kind, &error);
-            if (value.isValid())
-                profile.m_Parameters.append({known, value, row.base});
-            else
-                found.Add(row.line, error);
+            const std::optional<tagProfileParameter> parameter = ReadParameter(*known, row, &found);
+            if (parameter)
+                profile.m_Parameters.append(*parameter);
         }
     }
     *problems = found.Lines();

@@ -27,6 +27,7 @@ private slots:
     void valuesThatNobodyMayEnterAreLeftOut();
     void groupsChooseWhatIsExported();
     void editedFilesAreRefusedUnlessAskedFor();
+    void aChoiceMayBeWrittenByItsNumber();
     void layoutIsNoEdit();
     void aFailureKeepsTheFormerFile_data();
     void aFailureKeepsTheFormerFile();
@@ -162,6 +163,16 @@ void ProfileFiles::editedFilesAreRefusedUnlessAskedFor()
             QCOMPARE(parameter.value, QVariant(int{PRESSURE_UNIT_PSI}));
             QVERIFY(parameter.base == Utf8("kPa"));
         }
+}
+
+void ProfileFiles::aChoiceMayBeWrittenByItsNumber()
+{
+    QString reason;
+    QVERIFY(Full().Write(Path(), &reason));
+    Put(m_Folder->Content(Utf8(Name)).replace(R"("value": "kPa", "base": "kPa")", R"("value": 1, "base": 2)"));
+    const auto read = Read(PROFILE_EDITS_ACCEPTED);
+    QVERIFY2(read, qPrintable(m_Problems.join(QLatin1Char('\n'))));
+    QVERIFY(read->Text().contains(R"("value": "psi", "base": "bar")"));
 }
 
 void ProfileFiles::layoutIsNoEdit()

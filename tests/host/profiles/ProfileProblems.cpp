@@ -59,6 +59,10 @@ void ProfileProblems::problemsNameTheirLine_data()
         ":12: number 8953 and name \"units. metric\" disagree; units.metric has the number 8953");
     row("a name of two lines, by escape", "units.metric", "units.\\u2028metric",
         ":12: number 8953 and name \"units. metric\" disagree; units.metric has the number 8953");
+    row("a text as the base of a number", "\"base\": 30", "\"base\": \"30\"",
+        ":14: base: invalid value \"30\" for display.night-lightbar; expected a whole number from 0 to 100");
+    row("a base out of range", "\"base\": 30", "\"base\": 101",
+        ":14: base: invalid value \"101\" for display.night-lightbar; expected a whole number from 0 to 100");
     row("a parameter twice", "  ],",
         ",{\"number\": 8953, \"name\": \"units.metric\", \"type\": \"bool\", \"value\": true}],",
         ":15: units.metric again; line 12 has it too");
