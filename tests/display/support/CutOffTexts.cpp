@@ -3,8 +3,10 @@
 #include "VisibleItems.h"
 
 #include <QCoreApplication>
+#include <QVector>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -12,21 +14,29 @@ namespace {
 const int LeastText = 24;
 const int LeastFigure = 48;
 
+/// Where the letters of a text are seen.
+struct tagSeenText
+{
+    const QQuickItem* text;
+    const QQuickItem* layer;
+    QRectF letters;
+};
+
 /// Texts of a layer that have letters on those of another one.
 void LookForOverlaps(const QList<QQuickItem*>& texts, const QString& view, QStringList* found)
 {
     const double tolerance = 2; // a line is a little higher than its letters
-    for (int first = 0; first < texts.size(); ++first) {
-        for (int second = first + 1; second < texts.size(); ++second) {
-            const QQuickItem& one = *texts.at(first);
-            const QQuickItem& other = *texts.at(second);
-            const QRectF shared = VisibleItems::Letters(one) & VisibleItems::SeenPart(one) &
-                                  VisibleItems::Letters(other) & VisibleItems::SeenPart(other);
-            if (VisibleItems::Layer(one) == VisibleItems::Layer(other) && shared.width() > tolerance &&
-                shared.height() > tolerance)
-                found->append(view + QLatin1String(": ") + VisibleItems::Describe(one) + QLatin1String(" is on ") +
-                              VisibleItems::Describe(other));
+    QVector<tagSeenText> before;
+    for (const QQuickItem* text : texts) {
+        const tagSeenText seen = {text, VisibleItems::Layer(*text),
+                                  VisibleItems::Letters(*text) & VisibleItems::SeenPart(*text)};
+        for (const tagSeenText& other : std::as_const(before)) {
+            const QRectF shared = seen.letters & other.letters;
+            if (seen.layer == other.layer && shared.width() > tolerance && shared.height() > tolerance)
+                found->append(view + QLatin1String(": ") + VisibleItems::Describe(*other.text) +
+                              QLatin1String(" is on ") + VisibleItems::Describe(*text));
         }
+        before.append(seen);
     }
 }
 
