@@ -14,7 +14,9 @@
 
 #include <QFile>
 
-#include <cstdio>
+#include <unistd.h>
+
+#include <vector>
 
 namespace {
 
@@ -45,7 +47,9 @@ std::optional<tagColumn> ReadColumn(const QString& text)
     return number > 0 ? std::optional<tagColumn>({QString(), number - 1}) : std::nullopt;
 }
 
-const qint64 LongestLine = qint64{1024} * 1024;
+const int LongestLine = 1024 * 1024;
+
+QString CannotRead(const QFile& input) { return QLatin1String("cannot read standard input: ") + input.errorString(); }
 
 /// Converts one column of standard input to standard output, a line at a time.
 class TCsvConverter
@@ -57,13 +61,19 @@ public:
 
     int Run()
     {
+        // By its descriptor: Qt reads a stream of the C library as texts that end at the first zero.
         QFile input;
-        if (!input.open(stdin, QIODevice::ReadOnly))
-            return Fail(QLatin1String("cannot read standard input"));
+        if (!input.open(STDIN_FILENO, QIODevice::ReadOnly))
+            return Fail(CannotRead(input));
+        // Kept for all lines: memory of this size is asked of the system and given back each time.
+        std::vector<char> buffer(LongestLine + 1);
         while (!OutputFailed()) {
-            const QByteArray line = input.readLine(LongestLine);
-            if (line.isEmpty())
+            const qint64 length = input.readLine(buffer.data(), LongestLine + 1);
+            if (input.error() != QFileDevice::NoError)
+                return Fail(CannotRead(input));
+            if (length <= 0)
                 break;
+            const QByteArray line(buffer.data(), static_cast<int>(length));
             ++m_LineNumber;
             if (line.size() == LongestLine && !line.endsWith('\n'))
                 return Fail(QString::fromLatin1("line %1 has 1 MiB or more").arg(m_LineNumber));

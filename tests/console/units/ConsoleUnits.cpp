@@ -9,6 +9,8 @@
 #include <QJsonObject>
 #include <QtTest>
 
+#include <sys/resource.h>
+
 class ConsoleUnits : public QObject
 {
     Q_OBJECT
@@ -33,6 +35,9 @@ private slots:
     void jsonHoldsTheSame();
     void aColumnIsConverted_data();
     void aColumnIsConverted();
+    void everyByteOfATableIsKept_data();
+    void everyByteOfATableIsKept();
+    void aTableThatCannotBeReadIsSaid();
     void aMillionRowsTakeNoMoreMemory();
     void wrongUsageSaysWhatIsAccepted_data();
     void wrongUsageSaysWhatIsAccepted();
@@ -443,6 +448,39 @@ void ConsoleUnits::aColumnIsConverted()
     QCOMPARE(result.status, errors.isEmpty() ? 0 : 1);
 }
 
+void ConsoleUnits::everyByteOfATableIsKept_data()
+{
+    QTest::addColumn<QByteArray>("field");
+    QTest::newRow("zeros") << QByteArray("a\0b\0", 4);
+    QTest::newRow("a text in Latin-1") << QByteArray("K\xFChn");
+    QTest::newRow("a long line") << QByteArray(1000000, 'x');
+}
+
+void ConsoleUnits::everyByteOfATableIsKept()
+{
+    QFETCH(QByteArray, field);
+    QProcess process;
+    process.start(QLatin1String(CABSETTINGS_PROGRAM), Words("--data")
+                                                          << m_Console.DataFolder() << Words("convert --csv 2 m km"));
+    process.write(field + ",1500\n" + field + ",3\n");
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished(-1)); // ctest ends a test that hangs
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 0);
+    // Compared without QCOMPARE, which would print a long line twice.
+    QVERIFY(process.readAllStandardOutput() == field + ",1.5\n" + field + ",0.003\n");
+}
+
+void ConsoleUnits::aTableThatCannotBeReadIsSaid()
+{
+    QProcess process;
+    process.start(QLatin1String("sh"), {QLatin1String("-c"), QLatin1String("exec \"$0\" convert --csv 1 m km </"),
+                                        QLatin1String(CABSETTINGS_PROGRAM)});
+    QVERIFY(process.waitForFinished(-1));
+    QCOMPARE(process.readAllStandardError(), QByteArray("cabsettings: cannot read standard input: Is a directory\n"));
+    QCOMPARE(process.exitCode(), 1);
+}
+
 void ConsoleUnits::aMillionRowsTakeNoMoreMemory()
 {
     const QString path = m_Console.Path("million.csv");
@@ -456,6 +494,8 @@ void ConsoleUnits::aMillionRowsTakeNoMoreMemory()
     QProcess process;
     process.setStandardInputFile(path);
     process.setStandardOutputFile(m_Console.Path("converted.csv"));
+    struct rusage before = {};
+    getrusage(RUSAGE_CHILDREN, &before);
     process.start(QLatin1String("sh"),
                   {QLatin1String("-c"), QLatin1String("ulimit -d 65536; exec \"$@\""), QLatin1String("sh"),
                    QLatin1String(CABSETTINGS_PROGRAM), QLatin1String("--data"), m_Console.DataFolder(),
@@ -466,6 +506,11 @@ void ConsoleUnits::aMillionRowsTakeNoMoreMemory()
     if (errors.contains("Sanitizer failed to allocate"))
         QSKIP("a sanitizer needs more than that for itself");
     QVERIFY2(process.exitCode() == 0, errors.constData());
+    // Nor does a row ask the system for memory of its own, which takes longer than to convert it.
+    struct rusage after = {};
+    getrusage(RUSAGE_CHILDREN, &after);
+    const long pages = after.ru_minflt - before.ru_minflt;
+    QVERIFY2(pages < 100000, QByteArray::number(static_cast<qlonglong>(pages)).constData());
     QFile converted(m_Console.Path("converted.csv"));
     QVERIFY(converted.open(QIODevice::ReadOnly));
     const QByteArray result = converted.readAll();
