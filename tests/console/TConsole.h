@@ -30,6 +30,14 @@ public:
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
+    /// For sh: the program with room for 64 MiB of data, and its arguments behind it.
+    static QStringList WithLittleMemory(const QStringList& arguments)
+    {
+        return QStringList{QLatin1String("-c"), QLatin1String("ulimit -d 65536; exec \"$@\""), QLatin1String("sh"),
+                           QLatin1String(CABSETTINGS_PROGRAM)} +
+               arguments;
+    }
+
     QString DataFolder() const { return m_Folder.filePath(QLatin1String("terminal")); }
     QString Path(const char* name) const { return m_Folder.filePath(QLatin1String(name)); }
 

@@ -24,6 +24,20 @@ const int BytesInRow = 16;
 const int FirstOfText = 0x20; ///< printable characters of ASCII
 const int LastOfText = 0x7E;
 
+/// The bytes of a file or of a pipe; more than LargestFile when it has more. One read of that size would ask for as
+/// much memory, however little there is to read.
+QByteArray ReadAll(QFile& file)
+{
+    const qint64 pieceBytes = 0x10000;
+    QByteArray bytes;
+    for (QByteArray piece = file.read(pieceBytes); !piece.isEmpty(); piece = file.read(pieceBytes)) {
+        bytes += piece;
+        if (bytes.size() > LargestFile)
+            break;
+    }
+    return bytes;
+}
+
 QString InHex(int offset) { return QString::fromLatin1("%1").arg(offset, 8, 16, QLatin1Char('0')); }
 
 /// The printable bytes as text, a full stop for each other byte.
@@ -138,7 +152,7 @@ int RunDump(const tagContext&, const QStringList& arguments)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return Fail(QString::fromLatin1("cannot read \"%1\": %2").arg(path, file.errorString()));
-    const QByteArray bytes = file.read(LargestFile + 1);
+    const QByteArray bytes = ReadAll(file);
     if (file.error() != QFileDevice::NoError)
         return Fail(QString::fromLatin1("cannot read \"%1\": %2").arg(path, file.errorString()));
     if (bytes.size() > LargestFile)

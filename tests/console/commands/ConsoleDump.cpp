@@ -18,6 +18,7 @@ private slots:
     void whatDoesNotFitIsSaid();
     void jsonHoldsTheSame();
     void filesThatCannotBeReadAreNamed();
+    void aSmallFileTakesLittleMemory();
     void wrongUsageSaysWhatIsAccepted_data();
     void wrongUsageSaysWhatIsAccepted();
 
@@ -220,6 +221,18 @@ void ConsoleDump::filesThatCannotBeReadAreNamed()
     const auto folder = m_Console.Run({QLatin1String("dump"), m_Console.Path(".")});
     QCOMPARE(folder.status, 1);
     QVERIFY2(folder.errors.contains(QLatin1String("cannot read ")), qPrintable(folder.errors));
+}
+
+void ConsoleDump::aSmallFileTakesLittleMemory()
+{
+    QProcess process;
+    process.start(QLatin1String("sh"), TConsole::WithLittleMemory({QLatin1String("dump"), Write(Bytes(OneBlock))}));
+    QVERIFY(process.waitForFinished(-1)); // ctest ends a test that hangs
+    const QByteArray errors = process.readAllStandardError();
+    if (errors.contains("Sanitizer failed to allocate"))
+        QSKIP("a sanitizer needs more than that for itself");
+    QCOMPARE(errors, QByteArray());
+    QCOMPARE(process.exitCode(), 0);
 }
 
 void ConsoleDump::wrongUsageSaysWhatIsAccepted_data()

@@ -496,11 +496,7 @@ void ConsoleUnits::aMillionRowsTakeNoMoreMemory()
     process.setStandardOutputFile(m_Console.Path("converted.csv"));
     struct rusage before = {};
     getrusage(RUSAGE_CHILDREN, &before);
-    process.start(QLatin1String("sh"),
-                  {QLatin1String("-c"), QLatin1String("ulimit -d 65536; exec \"$@\""), QLatin1String("sh"),
-                   QLatin1String(CABSETTINGS_PROGRAM), QLatin1String("--data"), m_Console.DataFolder(),
-                   QLatin1String("convert"), QLatin1String("--csv"), QLatin1String("1"), QLatin1String("m"),
-                   QLatin1String("km")});
+    process.start(QLatin1String("sh"), TConsole::WithLittleMemory(Words("convert --csv 1 m km")));
     QVERIFY(process.waitForFinished(-1)); // ctest ends a test that hangs
     const QByteArray errors = process.readAllStandardError();
     if (errors.contains("Sanitizer failed to allocate"))
