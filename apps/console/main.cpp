@@ -3,6 +3,7 @@
 #include "console/line/Output.h"
 
 #include "platform/FileMask.h"
+#include "platform/StandardHandles.h"
 #include "stores/TChangeAuthor.h"
 
 #include <QCoreApplication>
@@ -79,6 +80,7 @@ int Run(QStringList arguments)
 
 int main(int argc, char* argv[])
 {
+    ReserveStandardHandles();
     DenyWritingByOthers();
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // Names of farms and fields are UTF-8 on the drives, whatever locale the program is started in.

@@ -10,6 +10,7 @@
 #include "module/CabQuick.h"
 #include "parameters/ParameterRows.h"
 #include "platform/FileMask.h"
+#include "platform/StandardHandles.h"
 #include "receiver/TReceiver.h"
 #include "stores/TSqliteStore.h"
 
@@ -114,6 +115,7 @@ int Measure(const tagDisplayOptions& options)
 
 int main(int argc, char* argv[])
 {
+    ReserveStandardHandles();
     DenyWritingByOthers();
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // Names of farms and fields are UTF-8 on the drives, whatever locale the program is started in.

@@ -15,6 +15,8 @@ private slots:
     void everyCommandHasHelp();
     void versionIsPrinted();
     void outputThatCannotBeWrittenIsAFailure();
+    void noFileGetsTheNumberOfAClosedHandle_data();
+    void noFileGetsTheNumberOfAClosedHandle();
 
 private:
     TConsole m_Console;
@@ -170,6 +172,26 @@ void ConsoleUsage::outputThatCannotBeWrittenIsAFailure()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 1);
     QVERIFY(process.readAllStandardError().contains("standard output"));
+}
+
+void ConsoleUsage::noFileGetsTheNumberOfAClosedHandle_data()
+{
+    QTest::addColumn<QString>("closing");
+    QTest::addColumn<QString>("handle");
+    QTest::newRow("input") << QStringLiteral("<&-") << QStringLiteral("/proc/self/fd/0");
+    QTest::newRow("output") << QStringLiteral(">&-") << QStringLiteral("/proc/self/fd/1");
+}
+
+void ConsoleUsage::noFileGetsTheNumberOfAClosedHandle()
+{
+    QFETCH(QString, closing);
+    QFETCH(QString, handle);
+    QProcess process;
+    process.start(QLatin1String("sh"), {QLatin1String("-c"), QStringLiteral("exec \"$0\" dump \"$1\" ") + closing,
+                                        QLatin1String(CABSETTINGS_PROGRAM), handle});
+    QVERIFY(process.waitForFinished());
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(errors.contains("the file is empty"), errors.constData()); // it is /dev/null
 }
 
 QTEST_GUILESS_MAIN(ConsoleUsage)
