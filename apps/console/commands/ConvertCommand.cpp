@@ -5,18 +5,13 @@
 #include "console/line/Messages.h"
 #include "console/line/Number.h"
 #include "console/line/Output.h"
+#include "console/line/TInputLines.h"
 #include "console/units/Conversion.h"
 #include "console/units/CsvColumn.h"
 #include "console/units/UnitArguments.h"
 #include "console/units/UnitNames.h"
 
 #include "parameters/ParameterText.h"
-
-#include <QFile>
-
-#include <unistd.h>
-
-#include <vector>
 
 namespace {
 
@@ -47,10 +42,6 @@ std::optional<tagColumn> ReadColumn(const QString& text)
     return number > 0 ? std::optional<tagColumn>({QString(), number - 1}) : std::nullopt;
 }
 
-const int LongestLine = 1024 * 1024;
-
-QString CannotRead(const QFile& input) { return QLatin1String("cannot read standard input: ") + input.errorString(); }
-
 /// Converts one column of standard input to standard output, a line at a time.
 class TCsvConverter
 {
@@ -61,21 +52,15 @@ public:
 
     int Run()
     {
-        // By its descriptor: Qt reads a stream of the C library as texts that end at the first zero.
-        QFile input;
-        if (!input.open(STDIN_FILENO, QIODevice::ReadOnly))
-            return Fail(CannotRead(input));
-        // Kept for all lines: memory of this size is asked of the system and given back each time.
-        std::vector<char> buffer(LongestLine + 1);
+        TInputLines lines;
         while (!OutputFailed()) {
-            const qint64 length = input.readLine(buffer.data(), LongestLine + 1);
-            if (input.error() != QFileDevice::NoError)
-                return Fail(CannotRead(input));
-            if (length <= 0)
+            const QByteArray line = lines.Next();
+            if (!lines.Error().isEmpty())
+                return Fail(QLatin1String("cannot read standard input: ") + lines.Error());
+            if (line.isEmpty())
                 break;
-            const QByteArray line(buffer.data(), static_cast<int>(length));
             ++m_LineNumber;
-            if (line.size() == LongestLine && !line.endsWith('\n'))
+            if (line.size() == TInputLines::LongestLine && !line.endsWith('\n'))
                 return Fail(QString::fromLatin1("line %1 has 1 MiB or more").arg(m_LineNumber));
             if (m_Column.index >= 0)
                 PrintBytes(Converted(line));

@@ -37,6 +37,7 @@ private slots:
     void aColumnIsConverted();
     void everyByteOfATableIsKept_data();
     void everyByteOfATableIsKept();
+    void aTableThatCannotBeReadIsSaid_data();
     void aTableThatCannotBeReadIsSaid();
     void aMillionRowsTakeNoMoreMemory();
     void wrongUsageSaysWhatIsAccepted_data();
@@ -432,6 +433,7 @@ void ConsoleUnits::aColumnIsConverted_data()
         "cabsettings: 1 of 1 lines were kept unchanged\n");
     row("unknown column", "speed", "id,distance\n1,2\n", "",
         "cabsettings: line 1: unknown column \"speed\"; expected id or distance\n");
+    row("too long a line", "1", QByteArray(1024 * 1024, '1'), "", "cabsettings: line 1 has 1 MiB or more\n");
     row("nothing, by name", "d", "", "", "cabsettings: cannot find column \"d\": the input is empty\n");
     row("nothing, by number", "1", "", "", "");
 }
@@ -453,7 +455,7 @@ void ConsoleUnits::everyByteOfATableIsKept_data()
     QTest::addColumn<QByteArray>("field");
     QTest::newRow("zeros") << QByteArray("a\0b\0", 4);
     QTest::newRow("a text in Latin-1") << QByteArray("K\xFChn");
-    QTest::newRow("a long line") << QByteArray(1000000, 'x');
+    QTest::newRow("the longest line") << QByteArray(1024 * 1024 - static_cast<int>(strlen(",1500\n")), 'x');
 }
 
 void ConsoleUnits::everyByteOfATableIsKept()
@@ -471,13 +473,23 @@ void ConsoleUnits::everyByteOfATableIsKept()
     QVERIFY(process.readAllStandardOutput() == field + ",1.5\n" + field + ",0.003\n");
 }
 
+void ConsoleUnits::aTableThatCannotBeReadIsSaid_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QByteArray>("reason");
+    QTest::newRow("a folder") << QStringLiteral("</") << QByteArray("Is a directory");
+    QTest::newRow("closed") << QStringLiteral("<&-") << QByteArray("Bad file descriptor");
+}
+
 void ConsoleUnits::aTableThatCannotBeReadIsSaid()
 {
+    QFETCH(QString, input);
+    QFETCH(QByteArray, reason);
     QProcess process;
-    process.start(QLatin1String("sh"), {QLatin1String("-c"), QLatin1String("exec \"$0\" convert --csv 1 m km </"),
+    process.start(QLatin1String("sh"), {QLatin1String("-c"), QLatin1String("exec \"$0\" convert --csv 1 m km ") + input,
                                         QLatin1String(CABSETTINGS_PROGRAM)});
     QVERIFY(process.waitForFinished(-1));
-    QCOMPARE(process.readAllStandardError(), QByteArray("cabsettings: cannot read standard input: Is a directory\n"));
+    QCOMPARE(process.readAllStandardError(), "cabsettings: cannot read standard input: " + reason + '\n');
     QCOMPARE(process.exitCode(), 1);
 }
 
