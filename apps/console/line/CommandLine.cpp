@@ -52,7 +52,10 @@ bool TCommandLine::IsSet(const QString& option) const { return m_Given.contains(
 QString TCommandLine::Value(const QString& option) const
 {
     const QStringList values = Values(option);
-    return values.isEmpty() ? m_Usage.Find(Dashed(option))->defaultValue : values.last();
+    if (!values.isEmpty())
+        return values.last();
+    const tagOption* const added = m_Usage.Find(Dashed(option));
+    return added ? added->defaultValue : QString();
 }
 
 QStringList TCommandLine::Values(const QString& option) const { return m_Given.value(Dashed(option)); }

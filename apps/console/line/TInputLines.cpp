@@ -16,7 +16,7 @@ QByteArray TInputLines::Next()
         end = m_Bytes.indexOf('\n', searched);
     }
     const int length = static_cast<int>(end < 0 ? m_Bytes.size() : end + 1) - m_Begin;
-    const QByteArray line = m_Bytes.mid(m_Begin, std::min(length, int{LongestLine}));
+    QByteArray line = m_Bytes.mid(m_Begin, std::min(length, int{LongestLine}));
     m_Begin += static_cast<int>(line.size());
     return line;
 }
