@@ -165,7 +165,8 @@ void StoreHasSeveralUsers::programsThatStartAtOnceFindOneFile()
         QCOMPARE(child->NextNumber(), 1);
     children.clear();
     QVERIFY(!QFile::exists(m_Path + SecondAside));
-    QCOMPARE(standardError.Lines().size(), 2);
+    const QStringList lines = standardError.Lines();
+    QVERIFY2(lines.size() == 2, qPrintable(lines.join(QLatin1Char('\n'))));
     QCOMPARE(StoredValues(m_Path), (QMap<int, QVariant>{{PARAM_METRIC, true}}));
 }
 
